@@ -1,0 +1,105 @@
+#include "app/horvanta.h"
+
+#include <ranges>
+
+#include "app/jumps.h"
+#include "app/stored_settings.h"
+#include "app/update_cycle.h"
+#include "core/desktop.h"
+#include "core/moment.h"
+
+namespace horvanta {
+
+Horvanta::Horvanta() {
+    BusyCount = 0;
+    UpdateDepth = 0;
+    Quitting = false;
+    UpdatePass = [this] { RunUpdatePass(*this); };
+    HangHandlers();
+}
+
+Horvanta::~Horvanta() { UpdatePass = nullptr; }
+
+void Horvanta::HangHandlers() {
+    frame.Close = [this] { MenuExit_Click(); };
+    frame.SaveThisMoment.Click = SaveThisMoment_Click;
+    frame.JumpToSaved.Click = JumpToSaved_Click;
+    frame.MenuJumpToToday.Click = MenuJumpToToday_Click;
+    frame.MenuExit.Click = [this] { MenuExit_Click(); };
+    frame.QuitWithoutSavePrefs.Click = [this] { QuitWithoutSavePrefs_Click(); };
+    frame.ResetPrefsAndQuit.Click = [this] { ResetPrefsAndQuit_Click(); };
+    frame.ResetColorsAndQuit.Click = [this] { ResetColorsAndQuit_Click(); };
+    frame.AlwaysToday.Shows(AlwaysToday);
+    frame.AlwaysToday.Click = [] { AlwaysToday = !AlwaysToday; };
+    frame.GregCal.Shows(gregorian.form.visible);
+    frame.GregCal.Click = [this] { GregCal_Click(); };
+    gregorian.form.Close = frame.GregCal.Click;
+}
+
+void Horvanta::Start() {
+    {
+        const BusyHold hold;
+        MarkLaunch();
+        LoadWindows();
+        ChooseMoment();
+    }
+    UpdateStatus();
+    timeAstro.TakeFocus();
+    SavePref("Prog", "Launch", "OK");
+    CurrentDesktop->Settings().Flush();
+}
+
+void Horvanta::MarkLaunch() {
+    if (GetTextPref(ProgramSettings, "Prog", "Launch", "OK").empty()) DeleteAllPrefs();
+    SavePref("Prog", "Launch", "");
+    CurrentDesktop->Settings().Flush();
+}
+
+void Horvanta::LoadWindows() {
+    LoadFramePrefs(frame);
+    CurrentDesktop->LoadFrame(frame);
+    SetFixedDayEpoch(GregorianEpoch, 1, "rata die");
+    for (Form* form : forms) CurrentDesktop->LoadForm(*form);
+    timeAstro.form.visible = true;
+    LoadPrefs(*this);
+    CurrentDesktop->LetEventsRun();
+}
+
+void Horvanta::ChooseMoment() {
+    const bool firstRun = DisplayedMoment == 0;
+    if (AlwaysToday || firstRun) MenuJumpToToday_Click();
+    if (firstRun) SaveThisMoment_Click();
+    timeAstro.StepMenu_Click(firstRun ? 1 : StepIndex);
+}
+
+void Horvanta::Form_Unload() {
+    SavePrefs(*this);
+    Quitting = true;
+    for (Form* form : forms | std::views::reverse) form->visible = false;
+}
+
+void Horvanta::MenuExit_Click() {
+    Form_Unload();
+    CurrentDesktop->End();
+}
+
+void Horvanta::QuitWithoutSavePrefs_Click() { CurrentDesktop->End(); }
+
+void Horvanta::ResetPrefsAndQuit_Click() {
+    DeleteAllPrefs();
+    CurrentDesktop->Settings().Flush();
+    CurrentDesktop->End();
+}
+
+void Horvanta::ResetColorsAndQuit_Click() {
+    Form_Unload();
+    DeleteColorPrefs();
+    CurrentDesktop->End();
+}
+
+void Horvanta::GregCal_Click() {
+    gregorian.form.visible = !gregorian.form.visible;
+    UpdateStatus();
+}
+
+}  // namespace horvanta

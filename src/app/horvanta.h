@@ -1,0 +1,47 @@
+#pragma once
+
+#include "app/time_astro.h"
+#include "calendars/gregorian_window.h"
+#include "core/shell.h"
+
+namespace horvanta {
+
+/// The program: the frame, its windows, and how they start and end. One lives at a time, on `CurrentDesktop`.
+class Horvanta {
+  public:
+    Horvanta();
+    ~Horvanta();
+    Horvanta(const Horvanta&) = delete;
+    Horvanta& operator=(const Horvanta&) = delete;
+
+    /// Loads the windows and the settings and draws for the first time. While it runs the settings bear the mark of a
+    /// start that did not finish; where the last start left that mark, all settings but the user's own places go.
+    void Start();
+
+    /// Saves the settings and closes the windows.
+    void Form_Unload();
+
+    // The ways to end.
+    void MenuExit_Click();
+    void QuitWithoutSavePrefs_Click();
+    void ResetPrefsAndQuit_Click();
+    void ResetColorsAndQuit_Click();
+
+    /// Shows the Gregorian window, or hides it.
+    void GregCal_Click();
+
+    HorvantaMDI frame;
+    TimeAstro timeAstro{frame};
+    GregorianWindow gregorian{frame};
+
+    /// In the order in which they are loaded.
+    Form* const forms[2] = {&timeAstro.form, &gregorian.form};
+
+  private:
+    void HangHandlers();
+    void MarkLaunch();
+    void LoadWindows();
+    void ChooseMoment();
+};
+
+}  // namespace horvanta

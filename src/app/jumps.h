@@ -1,0 +1,12 @@
+#pragma once
+
+/// The commands that move the displayed moment to another one that is known.
+namespace horvanta {
+
+/// The computer's date, at midnight.
+void MenuJumpToToday_Click();
+
+void SaveThisMoment_Click();
+void JumpToSaved_Click();
+
+}  // namespace horvanta

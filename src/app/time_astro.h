@@ -1,0 +1,77 @@
+#pragma once
+
+#include <cstdint>
+
+#include "core/controls.h"
+#include "core/shell.h"
+
+namespace horvanta {
+
+/// The window that owns the displayed moment: its day number and time, the steps and the clipboard line.
+class TimeAstro {
+  public:
+    explicit TimeAstro(HorvantaMDI& frame);
+
+    /// Shows the displayed moment and its distance from the saved one.
+    void ShowMoment();
+
+    /// Moves the moment by so many steps of `Increment` days and updates. With `snap`, whole steps end at midnight.
+    void JumpDate(double steps, bool snap);
+
+    /// `JumpDate` by steps of `size` days, to midnight.
+    void DayUpDown(double steps, double size);
+
+    void NextUp_Click();
+    void NextDown_Click();
+    void JumpToFuture_Click();
+    void JumpToPast_Click();
+
+    /// Obeys a key of the time window, by its code and the bits of `KeyShift`; false if it has no meaning here.
+    bool Form_KeyDown(int code, int shift);
+
+    /// Chooses an item of the step menu, 1 or above; one that is not there acts as the first.
+    void StepMenu_Click(std::int32_t index);
+
+    /// Makes `size` days the step, with the words of that item of the step menu.
+    void SetIncrement(std::int32_t index, double size);
+
+    /// Moves the focus to the day number, whose window then gets the keys.
+    void TakeFocus();
+
+    /// Tells which day the day numbers count from.
+    void SetFixedDayNumberToolTip();
+
+    void ClipBoardStatus_Click();
+    void PickBackgroundColor();
+    void PickForegroundColor();
+    void SetColor(Color color, bool isBackground);
+
+    // clang-format off
+    Form form{"TimeAstro", "Time"};
+    TextField FixedDayNum{form, "FixedDayNum", Widest("-2533803.123456789")};
+    Label FixedDayNumLabel{form, "FixedDayNumLabel", Caption("Fixed Day Number")};
+    Label UT{form, "UT", Caption("Univ Time")};
+    Label TimeOfDay{form, "TimeOfDay", Tip("Universal Time (UT) at displayed day fraction"), Widest("00:00:00")};
+    Label SavedDiffBox{form, "SavedDiffBox", Tip("Days between the displayed and the saved date"), Widest("6916348.123")};
+    Label SavedToFrom{form, "SavedToFrom", Widest("days before saved date.")};
+    Button JumpToPast{form, "JumpToPast", Caption("<<<")};
+    Button NextDown{form, "NextDown", Caption("<<")};
+    Button DayDown{form, "DayDown", Caption("<"), Tip("Back a day (Shift+Space)")};
+    Button DayUp{form, "DayUp", Caption(">"), Tip("Forward a day (Space)")};
+    Button NextUp{form, "NextUp", Caption(">>")};
+    Button JumpToFuture{form, "JumpToFuture", Caption(">>>")};
+    Label IncrementDisplay{form, "IncrementDisplay", Tip("Increment"), Widest("Step by Orbital Centuries")};
+    Label ClipboardLabel{form, "ClipboardLabel", Caption("Clipboard:")};
+    Label ClipBoardStatus{form, "ClipBoardStatus", Tip("Click to clear the clipboard")};
+    // clang-format on
+
+  private:
+    void FixedDayNum_LostFocus();
+    void SetStepCaptions(std::int32_t index);
+    void PickColor(bool isBackground);
+
+    HorvantaMDI& frame_;
+    std::int64_t tooltipNumbering_ = -1;  ///< The numbering that the day number's tooltip tells.
+};
+
+}  // namespace horvanta

@@ -1,0 +1,72 @@
+#include "core/controls.h"
+
+#include <algorithm>
+
+#include "core/text.h"
+
+namespace horvanta {
+namespace {
+
+std::uint8_t ShadeChannel(std::uint8_t channel, int strength) {
+    const int moved = channel < 128 ? channel + strength : channel - strength;
+    return static_cast<std::uint8_t>(std::clamp(moved, 0, 255));
+}
+
+bool hasWords(std::string_view text) {
+    return std::any_of(text.begin(), text.end(), [](unsigned char c) {
+        return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || (c >= '0' && c <= '9') || c >= 0x80;
+    });
+}
+
+}  // namespace
+
+Color Shade(Color color, int strength) {
+    return {ShadeChannel(color.red, strength), ShadeChannel(color.green, strength),
+            ShadeChannel(color.blue, strength)};
+}
+
+void Control::JoinForm() { form.controls.push_back(this); }
+
+void Control::TakeFocus() { form.focusWish = this; }
+
+std::string AccessibleName(const Control& control) {
+    const std::string words = hasWords(control.text) ? RemoveAmpersands(control.text) : "";
+    if (control.tooltip.empty()) return words.empty() ? control.name : words;
+    const bool showsValue = dynamic_cast<const Label*>(&control) && !words.empty();
+    if (showsValue) return control.tooltip + ": " + words;
+    const bool captioned = dynamic_cast<const Button*>(&control) && !words.empty();
+    return captioned ? words : control.tooltip;
+}
+
+Control* Form::Find(std::string_view controlName) const {
+    const auto found =
+        std::find_if(controls.begin(), controls.end(), [&](const Control* c) { return c->name == controlName; });
+    return found == controls.end() ? nullptr : *found;
+}
+
+MenuItem::MenuItem(MenuItem& parent, std::string_view itemName, std::string_view itemCaption)
+    : name(itemName), caption(itemCaption) {
+    parent.items.push_back(this);
+}
+
+void MenuItem::Shows(const bool& option) {
+    ticked_ = [&option] { return option; };
+}
+
+void MenuItem::Shows(const std::int32_t& option, std::int32_t value) {
+    ticked_ = [&option, value] { return option == value; };
+}
+
+bool MenuItem::isShown() const {
+    return Click || std::any_of(items.begin(), items.end(), [](const MenuItem* item) { return item->isShown(); });
+}
+
+MenuItem* MenuItem::Find(std::string_view itemName) {
+    if (name == itemName) return this;
+    for (MenuItem* item : items) {
+        if (MenuItem* found = item->Find(itemName)) return found;
+    }
+    return nullptr;
+}
+
+}  // namespace horvanta

@@ -1,0 +1,209 @@
+#pragma once
+
+#include <cstdint>
+#include <functional>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+/// What windows and menus show, as plain data, and the callbacks that a user's act on them fires.
+///
+/// Writing a control is silent; it shows when the desktop draws next. Only a user's act fires a callback.
+namespace horvanta {
+
+struct Color {
+    std::uint8_t red = 0;
+    std::uint8_t green = 0;
+    std::uint8_t blue = 0;
+
+    /// From and to the number that settings hold: blue in the high byte of three, red in the low one.
+    static constexpr Color FromNumber(std::int32_t number) {
+        return {static_cast<std::uint8_t>(number), static_cast<std::uint8_t>(number >> 8),
+                static_cast<std::uint8_t>(number >> 16)};
+    }
+    constexpr std::int32_t Number() const { return blue << 16 | green << 8 | red; }
+
+    bool operator==(const Color&) const = default;
+};
+
+/// The colour with each channel moved by `strength`, away from the nearer of its two ends.
+Color Shade(Color color, int strength);
+
+/// Text and background, which are only ever set together.
+struct ColorPair {
+    Color background;
+    Color foreground;
+
+    /// The one of the two that `isBackground` names.
+    Color& Part(bool isBackground) { return isBackground ? background : foreground; }
+
+    bool operator==(const ColorPair&) const = default;
+};
+
+class Form;
+
+/// Anything on a form. It registers with its form when it is constructed and stays where it is.
+class Control {
+  public:
+    /// With any of `Caption`, `Tip` and `Widest`.
+    template <class... Properties>
+    Control(Form& owner, std::string_view controlName, const Properties&... properties)
+        : form(owner), name(controlName) {
+        (properties.GiveTo(*this), ...);
+        JoinForm();
+    }
+    virtual ~Control() = default;
+    Control(const Control&) = delete;
+    Control& operator=(const Control&) = delete;
+
+    /// Wishes that this control have the focus once the form is drawn.
+    void TakeFocus();
+
+    Form& form;
+    const std::string name;
+    std::string text;  ///< What it shows; a caption marks its access key with "&".
+    std::string tooltip;
+    std::string widest;  ///< The widest text it may come to show, for which room is kept.
+    bool visible = true;
+    bool enabled = true;
+    std::optional<ColorPair> colors;  ///< None follows the desktop's palette.
+
+    std::function<void()> Click;
+    std::function<void()> DblClick;
+    std::function<void()> RightClick;
+
+  private:
+    void JoinForm();
+};
+
+// What a control may be constructed with.
+struct Caption {
+    std::string text;
+    void GiveTo(Control& control) const { control.text = text; }
+};
+struct Tip {
+    std::string text;
+    void GiveTo(Control& control) const { control.tooltip = text; }
+};
+struct Widest {
+    std::string text;
+    void GiveTo(Control& control) const { control.widest = text; }
+};
+
+class Label final : public Control {
+  public:
+    using Control::Control;
+};
+
+class Button final : public Control {
+  public:
+    using Control::Control;
+};
+
+/// One line of text that the user edits; what is typed stands in `text` at once.
+class TextField final : public Control {
+  public:
+    using Control::Control;
+
+    std::function<void()> LostFocus;  ///< The user left the field or pressed Enter in it.
+};
+
+/// A list of texts of which one is selected, or none (-1).
+class ChoiceList final : public Control {
+  public:
+    using Control::Control;
+
+    std::vector<std::string> items;
+    int selected = -1;
+};
+
+/// What a screen reader calls a control: its caption where that has words, and its tooltip, with the value behind it.
+std::string AccessibleName(const Control& control);
+
+/// Where a window stands in the frame and how large it is, in twips, 15 to a pixel.
+struct Place {
+    double left = 0;
+    double top = 0;
+    double width = 0;
+    double height = 0;
+};
+
+inline constexpr double TwipsPerPixel = 15;
+
+/// A window of the frame.
+class Form {
+  public:
+    Form(std::string_view formName, std::string_view caption) : name(formName), text(caption) {}
+    Form(const Form&) = delete;
+    Form& operator=(const Form&) = delete;
+
+    /// The control of that name; null if there is none.
+    Control* Find(std::string_view controlName) const;
+
+    const std::string name;
+    std::string text;  ///< The caption.
+    bool visible = false;
+    Place place;                        ///< The desktop reports the size, and where the user moved the window.
+    std::vector<Control*> controls;     ///< In the order of their construction.
+    Control* focusWish = nullptr;       ///< Gets the focus, and its form is raised, when the desktop draws next.
+
+    /// Asked before the focused control; true if the key has been used up. `shift` holds the bits of `KeyShift`.
+    std::function<bool(int code, int shift)> KeyDown;
+
+    /// The user closed the window. A form without it can't be closed.
+    std::function<void()> Close;
+};
+
+/// The bits of a key's modifiers.
+enum KeyShift { ShiftKey = 1, ControlKey = 2, AltKey = 4 };
+
+/// The codes of the keys that windows know.
+enum KeyCode {
+    KeyBackspace = 8,
+    KeyEnter = 13,
+    KeyShiftItself = 16,
+    KeyPause = 19,
+    KeyEscape = 27,
+    KeySpace = 32,
+    KeyPageUp = 33,
+    KeyPageDown = 34,
+    KeyEnd = 35,
+    KeyHome = 36,
+    KeyLeft = 37,
+    KeyUp = 38,
+    KeyRight = 39,
+    KeyDown = 40,
+    KeyNumericPlus = 107,
+    KeyNumericMinus = 109,
+};
+
+/// An item of a menu, or a whole menu under its parent. It is shown if it has a handler or holds an item that is.
+class MenuItem {
+  public:
+    MenuItem() = default;  ///< The menu bar itself.
+    MenuItem(MenuItem& parent, std::string_view name, std::string_view caption);
+    MenuItem(const MenuItem&) = delete;
+    MenuItem& operator=(const MenuItem&) = delete;
+
+    /// Ticks the item whenever the option holds true, or holds the value.
+    void Shows(const bool& option);
+    void Shows(const std::int32_t& option, std::int32_t value);
+
+    bool isShown() const;
+    bool isTickable() const { return static_cast<bool>(ticked_); }
+    bool isTicked() const { return ticked_ && ticked_(); }
+
+    /// The item of that name in the tree below; null if there is none.
+    MenuItem* Find(std::string_view itemName);
+
+    const std::string name;
+    std::string caption;
+    std::vector<MenuItem*> items;
+    std::function<void()> Click;
+
+  private:
+    std::function<bool()> ticked_;
+};
+
+}  // namespace horvanta

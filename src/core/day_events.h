@@ -1,0 +1,30 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "core/controls.h"
+
+/// What happens on the displayed day. The list is emptied when an update pass begins; each window adds its own.
+namespace horvanta::day_events {
+
+struct Event {
+    std::string calendar;
+    std::string date;
+    std::string text;
+    std::optional<ColorPair> colors;
+};
+
+/// The day's events in the order in which they were added.
+const std::vector<Event>& List();
+
+void Clear();
+
+/// Appends the event to the running text `holidays`, joined by ", ", and to the list, in the colours of the control
+/// that shows its date. An event without a text is none. While updates are held only the running text grows: it then
+/// serves a report.
+void Add(std::string_view calendar, std::string_view date, std::string& holidays, std::string_view text,
+         const Control& control);
+
+}  // namespace horvanta::day_events

@@ -1,0 +1,53 @@
+#pragma once
+
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include "core/controls.h"
+#include "core/preferences.h"
+
+namespace horvanta {
+
+class HorvantaMDI;
+
+/// The machine's local date and time of day.
+struct LocalClock {
+    double daysSince1970 = 0;  ///< Whole days since January 1, 1970.
+    double fractionOfDay = 0;
+};
+
+/// Everything the program asks of the desktop it runs on.
+class Desktop {
+  public:
+    virtual ~Desktop() = default;
+
+    /// Makes the frame with its menu bar, or the window of a form, still hidden, and tells the form its size.
+    virtual void LoadFrame(HorvantaMDI& frame) = 0;
+    virtual void LoadForm(Form& form) = 0;
+
+    /// Draws what has changed and handles what has come in from the user since.
+    virtual void LetEventsRun() = 0;
+
+    virtual void Beep() = 0;
+
+    /// A box with a question; true for yes.
+    virtual bool AskYesNo(std::string_view question, std::string_view title) = 0;
+
+    /// The colour the user chooses, starting from the present one; nothing when cancelled.
+    virtual std::optional<Color> ChooseColor(Color present) = 0;
+
+    /// Puts a text on the clipboard; failures are ignored.
+    virtual void SetClipboard(const std::string& text) = 0;
+
+    virtual LocalClock Clock() = 0;
+    virtual SettingsStore& Settings() = 0;
+
+    /// Ends the program once the present command returns.
+    virtual void End() = 0;
+};
+
+/// The desktop the program runs on. It is set before the program starts and outlives it.
+inline Desktop* CurrentDesktop = nullptr;
+
+}  // namespace horvanta

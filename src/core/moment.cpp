@@ -1,0 +1,48 @@
+#include "core/moment.h"
+
+#include "core/desktop.h"
+
+namespace horvanta {
+namespace {
+
+/// The moment of the same date and time of day after the numbering moved by `shift`.
+Moment Renumbered(Moment x, double shift) {
+    const double timeOfDay = DayFraction(x);
+    return Round(x, 9) - timeOfDay + shift + timeOfDay;
+}
+
+}  // namespace
+
+Moment ClampToRange(Moment x) {
+    if (x >= MinFixedDay && x <= MaxFixedDay) return x;
+    CurrentDesktop->Beep();
+    return x > MaxFixedDay ? MaxFixedDay : MinFixedDay;
+}
+
+void UpdateStatus() {
+    DisplayedMoment = ClampToRange(DisplayedMoment);
+    if (BusyCount > 0) return;
+    if (++UpdateDepth > 1) return;
+    do {
+        if (UpdatePass) UpdatePass();
+    } while (--UpdateDepth > 0);
+    if (BusyCount < 0) BusyCount = 0;
+}
+
+void ChangeFixedDayEpoch(Moment day, double value, const std::string& name) {
+    const double before = GregorianEpoch;
+    SetFixedDayEpoch(day, value, name);
+    const double shift = GregorianEpoch - before;
+    DisplayedMoment = Renumbered(DisplayedMoment, shift);
+    SavedMoment = Renumbered(SavedMoment, shift);
+    UpdateStatus();
+}
+
+FixedDay Today() { return UnixEpoch + CurrentDesktop->Clock().daysSince1970; }
+
+Moment Now() {
+    const LocalClock clock = CurrentDesktop->Clock();
+    return UnixEpoch + clock.daysSince1970 + clock.fractionOfDay;
+}
+
+}  // namespace horvanta

@@ -1,0 +1,46 @@
+#pragma once
+
+#include <cstdint>
+#include <functional>
+
+#include "core/numbering.h"
+
+/// The one moment that every window shows, and the update cycle that shows it.
+namespace horvanta {
+
+inline Moment DisplayedMoment = 0;   ///< Universal Time. 0 at start means that none was ever set.
+inline Moment SavedMoment = 0;       ///< Universal Time; what Save This Moment keeps.
+inline double Increment = 1;         ///< Days to a step of the step keys.
+inline std::int32_t StepIndex = 1;   ///< Which item of the step menu is chosen, from 1.
+inline bool AlwaysToday = true;      ///< Each start shows the present day.
+inline std::int16_t BusyCount = 0;   ///< While above 0, `UpdateStatus` only clamps.
+inline std::int16_t UpdateDepth = 0; ///< How many runs of `UpdateStatus` are pending.
+inline bool Quitting = false;        ///< The windows are being closed for good.
+
+/// Recomputes every open window from `DisplayedMoment`; one pass of `UpdateStatus`. The program hangs it here.
+inline std::function<void()> UpdatePass;
+
+/// A moment that can be displayed: x itself, or with a beep the nearer end of the range (the first for NaN).
+Moment ClampToRange(Moment x);
+
+/// Clamps `DisplayedMoment` and runs a pass. A call from within a pass makes the pass run again and returns; so do
+/// not the windows, but the events let in by a long pass, ask for it.
+void UpdateStatus();
+
+/// Holds all updates while it lives.
+class BusyHold {
+  public:
+    BusyHold() { ++BusyCount; }
+    ~BusyHold() { --BusyCount; }
+    BusyHold(const BusyHold&) = delete;
+    BusyHold& operator=(const BusyHold&) = delete;
+};
+
+/// `SetFixedDayEpoch` such that the displayed and the saved moment keep their dates and times of day; then an update.
+void ChangeFixedDayEpoch(Moment day, double value, const std::string& name);
+
+/// The computer's local date, and the same with its time of day.
+FixedDay Today();
+Moment Now();
+
+}  // namespace horvanta

@@ -1,0 +1,332 @@
+#include "core/text.h"
+
+#include <algorithm>
+#include <array>
+#include <charconv>
+#include <numeric>
+#include <span>
+
+namespace horvanta {
+namespace {
+
+constexpr std::string_view whiteSpace = " \t\r\n\v\f";
+constexpr std::array<std::string_view, 3> typographicMinus{"—", "–", "−"};
+
+std::string WithDigits(double x, int significantDigits) {
+    std::array<char, 40> text;
+    const auto end = std::to_chars(text.begin(), text.end(), x, std::chars_format::general, significantDigits).ptr;
+    return {text.begin(), end};
+}
+
+/// A finite number as 15 decimal digits d with the value 0.ddd... * 10^pointAt.
+struct Decimal {
+    std::string digits;
+    int pointAt;
+};
+
+Decimal DecimalOf(double x) {
+    std::array<char, 32> text;
+    const auto end = std::to_chars(text.begin(), text.end(), std::fabs(x), std::chars_format::scientific, 14).ptr;
+    std::string digits(text.begin(), end);
+    const std::size_t exponentMark = digits.find('e');
+    const int exponent = std::stoi(digits.substr(exponentMark + 1));
+    digits.resize(exponentMark);
+    digits.erase(1, 1);
+    return {digits, exponent + 1};
+}
+
+/// The digits of the decimal down to `places` behind the point, rounded half up, as one whole number without a point.
+std::string RoundedDigits(const Decimal& decimal, int places) {
+    const int kept = decimal.pointAt + places;
+    if (kept < 0) return "0";
+    std::string digits = "0" + decimal.digits;
+    digits.resize(static_cast<std::size_t>(std::max(kept + 2, static_cast<int>(digits.size()))), '0');
+    const auto half = static_cast<std::size_t>(kept + 1);
+    const bool up = digits[half] >= '5';
+    digits.resize(half);
+    if (up) {
+        auto last = digits.rbegin();
+        while (*last == '9') *last++ = '0';
+        ++*last;
+    }
+    return digits;
+}
+
+/// A typed number with a leading typographic minus sign replaced by "-", and without a leading plus sign.
+std::string Normalised(std::string_view text) {
+    for (const std::string_view dash : typographicMinus) {
+        if (text.starts_with(dash)) return "-" + std::string(text.substr(dash.size()));
+    }
+    const bool plus = text.size() > 1 && text[0] == '+' && text[1] != '-';
+    return std::string(plus ? text.substr(1) : text);
+}
+
+struct LeadingNumber {
+    double value;
+    std::string_view rest;
+};
+
+/// Decimal digits alone make a number: "inf" and "nan" are words.
+std::optional<LeadingNumber> LeadingNumberOf(std::string_view text) {
+    const std::size_t first = text.find_first_not_of("-.");
+    if (first == std::string_view::npos || text[first] < '0' || text[first] > '9') return std::nullopt;
+    double value = 0;
+    const char* end = text.data() + text.size();
+    const auto [rest, error] = std::from_chars(text.data(), end, value);
+    if (error != std::errc()) return std::nullopt;
+    return LeadingNumber{value, {rest, static_cast<std::size_t>(end - rest)}};
+}
+
+}  // namespace
+
+std::string GeneralText(double x) { return WithDigits(x == 0 ? 0.0 : x, 15); }
+
+std::string ExactText(double x) { return WithDigits(x, 17); }
+
+std::string FormatNumber(double x, std::string_view format) {
+    const bool percent = format.ends_with('%');
+    if (percent) {
+        x *= 100;
+        format.remove_suffix(1);
+    }
+    if (!std::isfinite(x)) return GeneralText(x);
+    const std::size_t point = std::min(format.find('.'), format.size());
+    const std::size_t places = format.size() - std::min(point + 1, format.size());
+
+    std::string digits = RoundedDigits(DecimalOf(x), static_cast<int>(places));
+    digits.erase(0, digits.find_first_not_of('0'));
+    const bool zero = digits.empty();
+    if (digits.size() < point + places) digits.insert(0, point + places - digits.size(), '0');
+    if (places > 0) digits.insert(digits.size() - places, ".");
+    return (x < 0 && !zero ? "-" : "") + digits + (percent ? "%" : "");
+}
+
+std::optional<double> ParseNumber(std::string_view text) {
+    const std::string number = Normalised(Trimmed(text));
+    const auto parsed = LeadingNumberOf(number);
+    return parsed && parsed->rest.empty() ? std::optional(parsed->value) : std::nullopt;
+}
+
+std::optional<double> ParseLeadingNumber(std::string_view text) {
+    const std::string number = Normalised(Trimmed(text));
+    const auto parsed = LeadingNumberOf(number);
+    return parsed ? std::optional(parsed->value) : std::nullopt;
+}
+
+std::string SignedStr(double x) { return (x >= 0 ? "+" : "") + GeneralText(x); }
+
+std::string OrdinalString(std::int32_t n) {
+    constexpr std::string_view endings = "thstndrdthththththth";
+    const bool plainTh = n < 0 || (n >= 11 && n <= 13);
+    return std::to_string(n) + std::string(endings.substr(plainTh ? 0 : static_cast<std::size_t>(2 * (n % 10)), 2));
+}
+
+std::string OrdinalDiff(std::int32_t a, std::int32_t b) {
+    return b > a ? " " + OrdinalString(static_cast<std::int32_t>(std::int64_t{b} - a)) : "";
+}
+
+namespace {
+
+/// One field of a time: how many of the style's smallest unit it holds, and its words.
+struct TimeField {
+    int units;
+    std::string_view letter;
+    std::string_view word;
+};
+
+constexpr TimeField secondsFields[] = {{3600, "h", " hour"}, {60, "m", " minute"}, {1, "s", " second"}};
+constexpr TimeField minutesFields[] = {{60, "h", " hour"}, {1, "m", " minute"}};
+constexpr TimeField partsFields[] = {{1080, "h", " hour"}, {1, "p", " part"}};
+constexpr TimeField minutePartsFields[] = {{1080, "h", " hour"}, {18, "m", " minute"}, {1, "p", " part"}};
+constexpr TimeField momentsFields[] = {{82080, "h", " hour"}, {1368, "m", " minute"}, {76, "p", " part"}};
+constexpr TimeField minuteField[] = {{1, "m", " minute"}};
+constexpr TimeField hourField[] = {{1, "h", " hour"}};
+constexpr TimeField tenthsFields[] = {{36000, "h", ""}, {600, "m", ""}, {10, "s", ""}};
+
+enum class TimeLook { clock, clockUnpadded, worded, decimal, tenths };
+
+struct TimeStyle {
+    TimeLook look;
+    double unitsPerDay;
+    std::span<const TimeField> fields;
+    std::string_view decimals = "";
+};
+
+constexpr TimeStyle timeStyles[] = {
+    /*  0 */ {TimeLook::clock, 86400, secondsFields},
+    /*  1 */ {TimeLook::worded, 86400, secondsFields},
+    /*  2 */ {TimeLook::clock, 1440, minutesFields},
+    /*  3 */ {TimeLook::clockUnpadded, 1440, minutesFields},
+    /*  4 */ {TimeLook::worded, 1440, minutesFields},
+    /*  5 */ {TimeLook::clock, 25920, partsFields},
+    /*  6 */ {TimeLook::clock, 1969920, momentsFields},
+    /*  7 */ {TimeLook::worded, 25920, minutePartsFields},
+    /*  8 */ {TimeLook::worded, 1969920, momentsFields},
+    /*  9 */ {TimeLook::clockUnpadded, 1440, minutesFields},
+    /* 10 */ {TimeLook::worded, 25920, partsFields},
+    /* 11 */ {TimeLook::clockUnpadded, 86400, secondsFields},
+    /* 12 */ {TimeLook::decimal, 1440, minuteField, "0.0"},
+    /* 13 */ {TimeLook::decimal, 24, hourField, "0.00"},
+    /* 14 */ {TimeLook::tenths, 864000, tenthsFields},
+};
+
+const TimeStyle& StyleOf(int style) {
+    const bool known = style >= 0 && style < static_cast<int>(std::size(timeStyles));
+    return timeStyles[known ? style : 0];
+}
+
+/// "5h" or "5 hours", with the "s" of every count but 1.
+std::string Worded(const std::string& count, const TimeField& field, bool longForm) {
+    if (!longForm) return count + std::string(field.letter);
+    return count + std::string(field.word) + (count == "1" ? "" : "s");
+}
+
+std::string WordedTime(std::int64_t count, std::span<const TimeField> fields, bool longForm) {
+    std::string text;
+    for (const TimeField& field : fields) {
+        const std::int64_t value = count / field.units;
+        count %= field.units;
+        const bool leadingZero = text.empty() && value == 0 && &field != &fields.back();
+        if (leadingZero) continue;
+        if (!text.empty()) text += ' ';
+        text += Worded(std::to_string(value), field, longForm);
+    }
+    return text;
+}
+
+std::string ClockTime(std::int64_t count, std::span<const TimeField> fields, bool padHours) {
+    std::string text;
+    for (const TimeField& field : fields) {
+        const bool hours = &field == &fields.front();
+        if (!hours) text += ':';
+        text += FormatNumber(static_cast<double>(count / field.units), hours && !padHours ? "0" : "00");
+        count %= field.units;
+    }
+    return text;
+}
+
+/// A count of the style's units below one day.
+std::string TimeText(std::int64_t count, const TimeStyle& style, bool longForm) {
+    switch (style.look) {
+        case TimeLook::worded: return WordedTime(count, style.fields, longForm);
+        case TimeLook::clockUnpadded: return ClockTime(count, style.fields, false);
+        case TimeLook::tenths: return ClockTime(count, style.fields, true) + "." + std::to_string(count % 10);
+        default: return ClockTime(count, style.fields, true);
+    }
+}
+
+std::string DecimalTime(double units, const TimeStyle& style, bool longForm) {
+    const double settled = *ParseNumber(FormatNumber(units, style.decimals));
+    const bool wholeDay = settled >= style.unitsPerDay;
+    return Worded(FormatNumber(wholeDay ? 0 : units, style.decimals), style.fields.front(), longForm);
+}
+
+}  // namespace
+
+std::string FormatTime(Moment x, int style, bool longForm) {
+    if (isNever(x)) return "never";
+    const TimeStyle& chosen = StyleOf(style);
+    const double units = DayFraction(x) * chosen.unitsPerDay;
+    if (chosen.look == TimeLook::decimal) return DecimalTime(units, chosen, longForm);
+    const double count = Round(units);
+    return TimeText(count >= chosen.unitsPerDay ? 0 : WholeNumber<std::int64_t>(count), chosen, longForm);
+}
+
+std::string DurationString(double days, int style, bool longForm) {
+    if (isNever(days)) return "never";
+    const double unitsPerDay = StyleOf(style).unitsPerDay;
+    const double settled = StyleOf(style).look == TimeLook::decimal ? days : Round(days * unitsPerDay) / unitsPerDay;
+    const double whole = Floor(settled);
+    const std::string rest = FormatTime(settled - whole, style, longForm);
+    if (whole == 0) return rest;
+    return Worded(GeneralText(whole), {1, "d", " day"}, longForm) + " " + rest;
+}
+
+std::string TimeOfDayFormat(double days) {
+    if (isNever(days)) return "never";
+    switch (TempHourFormat) {
+        case 2: return FormatNumber(days * 1440, "0.0");
+        case 3: return FormatNumber(days * 24, "0.00");
+        default: return FormatTime(days, 9);
+    }
+}
+
+namespace {
+
+std::string WithSign(const std::string& size, bool negative) { return negative ? "-(" + size + ")" : size; }
+
+}  // namespace
+
+std::string AngleString(double degrees) {
+    constexpr double tenthsOfCircle = 360 * 36000;
+    const auto tenths = WholeNumber<std::int64_t>(Modulo(Round(std::fabs(degrees) * 36000), tenthsOfCircle));
+    const std::string seconds = FormatNumber(static_cast<double>(tenths % 600) / 10, "00.0");
+    const std::string minutes = FormatNumber(static_cast<double>(tenths / 600 % 60), "00");
+    return WithSign(std::to_string(tenths / 36000) + "°" + minutes + "'" + seconds + "\"", degrees < 0);
+}
+
+std::string MinutesString(double hours) {
+    return WithSign(FormatNumber(Round(std::fabs(hours) * 60), "0") + "m", hours < 0);
+}
+
+std::string FractionParts(std::int64_t numerator, std::int64_t denominator) {
+    return "<small><sup>" + std::to_string(numerator) + "</sup></small>/<small><sub>" + std::to_string(denominator) +
+           "</sub></small>";
+}
+
+std::string FractionText(std::int32_t whole, std::int32_t numerator, std::int32_t denominator, bool html) {
+    const bool negative = Sign(whole) < 0 || Sign(numerator) * Sign(denominator) < 0;
+    const std::int64_t units = std::abs(std::int64_t{whole});
+    std::int64_t above = std::abs(std::int64_t{numerator});
+    std::int64_t below = std::abs(std::int64_t{denominator});
+    if (units == 0 && above == 0) return "0";
+    if (const std::int64_t divisor = std::gcd(above, below); divisor != 0) {
+        above /= divisor;
+        below /= divisor;
+    }
+
+    std::string text = units != 0 ? std::to_string(units) : "";
+    if (above != 0) {
+        if (units != 0) text += html ? "+" : " + ";
+        text += html ? FractionParts(above, below) : std::to_string(above) + " / " + std::to_string(below);
+    }
+    if (!negative) return text;
+    return (html ? "&ndash;" : "–") + (units != 0 && above != 0 ? "(" + text + ")" : text);
+}
+
+std::string_view Trimmed(std::string_view text) {
+    const std::size_t first = text.find_first_not_of(whiteSpace);
+    if (first == std::string_view::npos) return {};
+    return text.substr(first, text.find_last_not_of(whiteSpace) + 1 - first);
+}
+
+std::string_view FromCharacter(std::string_view text, int n) {
+    int character = 0;
+    for (std::size_t i = 0; i < text.size(); ++i) {
+        const bool continuation = (static_cast<unsigned char>(text[i]) & 0xC0) == 0x80;
+        if (!continuation && ++character == n) return text.substr(i);
+    }
+    return {};
+}
+
+std::string ReplaceAll(std::string_view text, std::string_view what, std::string_view with) {
+    if (what.empty()) return std::string(text);
+    std::string result;
+    for (std::size_t at = text.find(what); at != std::string_view::npos; at = text.find(what)) {
+        result.append(text.substr(0, at)).append(with);
+        text.remove_prefix(at + what.size());
+    }
+    return result.append(text);
+}
+
+std::string RemoveAmpersands(std::string_view caption) { return ReplaceAll(caption, "&", ""); }
+
+std::string UnderscoresToBlanks(std::string_view text) { return ReplaceAll(text, "_", " "); }
+
+std::string WrapIfNotEmpty(std::string_view text, std::string_view prefix, std::string_view suffix,
+                           std::string_view otherwise) {
+    if (text.empty()) return std::string(otherwise);
+    return std::string(prefix).append(text).append(suffix);
+}
+
+}  // namespace horvanta

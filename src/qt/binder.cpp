@@ -1,0 +1,224 @@
+#include "qt/binder.h"
+
+#include <algorithm>
+#include <utility>
+
+#include <QAbstractButton>
+#include <QApplication>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMouseEvent>
+
+namespace horvanta {
+namespace {
+
+constexpr double mainFontScale = 1.5;
+
+struct KeyRow {
+    int qtKey;
+    bool keypad;
+    KeyCode code;
+};
+
+constexpr KeyRow keyRows[] = {
+    {Qt::Key_Backspace, false, KeyBackspace}, {Qt::Key_Return, false, KeyEnter},
+    {Qt::Key_Enter, true, KeyEnter},          {Qt::Key_Shift, false, KeyShiftItself},
+    {Qt::Key_Pause, false, KeyPause},         {Qt::Key_Escape, false, KeyEscape},
+    {Qt::Key_Space, false, KeySpace},         {Qt::Key_PageUp, false, KeyPageUp},
+    {Qt::Key_PageDown, false, KeyPageDown},   {Qt::Key_End, false, KeyEnd},
+    {Qt::Key_Home, false, KeyHome},           {Qt::Key_Left, false, KeyLeft},
+    {Qt::Key_Up, false, KeyUp},               {Qt::Key_Right, false, KeyRight},
+    {Qt::Key_Down, false, KeyDown},           {Qt::Key_Plus, true, KeyNumericPlus},
+    {Qt::Key_Minus, true, KeyNumericMinus},
+};
+
+/// Rows for the keypad hold there alone.
+int CodeOf(const QKeyEvent& event) {
+    const bool keypad = event.modifiers().testFlag(Qt::KeypadModifier);
+    for (const KeyRow& row : keyRows) {
+        if (row.qtKey == event.key() && (keypad || !row.keypad)) return row.code;
+    }
+    return 0;
+}
+
+int ShiftOf(const QKeyEvent& event) {
+    const Qt::KeyboardModifiers held = event.modifiers();
+    return (held.testFlag(Qt::ShiftModifier) ? ShiftKey : 0) | (held.testFlag(Qt::ControlModifier) ? ControlKey : 0) |
+           (held.testFlag(Qt::AltModifier) ? AltKey : 0);
+}
+
+/// What edits a line of text. Home alone is not among them: it is a key of the windows.
+constexpr QKeySequence::StandardKey editingKeys[] = {
+    QKeySequence::MoveToNextChar,      QKeySequence::MoveToPreviousChar,    QKeySequence::MoveToNextWord,
+    QKeySequence::MoveToPreviousWord,  QKeySequence::MoveToEndOfLine,       QKeySequence::MoveToStartOfDocument,
+    QKeySequence::MoveToEndOfDocument, QKeySequence::SelectNextChar,        QKeySequence::SelectPreviousChar,
+    QKeySequence::SelectNextWord,      QKeySequence::SelectPreviousWord,    QKeySequence::SelectStartOfLine,
+    QKeySequence::SelectEndOfLine,     QKeySequence::SelectStartOfDocument, QKeySequence::SelectEndOfDocument,
+    QKeySequence::Backspace,           QKeySequence::Delete,
+};
+
+/// Keys that a focused widget keeps to itself.
+bool isKept(const QObject* focused, const QKeyEvent& event) {
+    if (qobject_cast<const QAbstractButton*>(focused)) {
+        return event.key() == Qt::Key_Space || event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter;
+    }
+    if (!qobject_cast<const QLineEdit*>(focused)) return false;
+    if (event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter) return true;
+    return std::any_of(std::begin(editingKeys), std::end(editingKeys),
+                       [&](QKeySequence::StandardKey key) { return event.matches(key); });
+}
+
+QString TextOf(const QWidget& widget) {
+    if (const auto* label = qobject_cast<const QLabel*>(&widget)) return label->text();
+    if (const auto* button = qobject_cast<const QAbstractButton*>(&widget)) return button->text();
+    if (const auto* field = qobject_cast<const QLineEdit*>(&widget)) return field->text();
+    return {};
+}
+
+void SetText(QWidget& widget, const QString& text) {
+    if (auto* label = qobject_cast<QLabel*>(&widget)) label->setText(text);
+    if (auto* button = qobject_cast<QAbstractButton*>(&widget)) button->setText(text);
+    if (auto* field = qobject_cast<QLineEdit*>(&widget)) field->setText(text);
+}
+
+QColor ToQColor(Color color) { return {color.red, color.green, color.blue}; }
+
+void SetColors(QWidget& widget, const ColorPair& colors) {
+    const bool field = qobject_cast<QLineEdit*>(&widget) != nullptr;
+    QPalette palette = widget.palette();
+    palette.setColor(field ? QPalette::Base : QPalette::Window, ToQColor(colors.background));
+    palette.setColor(field ? QPalette::Text : QPalette::WindowText, ToQColor(colors.foreground));
+    if (palette == widget.palette()) return;
+    widget.setPalette(palette);
+    widget.setAutoFillBackground(true);
+}
+
+void DrawControl(const Control& control, QWidget& widget) {
+    const auto differs = [](const QString& shown, const std::string& text) { return shown != QString::fromStdString(text); };
+    if (differs(TextOf(widget), control.text)) SetText(widget, QString::fromStdString(control.text));
+    if (differs(widget.toolTip(), control.tooltip)) widget.setToolTip(QString::fromStdString(control.tooltip));
+    const std::string accessible = AccessibleName(control);
+    if (differs(widget.accessibleName(), accessible)) widget.setAccessibleName(QString::fromStdString(accessible));
+    if (widget.isVisibleTo(widget.parentWidget()) != control.visible) widget.setVisible(control.visible);
+    if (widget.isEnabled() != control.enabled) widget.setEnabled(control.enabled);
+    if (control.colors) SetColors(widget, *control.colors);
+}
+
+void EnlargeFont(QWidget& widget) {
+    QFont font = widget.font();
+    font.setPointSizeF(QFontInfo(font).pointSizeF() * mainFontScale);
+    widget.setFont(font);
+}
+
+}  // namespace
+
+KeyPress KeyPressOf(const QKeyEvent& event) { return {CodeOf(event), ShiftOf(event)}; }
+
+Binder::Binder(Form& form, QWidget& root, Acts& acts) : form_(form), root_(root), acts_(acts) {
+    for (Control* control : form_.controls) {
+        if (auto* widget = root_.findChild<QWidget*>(QString::fromStdString(control->name))) {
+            bound_.push_back({control, widget});
+        }
+    }
+    for (const Bound& bound : bound_) {
+        if (bound.widget->property("main").toBool()) EnlargeFont(*bound.widget);
+        KeepRoom(bound);
+        Connect(bound);
+    }
+    root_.setAccessibleName(QString::fromStdString(form_.text));
+    root_.installEventFilter(this);
+    for (auto* widget : root_.findChildren<QWidget*>()) widget->installEventFilter(this);
+    Draw();
+}
+
+void Binder::Connect(const Bound& bound) {
+    Control* control = bound.control;
+    if (auto* button = qobject_cast<QAbstractButton*>(bound.widget)) {
+        connect(button, &QAbstractButton::clicked, this, [this, control] { acts_.Run(control->Click); });
+    }
+    if (auto* field = qobject_cast<QLineEdit*>(bound.widget)) {
+        auto* text = static_cast<TextField*>(control);
+        connect(field, &QLineEdit::textEdited, this, [text](const QString& typed) { text->text = typed.toStdString(); });
+        connect(field, &QLineEdit::returnPressed, this, [this, text] { acts_.Run(text->LostFocus); });
+    }
+    if (auto* label = qobject_cast<QLabel*>(bound.widget)) {
+        label->setTextFormat(Qt::PlainText);
+        if (control->Click) label->setCursor(Qt::PointingHandCursor);
+    }
+}
+
+/// Room for the widest text that the control may come to show, so that the window keeps its size from day to day.
+void Binder::KeepRoom(const Bound& bound) {
+    if (bound.control->widest.empty()) return;
+    const QString widest = QString::fromStdString(bound.control->widest);
+    QWidget& widget = *bound.widget;
+    if (qobject_cast<QLineEdit*>(&widget)) {
+        widget.setMinimumWidth(widget.fontMetrics().horizontalAdvance(widest + QStringLiteral("00")));
+        return;
+    }
+    const QString shown = TextOf(widget);
+    SetText(widget, widest);
+    widget.setMinimumWidth(widget.sizeHint().width());
+    SetText(widget, shown);
+}
+
+void Binder::Draw() {
+    for (const auto& [control, widget] : bound_) DrawControl(*control, *widget);
+}
+
+QWidget* Binder::WidgetOf(const Control& control) const {
+    const auto found = std::find_if(bound_.begin(), bound_.end(), [&](const Bound& b) { return b.control == &control; });
+    return found == bound_.end() ? nullptr : found->widget;
+}
+
+Control* Binder::ControlOf(const QObject* widget) const {
+    const auto found = std::find_if(bound_.begin(), bound_.end(), [&](const Bound& b) { return b.widget == widget; });
+    return found == bound_.end() ? nullptr : found->control;
+}
+
+bool Binder::eventFilter(QObject* watched, QEvent* event) {
+    Control* control = ControlOf(watched);
+    switch (event->type()) {
+        case QEvent::KeyPress: return KeyActed(watched, static_cast<QKeyEvent&>(*event));
+        case QEvent::MouseButtonDblClick: doubleClicked_ = watched; return false;
+        case QEvent::MouseButtonRelease:
+            if (control) MouseActed(*control, static_cast<QMouseEvent&>(*event));
+            return false;
+        case QEvent::FocusOut:
+            if (control) FocusLeft(*control, static_cast<QFocusEvent*>(event)->reason());
+            return false;
+        case QEvent::FontChange:
+            if (control) KeepRoom({control, static_cast<QWidget*>(watched)});
+            return false;
+        default: return false;
+    }
+}
+
+/// Labels have no signals of their own. The release that ends a double click is not another click.
+void Binder::MouseActed(Control& control, const QMouseEvent& event) {
+    const QWidget* widget = WidgetOf(control);
+    const bool ofDoubleClick = std::exchange(doubleClicked_, nullptr) == widget;
+    if (!qobject_cast<const QLabel*>(widget) || !widget->rect().contains(event.position().toPoint())) return;
+    if (event.button() == Qt::RightButton) acts_.Run(control.RightClick);
+    if (event.button() == Qt::LeftButton) acts_.Run(ofDoubleClick ? control.DblClick : control.Click);
+}
+
+bool Binder::KeyActed(QObject* watched, const QKeyEvent& event) {
+    const KeyPress key = KeyPressOf(event);
+    if (key.code == 0 || !form_.KeyDown || watched != QApplication::focusWidget() || isKept(watched, event)) return false;
+    if (event.isAutoRepeat() && acts_.isPaintPending()) return true;
+    bool used = false;
+    acts_.Run([&] { used = form_.KeyDown(key.code, key.shift); });
+    return used;
+}
+
+/// Another window of the desktop coming forward, or a menu opening, does not end the editing.
+void Binder::FocusLeft(Control& control, Qt::FocusReason reason) {
+    auto* field = dynamic_cast<TextField*>(&control);
+    if (!field || acts_.isDrawing() || reason == Qt::PopupFocusReason) return;
+    if (QApplication::activeWindow() != root_.window()) return;
+    acts_.Run(field->LostFocus);
+}
+
+}  // namespace horvanta

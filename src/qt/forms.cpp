@@ -1,0 +1,32 @@
+#include "qt/forms.h"
+
+#include "ui_gregorian.h"
+#include "ui_time_astro.h"
+
+namespace horvanta {
+namespace {
+
+template <class Ui>
+void SetUp(QWidget& widget) {
+    Ui().setupUi(&widget);
+}
+
+struct DesignerForm {
+    std::string_view name;
+    void (*setUp)(QWidget& widget);
+};
+
+constexpr DesignerForm designerForms[] = {
+    {"TimeAstro", SetUp<Ui::TimeAstro>},
+    {"Gregorian", SetUp<Ui::Gregorian>},
+};
+
+}  // namespace
+
+void SetUpForm(std::string_view name, QWidget& widget) {
+    for (const DesignerForm& form : designerForms) {
+        if (form.name == name) form.setUp(widget);
+    }
+}
+
+}  // namespace horvanta

@@ -1,0 +1,220 @@
+#include "qt/frame.h"
+
+#include <algorithm>
+#include <cmath>
+
+#include <QAction>
+#include <QCloseEvent>
+#include <QGuiApplication>
+#include <QKeyEvent>
+#include <QMdiArea>
+#include <QMdiSubWindow>
+#include <QMenu>
+#include <QMenuBar>
+#include <QScreen>
+#include <QLayout>
+
+#include "core/moment.h"
+#include "qt/forms.h"
+
+namespace horvanta {
+namespace {
+
+/// So much of a window's title always stays within reach, in pixels.
+constexpr double reach = 60;
+constexpr double farthest = 10000;
+
+double Twips(int pixels) { return pixels * TwipsPerPixel; }
+
+int Pixels(double twips, double least) {
+    return static_cast<int>(std::lround(std::clamp(twips / TwipsPerPixel, least, farthest)));
+}
+
+void NoteSize(Form& form, const QSize& size) {
+    form.place.width = Twips(size.width());
+    form.place.height = Twips(size.height());
+}
+
+}  // namespace
+
+Frame::Frame(HorvantaMDI& shell) : shell_(shell), area_(new QMdiArea(this)) {
+    setObjectName(QString::fromStdString(shell_.name));
+    setWindowTitle(QString::fromStdString(shell_.text));
+    area_->setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
+    area_->setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
+    setCentralWidget(area_);
+    for (MenuItem* item : shell_.menuBar.items) {
+        QMenu* menu = menuBar()->addMenu(QString::fromStdString(item->caption));
+        actions_.emplace_back(item, menu->menuAction());
+        for (MenuItem* below : item->items) AddItem(*menu, *below);
+    }
+    DrawMenus();
+}
+
+void Frame::AddItem(QMenu& menu, MenuItem& item) {
+    const QString caption = QString::fromStdString(item.caption);
+    if (item.items.empty()) {
+        QAction* action = menu.addAction(caption);
+        connect(action, &QAction::triggered, this, [this, &item] { Run(item.Click); });
+        actions_.emplace_back(&item, action);
+        return;
+    }
+    QMenu* submenu = menu.addMenu(caption);
+    actions_.emplace_back(&item, submenu->menuAction());
+    for (MenuItem* below : item.items) AddItem(*submenu, *below);
+}
+
+void Frame::Load(Form& form) {
+    auto* content = new QWidget;
+    SetUpForm(form.name, *content);
+    auto* window = new QMdiSubWindow(area_);
+    window->setObjectName(QString::fromStdString(form.name));
+    window->setWidget(content);
+    const Qt::WindowFlags closable = form.Close ? Qt::WindowCloseButtonHint : Qt::WindowFlags();
+    area_->addSubWindow(window, Qt::SubWindow | Qt::CustomizeWindowHint | Qt::WindowTitleHint | closable);
+    window->setSystemMenu(nullptr);
+    window->hide();
+    children_.push_back({&form, window, std::make_unique<Binder>(form, *content, *this)});
+    content->layout()->activate();
+    window->resize(window->sizeHint());
+    window->installEventFilter(this);
+    NoteSize(form, window->size());
+}
+
+void Frame::Run(const std::function<void()>& act) {
+    if (!act) return;
+    ++depth_;
+    act();
+    if (--depth_ == 0) Draw();
+}
+
+void Frame::Draw() {
+    drawing_ = true;
+    DrawMenus();
+    for (Child& child : children_) DrawChild(child);
+    if (!isVisible() && !Quitting) ShowFirst();
+    for (Child& child : children_) GrantFocus(child);
+    drawing_ = false;
+    paintPending_ = true;
+}
+
+void Frame::DrawMenus() {
+    for (const auto& [item, action] : actions_) {
+        action->setText(QString::fromStdString(item->caption));
+        action->setVisible(item->isShown());
+        action->setCheckable(item->isTickable());
+        action->setChecked(item->isTicked());
+    }
+}
+
+void Frame::DrawChild(Child& child) {
+    child.window->setWindowTitle(QString::fromStdString(child.form->text));
+    child.binder->Draw();
+    DrawPlace(child);
+    if (child.window->isVisibleTo(child.window->parentWidget()) != child.form->visible) {
+        child.window->setVisible(child.form->visible);
+    }
+}
+
+/// Puts a window where its form says and lets it grow to hold what it shows now.
+void Frame::DrawPlace(Child& child) {
+    QMdiSubWindow& window = *child.window;
+    const QPoint place(Pixels(child.form->place.left, reach - window.width()), Pixels(child.form->place.top, 0));
+    if (window.pos() != place) window.move(place);
+    const QSize needed = window.size().expandedTo(window.minimumSizeHint());
+    if (needed != window.size()) window.resize(needed);
+}
+
+void Frame::GrantFocus(Child& child) {
+    const Control* wished = std::exchange(child.form->focusWish, nullptr);
+    if (!wished || !child.form->visible) return;
+    area_->setActiveSubWindow(child.window);
+    if (QWidget* widget = child.binder->WidgetOf(*wished)) widget->setFocus(Qt::OtherFocusReason);
+}
+
+/// Without a window manager nothing maximises the frame, so it has the size of the screen to begin with.
+void Frame::ShowFirst() {
+    const bool placed = shell_.state == FrameNormal && shell_.place.width > 0 && shell_.place.height > 0;
+    if (!placed) {
+        setGeometry(screen()->availableGeometry());
+        showMaximized();
+        return;
+    }
+    resize(Pixels(shell_.place.width, 0), Pixels(shell_.place.height, 0));
+    move(Pixels(shell_.place.left, 0), Pixels(shell_.place.top, 0));
+    show();
+}
+
+void Frame::ComeForward() {
+    setWindowState(windowState() & ~Qt::WindowMinimized);
+    show();
+    raise();
+    activateWindow();
+}
+
+Frame::Child* Frame::ChildOf(const QObject* window) {
+    const auto found = std::find_if(children_.begin(), children_.end(), [&](const Child& c) { return c.window == window; });
+    return found == children_.end() ? nullptr : &*found;
+}
+
+bool Frame::eventFilter(QObject* watched, QEvent* event) {
+    Child* child = ChildOf(watched);
+    if (!child) return QMainWindow::eventFilter(watched, event);
+    switch (event->type()) {
+        case QEvent::Close:
+            event->ignore();
+            Run(child->form->Close);
+            return true;
+        case QEvent::Move:
+            if (!drawing_) {
+                child->form->place.left = Twips(child->window->x());
+                child->form->place.top = Twips(child->window->y());
+            }
+            return false;
+        case QEvent::Resize: NoteSize(*child->form, child->window->size()); return false;
+        default: return false;
+    }
+}
+
+/// The backing store is painted when the update that a drawing asked for comes round.
+bool Frame::event(QEvent* event) {
+    const bool handled = QMainWindow::event(event);
+    if (event->type() == QEvent::UpdateRequest) paintPending_ = false;
+    return handled;
+}
+
+void Frame::changeEvent(QEvent* event) {
+    QMainWindow::changeEvent(event);
+    if (event->type() == QEvent::WindowStateChange) NotePlace();
+}
+
+void Frame::moveEvent(QMoveEvent* event) {
+    QMainWindow::moveEvent(event);
+    NotePlace();
+}
+
+void Frame::resizeEvent(QResizeEvent* event) {
+    QMainWindow::resizeEvent(event);
+    NotePlace();
+}
+
+void Frame::NotePlace() {
+    if (!isVisible()) return;
+    shell_.state = isMinimized() ? FrameMinimized : isMaximized() ? FrameMaximized : FrameNormal;
+    if (shell_.state != FrameNormal) return;
+    shell_.place = {Twips(x()), Twips(y()), Twips(width()), Twips(height())};
+}
+
+void Frame::closeEvent(QCloseEvent* event) {
+    const bool starting = BusyCount > 0;
+    event->setAccepted(!starting);
+    if (!starting && !Quitting) Run(shell_.Close);
+}
+
+/// Keys that reach the frame because no window has the focus are the time window's.
+void Frame::keyPressEvent(QKeyEvent* event) {
+    const KeyPress key = KeyPressOf(*event);
+    if (key.code != 0) Run([&] { shell_.Form_KeyDown(key.code, key.shift); });
+}
+
+}  // namespace horvanta

@@ -1,0 +1,73 @@
+#pragma once
+
+#include <memory>
+#include <utility>
+#include <vector>
+
+#include <QMainWindow>
+
+#include "core/shell.h"
+#include "qt/binder.h"
+
+class QAction;
+class QMdiArea;
+class QMdiSubWindow;
+class QMenu;
+
+namespace horvanta {
+
+/// The main window: the menu bar and, within the frame, a window for each form.
+class Frame final : public QMainWindow, public Acts {
+    Q_OBJECT
+  public:
+    explicit Frame(HorvantaMDI& shell);
+
+    /// Makes the window of a form from its Designer form, hidden, and tells the form its size.
+    void Load(Form& form);
+
+    /// Draws what has changed, and shows the frame if it was not.
+    void Draw();
+
+    /// Brings the frame before all other windows.
+    void ComeForward();
+
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+  protected:
+    bool event(QEvent* event) override;
+    void changeEvent(QEvent* event) override;
+    void moveEvent(QMoveEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+    void closeEvent(QCloseEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+
+  private:
+    struct Child {
+        Form* form;
+        QMdiSubWindow* window;
+        std::unique_ptr<Binder> binder;
+    };
+
+    void Run(const std::function<void()>& act) override;
+    bool isPaintPending() const override { return paintPending_; }
+    bool isDrawing() const override { return drawing_; }
+
+    void AddItem(QMenu& menu, MenuItem& item);
+    void DrawMenus();
+    void DrawChild(Child& child);
+    void DrawPlace(Child& child);
+    void GrantFocus(Child& child);
+    void ShowFirst();
+    void NotePlace();
+    Child* ChildOf(const QObject* window);
+
+    HorvantaMDI& shell_;
+    QMdiArea* area_;
+    std::vector<Child> children_;
+    std::vector<std::pair<MenuItem*, QAction*>> actions_;
+    int depth_ = 0;
+    bool drawing_ = false;
+    bool paintPending_ = false;
+};
+
+}  // namespace horvanta

@@ -1,0 +1,40 @@
+#include <QApplication>
+#include <QTimer>
+
+#include "app/horvanta.h"
+#include "qt/qt_desktop.h"
+#include "qt/single_instance.h"
+
+namespace {
+
+/// Leaves a picture of the main window in the file that the environment names, and ends. For the README and for
+/// machines without a display.
+void TakePicture(horvanta::Horvanta& program, horvanta::Frame& frame) {
+    const QString path = qEnvironmentVariable("HORVANTA_SCREENSHOT");
+    if (path.isEmpty()) return;
+    constexpr int settled = 500;  // milliseconds until the windows are surely painted
+    QTimer::singleShot(settled, &frame, [path, &program, &frame] {
+        frame.grab().save(path);
+        program.MenuExit_Click();
+    });
+}
+
+}  // namespace
+
+int main(int argc, char* argv[]) {
+    QApplication application(argc, argv);
+    QApplication::setApplicationName(QStringLiteral("horvanta"));
+    QApplication::setApplicationDisplayName(QStringLiteral("Horvanta"));
+
+    horvanta::SingleInstance instance;
+    if (!instance.Claim()) return 0;
+
+    horvanta::QtDesktop desktop;
+    horvanta::CurrentDesktop = &desktop;
+    horvanta::Horvanta program;
+    program.Start();
+    desktop.frame()->Draw();
+    instance.ComeForward = [&desktop] { desktop.frame()->ComeForward(); };
+    TakePicture(program, *desktop.frame());
+    return QApplication::exec();
+}

@@ -1,0 +1,33 @@
+#pragma once
+
+#include <memory>
+
+#include "core/desktop.h"
+#include "qt/frame.h"
+#include "qt/settings_file.h"
+
+namespace horvanta {
+
+/// The desktop by means of Qt.
+class QtDesktop final : public Desktop {
+  public:
+    void LoadFrame(HorvantaMDI& shell) override;
+    void LoadForm(Form& form) override;
+    void LetEventsRun() override;
+    void Beep() override;
+    bool AskYesNo(std::string_view question, std::string_view title) override;
+    std::optional<Color> ChooseColor(Color present) override;
+    void SetClipboard(const std::string& text) override;
+    LocalClock Clock() override;
+    SettingsStore& Settings() override { return settings_; }
+    void End() override;
+
+    /// The main window; null before it is loaded.
+    Frame* frame() { return frame_.get(); }
+
+  private:
+    SettingsFile settings_;
+    std::unique_ptr<Frame> frame_;
+};
+
+}  // namespace horvanta

@@ -1,0 +1,106 @@
+#include "recording_desktop.h"
+
+#include <utility>
+
+#include "core/text.h"
+
+namespace horvanta {
+
+std::optional<std::string> MemorySettings::Read(std::string_view application, std::string_view section,
+                                                std::string_view key) {
+    const auto foundApplication = values.find(application);
+    if (foundApplication == values.end()) return std::nullopt;
+    const auto foundSection = foundApplication->second.find(section);
+    if (foundSection == foundApplication->second.end()) return std::nullopt;
+    const auto found = foundSection->second.find(key);
+    return found == foundSection->second.end() ? std::nullopt : std::optional(found->second);
+}
+
+void MemorySettings::Write(std::string_view application, std::string_view section, std::string_view key,
+                           std::string_view text) {
+    values[std::string(application)][std::string(section)][std::string(key)] = text;
+}
+
+void MemorySettings::DeleteSection(std::string_view application, std::string_view section) {
+    values[std::string(application)].erase(std::string(section));
+}
+
+void MemorySettings::DeleteApplication(std::string_view application) { values.erase(std::string(application)); }
+
+void RecordingDesktop::LoadForm(Form& form) {
+    form.place.width = 5000;
+    form.place.height = 3000;
+    forms.push_back(&form);
+}
+
+void RecordingDesktop::Beep() { asked.emplace_back("beep"); }
+
+BoxAnswer RecordingDesktop::NextAnswer() {
+    if (answers.empty()) return {};
+    const BoxAnswer answer = answers.front();
+    answers.pop_front();
+    return answer;
+}
+
+bool RecordingDesktop::AskYesNo(std::string_view question, std::string_view title) {
+    constexpr const char* words[] = {"yes", "no", "cancel", "cancel"};
+    const BoxAnswer answer = NextAnswer();
+    asked.push_back("box " + Quoted(title) + " " + Quoted(question) + " " + words[answer.kind]);
+    return answer.kind == BoxAnswer::yes;
+}
+
+std::optional<Color> RecordingDesktop::ChooseColor(Color present) {
+    const BoxAnswer answer = NextAnswer();
+    const bool chosen = answer.kind == BoxAnswer::color;
+    const std::string outcome = chosen ? std::to_string(answer.chosen.Number()) : "cancel";
+    asked.push_back("color " + std::to_string(present.Number()) + " " + outcome);
+    return chosen ? std::optional(answer.chosen) : std::nullopt;
+}
+
+void RecordingDesktop::SetClipboard(const std::string& text) { asked.push_back("clipboard " + Quoted(text)); }
+
+/// A focused button keeps Space and Enter, a text field Enter; other keys go to the focused window.
+bool RecordingDesktop::Press(int code, int shift) {
+    if (!focused) return false;
+    if (auto* button = dynamic_cast<Button*>(focused); button && (code == KeySpace || code == KeyEnter)) {
+        button->Click();
+    } else if (dynamic_cast<TextField*>(focused) && code == KeyEnter) {
+        LeaveField();
+    } else if (focused->form.KeyDown) {
+        focused->form.KeyDown(code, shift);
+    }
+    return true;
+}
+
+bool RecordingDesktop::Type(TextField& field, std::string_view text) {
+    if (!field.visible || !field.enabled) return false;
+    Focus(field);
+    field.text = text;
+    LeaveField();
+    return true;
+}
+
+void RecordingDesktop::LeaveField() {
+    auto* field = dynamic_cast<TextField*>(focused);
+    if (field && field->LostFocus) field->LostFocus();
+}
+
+void RecordingDesktop::Focus(Control& control) {
+    if (focused != &control) LeaveField();
+    focused = &control;
+}
+
+void RecordingDesktop::Settle() {
+    for (Form* form : forms) {
+        Control* wished = std::exchange(form->focusWish, nullptr);
+        if (wished && form->visible) focused = wished;
+    }
+}
+
+std::string Quoted(std::string_view text) {
+    std::string escaped = ReplaceAll(text, "\\", "\\\\");
+    escaped = ReplaceAll(escaped, "\"", "\\\"");
+    return "\"" + ReplaceAll(escaped, "\n", "\\n") + "\"";
+}
+
+}  // namespace horvanta

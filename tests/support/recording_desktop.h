@@ -1,0 +1,76 @@
+#pragma once
+
+#include <deque>
+#include <map>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "core/desktop.h"
+#include "core/shell.h"
+
+namespace horvanta {
+
+/// Settings that last as long as the object.
+class MemorySettings final : public SettingsStore {
+  public:
+    std::optional<std::string> Read(std::string_view application, std::string_view section,
+                                    std::string_view key) override;
+    void Write(std::string_view application, std::string_view section, std::string_view key,
+               std::string_view text) override;
+    void DeleteSection(std::string_view application, std::string_view section) override;
+    void DeleteApplication(std::string_view application) override;
+    void Flush() override { flushed = values; }
+
+    using Section = std::map<std::string, std::string, std::less<>>;
+    using Application = std::map<std::string, Section, std::less<>>;
+    std::map<std::string, Application, std::less<>> values;
+    std::map<std::string, Application, std::less<>> flushed;  ///< What is on the disk.
+};
+
+/// What the user does with the next box.
+struct BoxAnswer {
+    enum Kind { yes, no, cancel, color } kind = cancel;
+    Color chosen;
+};
+
+/// A desktop without a display. It records what it was asked, answers boxes from a queue (an empty queue cancels),
+/// and keeps who has the focus. Its clock stands still.
+class RecordingDesktop final : public Desktop {
+  public:
+    void LoadFrame(HorvantaMDI&) override {}
+    void LoadForm(Form& form) override;
+    void LetEventsRun() override { Settle(); }
+    void Beep() override;
+    bool AskYesNo(std::string_view question, std::string_view title) override;
+    std::optional<Color> ChooseColor(Color present) override;
+    void SetClipboard(const std::string& text) override;
+    LocalClock Clock() override { return clock; }
+    SettingsStore& Settings() override { return settings; }
+    void End() override { ended = true; }
+
+    // What a user does. Each returns false where there is nothing to act on.
+    bool Press(int code, int shift);
+    bool Type(TextField& field, std::string_view text);
+    void Focus(Control& control);
+
+    /// Grants the wishes for focus, as a drawing desktop does when an act has returned.
+    void Settle();
+
+    std::vector<std::string> asked;  ///< Beeps, boxes and clipboard texts, in their order.
+    std::deque<BoxAnswer> answers;
+    std::vector<Form*> forms;
+    Control* focused = nullptr;
+    LocalClock clock{19737, 0.4375};  // January 15, 2024 at 10:30
+    MemorySettings settings;
+    bool ended = false;
+
+  private:
+    BoxAnswer NextAnswer();
+    void LeaveField();
+};
+
+/// A text within double quotes, with quotes, backslashes and line ends escaped.
+std::string Quoted(std::string_view text);
+
+}  // namespace horvanta

@@ -1,0 +1,226 @@
+#include "desk.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "core/day_events.h"
+#include "core/moment.h"
+#include "core/text.h"
+#include "desk_functions.h"
+
+namespace horvanta {
+namespace {
+
+struct NamedKey {
+    std::string_view name;
+    KeyCode code;
+};
+
+constexpr NamedKey namedKeys[] = {
+    {"Backspace", KeyBackspace}, {"Enter", KeyEnter},
+    {"Shift", KeyShiftItself},   {"Pause", KeyPause},
+    {"Escape", KeyEscape},       {"Esc", KeyEscape},
+    {"Space", KeySpace},         {"PageUp", KeyPageUp},
+    {"PageDown", KeyPageDown},   {"End", KeyEnd},
+    {"Home", KeyHome},           {"Left", KeyLeft},
+    {"Up", KeyUp},               {"Right", KeyRight},
+    {"Down", KeyDown},           {"Plus", KeyNumericPlus},
+    {"Minus", KeyNumericMinus},
+};
+
+constexpr std::pair<std::string_view, KeyShift> namedShifts[] = {
+    {"shift", ShiftKey},
+    {"ctrl", ControlKey},
+    {"alt", AltKey},
+};
+
+int CodeOf(std::string_view name) {
+    for (const NamedKey& key : namedKeys) {
+        if (key.name == name) return key.code;
+    }
+    throw BadLine("no such key: " + std::string(name));
+}
+
+int ShiftOf(std::string_view name) {
+    for (const auto& [shift, bit] : namedShifts) {
+        if (shift == name) return bit;
+    }
+    throw BadLine("no such modifier: " + std::string(name));
+}
+
+/// Cuts the first word off a line.
+std::string_view TakeWord(std::string_view& line) {
+    line = Trimmed(line);
+    const std::string_view word = line.substr(0, line.find(' '));
+    line = Trimmed(line.substr(word.size()));
+    return word;
+}
+
+std::string Joined(const std::vector<std::string>& items) {
+    std::string text;
+    for (const std::string& item : items) text += (text.empty() ? "" : "; ") + item;
+    return text.empty() ? "none" : text;
+}
+
+}  // namespace
+
+Desk::Desk() {
+    CurrentDesktop = &desktop;
+    program.Start();
+    desktop.Settle();
+}
+
+Desk::~Desk() { CurrentDesktop = nullptr; }
+
+std::string Desk::Obey(std::string_view line) try {
+    struct Verb {
+        std::string_view name;
+        std::string (Desk::*obey)(std::string_view rest);
+    };
+    constexpr Verb verbs[] = {
+        {"call", &Desk::Call},         {"set", &Desk::Set},
+        {"get", &Desk::Get},           {"press", &Desk::Press},
+        {"menu", &Desk::Menu},         {"click", &Desk::Click},
+        {"dblclick", &Desk::DblClick}, {"rightclick", &Desk::RightClick},
+        {"focus", &Desk::Focus},       {"close", &Desk::Close},
+        {"type", &Desk::Type},         {"answer", &Desk::Answer},
+        {"show", &Desk::Show},         {"events", &Desk::Events},
+        {"asked", &Desk::Asked},
+    };
+    std::string_view rest = line;
+    const std::string_view name = TakeWord(rest);
+    const auto* verb = std::ranges::find(verbs, name, &Verb::name);
+    if (verb == std::end(verbs)) throw BadLine("no such line: " + std::string(name));
+    if (desktop.ended && verb->obey != &Desk::Asked) throw BadLine("the program has ended");
+    const std::string answer = (this->*verb->obey)(rest);
+    desktop.Settle();
+    return answer;
+} catch (const BadLine& bad) {
+    return std::string("error: ") + bad.what();
+}
+
+std::string Desk::Call(std::string_view rest) {
+    const std::string name(TakeWord(rest));
+    const DeskFunction* function = FindDeskFunction(name);
+    if (!function) throw BadLine("no such function: " + name);
+    return function->call(program, WordsOf(rest));
+}
+
+/// Sets a variable as a command would, and so ends in an update.
+std::string Desk::Set(std::string_view rest) {
+    const std::string name(TakeWord(rest));
+    const DeskVariable* variable = FindDeskVariable(name);
+    if (!variable || !variable->set) throw BadLine("can't be set: " + name);
+    const std::vector<std::string> words = WordsOf(rest);
+    if (words.size() != 1) throw BadLine("takes one value");
+    variable->set(words[0]);
+    UpdateStatus();
+    return "ok";
+}
+
+std::string Desk::Get(std::string_view rest) {
+    const DeskVariable* variable = FindDeskVariable(rest);
+    if (!variable) throw BadLine("no such variable: " + std::string(rest));
+    return variable->get();
+}
+
+std::string Desk::Press(std::string_view rest) {
+    const int code = CodeOf(TakeWord(rest));
+    int shift = 0;
+    while (!rest.empty()) shift |= ShiftOf(TakeWord(rest));
+    if (!desktop.Press(code, shift)) throw BadLine("no window has the focus");
+    return "ok";
+}
+
+std::string Desk::Menu(std::string_view rest) {
+    MenuItem* item = rest.empty() ? nullptr : program.frame.menuBar.Find(rest);
+    if (!item || !item->Click) throw BadLine("no such menu item: " + std::string(rest));
+    item->Click();
+    return "ok";
+}
+
+/// A button that is clicked gets the focus; labels don't take it.
+std::string Desk::Act(std::string_view rest, std::function<void()> Control::*callback) {
+    Control& control = ControlNamed(rest);
+    if (!control.form.visible || !control.visible || !control.enabled) throw BadLine("not shown: " + std::string(rest));
+    if (!(control.*callback)) throw BadLine("nothing happens there");
+    if (dynamic_cast<Button*>(&control)) desktop.Focus(control);
+    (control.*callback)();
+    return "ok";
+}
+
+std::string Desk::Click(std::string_view rest) { return Act(rest, &Control::Click); }
+std::string Desk::DblClick(std::string_view rest) { return Act(rest, &Control::DblClick); }
+std::string Desk::RightClick(std::string_view rest) { return Act(rest, &Control::RightClick); }
+
+std::string Desk::Focus(std::string_view rest) {
+    desktop.Focus(ControlNamed(rest));
+    return "ok";
+}
+
+std::string Desk::Close(std::string_view rest) {
+    const std::function<void()>& close = rest == program.frame.name ? program.frame.Close : FormNamed(rest).Close;
+    if (!close) throw BadLine("can't be closed: " + std::string(rest));
+    close();
+    return "ok";
+}
+
+std::string Desk::Type(std::string_view rest) {
+    auto* field = dynamic_cast<TextField*>(&ControlNamed(TakeWord(rest)));
+    if (!field || !desktop.Type(*field, rest)) throw BadLine("nothing can be typed there");
+    return "ok";
+}
+
+std::string Desk::Answer(std::string_view rest) {
+    const std::string_view word = TakeWord(rest);
+    BoxAnswer answer;
+    if (word == "yes") {
+        answer.kind = BoxAnswer::yes;
+    } else if (word == "no") {
+        answer.kind = BoxAnswer::no;
+    } else if (const auto number = ParseNumber(rest); word == "color" && number) {
+        answer = {BoxAnswer::color, Color::FromNumber(WholeNumber(*number))};
+    } else if (word != "cancel") {
+        throw BadLine("no such answer: " + std::string(word));
+    }
+    desktop.answers.push_back(answer);
+    return "ok";
+}
+
+std::string Desk::Show(std::string_view rest) {
+    const Form& form = FormNamed(rest);
+    std::vector<std::string> items{form.name + " " + Quoted(form.text) + (form.visible ? "" : " hidden")};
+    for (const Control* control : form.controls) {
+        items.push_back(control->name + " " + Quoted(control->text) + " " + Quoted(control->tooltip) +
+                        (control->visible ? "" : " hidden") + (control->enabled ? "" : " disabled") +
+                        (control == desktop.focused ? " focus" : ""));
+    }
+    return Joined(items);
+}
+
+std::string Desk::Events(std::string_view) {
+    std::vector<std::string> items;
+    for (const day_events::Event& event : day_events::List()) {
+        items.push_back(Quoted(event.calendar) + " " + Quoted(event.date) + " " + Quoted(event.text));
+    }
+    return Joined(items);
+}
+
+std::string Desk::Asked(std::string_view) { return Joined(std::exchange(desktop.asked, {})); }
+
+Form& Desk::FormNamed(std::string_view name) const {
+    for (Form* form : program.forms) {
+        if (form->name == name) return *form;
+    }
+    throw BadLine("no such window: " + std::string(name));
+}
+
+Control& Desk::ControlNamed(std::string_view name) const {
+    const std::size_t point = name.find('.');
+    const Form& form = FormNamed(name.substr(0, point));
+    Control* control = point == std::string_view::npos ? nullptr : form.Find(name.substr(point + 1));
+    if (!control) throw BadLine("no such control: " + std::string(name));
+    return *control;
+}
+
+}  // namespace horvanta

@@ -1,0 +1,47 @@
+#pragma once
+
+#include <functional>
+#include <string>
+#include <string_view>
+
+#include "app/horvanta.h"
+#include "recording_desktop.h"
+
+namespace horvanta {
+
+/// The whole program without a display, driven by lines of text. Each line gets one line in answer; CONTRIBUTING
+/// tells the lines.
+class Desk {
+  public:
+    Desk();
+    ~Desk();
+
+    /// Does what a line says and returns the answer, without a line end.
+    std::string Obey(std::string_view line);
+
+    RecordingDesktop desktop;
+    Horvanta program;
+
+  private:
+    std::string Call(std::string_view rest);
+    std::string Set(std::string_view rest);
+    std::string Get(std::string_view rest);
+    std::string Press(std::string_view rest);
+    std::string Menu(std::string_view rest);
+    std::string Act(std::string_view rest, std::function<void()> Control::*callback);
+    std::string Click(std::string_view rest);
+    std::string DblClick(std::string_view rest);
+    std::string RightClick(std::string_view rest);
+    std::string Focus(std::string_view rest);
+    std::string Close(std::string_view rest);
+    std::string Type(std::string_view rest);
+    std::string Answer(std::string_view rest);
+    std::string Show(std::string_view rest);
+    std::string Events(std::string_view rest);
+    std::string Asked(std::string_view rest);
+
+    Control& ControlNamed(std::string_view name) const;
+    Form& FormNamed(std::string_view name) const;
+};
+
+}  // namespace horvanta

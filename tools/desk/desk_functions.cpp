@@ -1,0 +1,384 @@
+#include "desk_functions.h"
+
+#include <algorithm>
+#include <limits>
+#include <utility>
+
+#include "app/horvanta.h"
+#include "calendars/gregorian.h"
+#include "calendars/gregorian_window.h"
+#include "core/moment.h"
+#include "core/text.h"
+#include "recording_desktop.h"
+
+namespace horvanta {
+namespace {
+
+// From words to arguments.
+
+template <class T>
+struct Read;
+
+template <>
+struct Read<double> {
+    static double From(const std::string& word) {
+        if (word == "never") return NeverMoment;
+        const auto number = ParseNumber(word);
+        if (!number) throw BadLine("not a number: " + word);
+        return *number;
+    }
+};
+
+template <std::integral Integer>
+struct Read<Integer> {
+    static Integer From(const std::string& word) {
+        const double number = Read<double>::From(word);
+        const auto whole = WholeNumber<Integer>(number);
+        if (static_cast<double>(whole) != number) throw BadLine("not a whole number that fits: " + word);
+        return whole;
+    }
+};
+
+template <>
+struct Read<bool> {
+    static bool From(const std::string& word) {
+        if (word != "true" && word != "false") throw BadLine("neither true nor false: " + word);
+        return word == "true";
+    }
+};
+
+template <>
+struct Read<std::string> {
+    static std::string From(const std::string& word) { return word; }
+};
+
+template <>
+struct Read<std::string_view> : Read<std::string> {};
+
+// From results to answers.
+
+std::string AnswerOf(double x) { return NumberAnswer(x); }
+std::string AnswerOf(std::integral auto x) { return std::to_string(x); }
+std::string AnswerOf(bool x) { return x ? "true" : "false"; }
+std::string AnswerOf(const std::string& text) { return Quoted(text); }
+
+template <class T>
+std::string AnswerOf(const std::optional<T>& x) {
+    return x ? AnswerOf(*x) : "none";
+}
+
+/// A record as name=value fields in their order.
+class Fields {
+  public:
+    Fields& Add(std::string_view name, const auto& value) {
+        text_ += (text_.empty() ? "" : " ") + std::string(name) + "=" + AnswerOf(value);
+        return *this;
+    }
+    const std::string& Text() const { return text_; }
+
+  private:
+    std::string text_;
+};
+
+std::string AnswerOf(const GregorianDate& d) {
+    return Fields()
+        .Add("fixed", d.fixed)
+        .Add("yearDay", d.yearDay)
+        .Add("year", d.year)
+        .Add("month", d.month)
+        .Add("day", d.day)
+        .Add("weekday", d.weekday)
+        .Add("weekdayName", std::string(d.weekdayName))
+        .Text();
+}
+
+std::string AnswerOf(const ISODate& d) {
+    return Fields()
+        .Add("fixed", d.fixed)
+        .Add("year", d.year)
+        .Add("week", d.week)
+        .Add("weekday", d.weekday)
+        .Add("ordinalDay", d.ordinalDay)
+        .Add("isLeap", d.isLeap)
+        .Text();
+}
+
+std::string AnswerOf(const GridDate& d) {
+    return Fields()
+        .Add("year", d.year)
+        .Add("month", d.month)
+        .Add("day", d.day)
+        .Add("monthLength", d.monthLength)
+        .Add("firstWeekday", d.firstWeekday)
+        .Text();
+}
+
+struct Bezout {
+    std::int32_t divisor;
+    std::int32_t x;
+    std::int32_t y;
+};
+
+std::string AnswerOf(const Bezout& b) {
+    return Fields().Add("divisor", b.divisor).Add("x", b.x).Add("y", b.y).Text();
+}
+
+std::string ListAnswer(const auto& items) {
+    std::string text;
+    for (const std::string& item : items) text += (text.empty() ? "" : "; ") + Quoted(item);
+    return text;
+}
+
+std::string AnswerOf(const ChoiceList& list) {
+    return ListAnswer(list.items) + "; selected=" + std::to_string(list.selected);
+}
+
+// Rows.
+
+/// Calls a function with the words read as its arguments.
+template <class... Arguments, class Function>
+std::string CallWith(std::span<const std::string> words, const Function& function) {
+    if (words.size() != sizeof...(Arguments)) {
+        throw BadLine("takes " + std::to_string(sizeof...(Arguments)) + " arguments");
+    }
+    const auto call = [&]<std::size_t... i>(std::index_sequence<i...>) {
+        return function(Read<std::remove_cvref_t<Arguments>>::From(words[i])...);
+    };
+    constexpr auto indices = std::index_sequence_for<Arguments...>();
+    if constexpr (std::is_void_v<decltype(call(indices))>) {
+        call(indices);
+        return "ok";
+    } else {
+        return AnswerOf(call(indices));
+    }
+}
+
+template <class Result, class... Arguments>
+DeskFunction Row(std::string_view name, Result (*function)(Arguments...)) {
+    return {name, [function](Horvanta&, std::span<const std::string> words) {
+                return CallWith<Arguments...>(words, function);
+            }};
+}
+
+DeskFunction ListRow(std::string_view name, double (*function)(std::span<const double>)) {
+    return {name, [function](Horvanta&, std::span<const std::string> words) {
+                std::vector<double> list;
+                std::transform(words.begin(), words.end(), std::back_inserter(list), Read<double>::From);
+                return AnswerOf(function(list));
+            }};
+}
+
+/// A command of the time window.
+template <class... Arguments>
+DeskFunction TimeRow(std::string_view name, void (TimeAstro::*command)(Arguments...)) {
+    return {name, [command](Horvanta& program, std::span<const std::string> words) {
+                return CallWith<Arguments...>(words, [&](Arguments... a) { (program.timeAstro.*command)(a...); });
+            }};
+}
+
+DeskFunction MonthNamesRow(std::string_view name, const CalendarContract& calendar) {
+    return {name, [&calendar](Horvanta&, std::span<const std::string>) {
+                Form form("Desk", "");
+                ChoiceList list(form, "Months");
+                calendar.SetMonthNames(list, calendar.GetDate().year);
+                return AnswerOf(list);
+            }};
+}
+
+DeskFunction DayNamesRow(std::string_view name, const CalendarContract& calendar) {
+    return {name, [&calendar](Horvanta&, std::span<const std::string>) {
+                DayNames longNames;
+                DayNames shortNames;
+                calendar.SetDayNames(longNames, shortNames);
+                return ListAnswer(longNames) + "; " + ListAnswer(shortNames);
+            }};
+}
+
+using OneNumber = double (*)(double);
+using TwoNumbers = double (*)(double, double);
+using NumberAndPlaces = double (*)(double, int);
+using NumberList = double (*)(std::span<const double>);
+
+const std::vector<DeskFunction> functions{
+    Row("Floor", Floor),
+    Row("Ceiling", Ceiling),
+    Row("Modulo", Modulo),
+    Row("AdjustedModulo", AdjustedModulo),
+    Row("ModuloRange", ModuloRange),
+    Row("Quotient", Quotient),
+    Row("Round", static_cast<OneNumber>(Round)),
+    Row("RoundToPlaces", static_cast<NumberAndPlaces>(Round)),
+    Row("Sign", Sign),
+    Row("GCD", GCD),
+    Row("ExtGCD", +[](std::int32_t a, std::int32_t b) {
+            Bezout result{};
+            result.divisor = ExtGCD(a, b, result.x, result.y);
+            return result;
+        }),
+    Row("ModInverse", ModInverse),
+    ListRow("MaxOf", static_cast<NumberList>(MaxOf)),
+    ListRow("MinOf", static_cast<NumberList>(MinOf)),
+    Row("HoursToDays", HoursToDays),
+    Row("SecToDeg", SecToDeg),
+    Row("Deg", Deg),
+    Row("Degrees", Degrees),
+    Row("Radians", Radians),
+    Row("RadToDeg", RadToDeg),
+    Row("SinDeg", SinDeg),
+    Row("CosDeg", CosDeg),
+    Row("TanDeg", TanDeg),
+    Row("ArcSinRad", ArcSinRad),
+    Row("ArcCosRad", ArcCosRad),
+    Row("ArcSinDeg", ArcSinDeg),
+    Row("ArcCosDeg", ArcCosDeg),
+    Row("ArcTanRad", static_cast<TwoNumbers>(ArcTanRad)),
+    Row("ArcTan2Rad", ArcTan2Rad),
+    Row("ArcTan2Deg", ArcTan2Deg),
+    Row("DegMinSec", DegMinSec),
+    Row("HMSToHours", HMSToHours),
+    Row("HMSToDegrees", HMSToDegrees),
+    Row("FeetToMeters", FeetToMeters),
+    Row("MetersToFeet", MetersToFeet),
+    Row("ZoneFromLongitude", ZoneFromLongitude),
+    Row("DayFraction", DayFraction),
+    Row("RoundToDigits", RoundToDigits),
+
+    Row("SetFixedDayEpoch", SetFixedDayEpoch),
+    Row("ChangeFixedDayEpoch", ChangeFixedDayEpoch),
+    Row("DayOfWeek", DayOfWeek),
+    Row("KDayOnOrBefore", KDayOnOrBefore),
+    Row("KDayBefore", KDayBefore),
+    Row("KDayOnOrAfter", KDayOnOrAfter),
+    Row("KDayAfter", KDayAfter),
+    Row("KDayNearest", KDayNearest),
+    Row("NthKDay", NthKDay),
+    Row("FirstKDay", FirstKDay),
+    Row("LastKDay", LastKDay),
+    Row("CountKDaysInRange", CountKDaysInRange),
+
+    Row("GeneralText", GeneralText),
+    Row("FormatNumber", FormatNumber),
+    Row("ParseNumber", ParseNumber),
+    Row("ParseLeadingNumber", ParseLeadingNumber),
+    Row("SignedStr", SignedStr),
+    Row("OrdinalString", OrdinalString),
+    Row("OrdinalDiff", OrdinalDiff),
+    Row("FormatTime", FormatTime),
+    Row("DurationString", DurationString),
+    Row("TimeOfDayFormat", TimeOfDayFormat),
+    Row("AngleString", AngleString),
+    Row("MinutesString", MinutesString),
+    Row("FractionText", FractionText),
+    Row("FractionParts", FractionParts),
+    Row("ReplaceAll", ReplaceAll),
+    Row("RemoveAmpersands", RemoveAmpersands),
+    Row("UnderscoresToBlanks", UnderscoresToBlanks),
+    Row("WrapIfNotEmpty", WrapIfNotEmpty),
+
+    Row("ClampToRange", ClampToRange),
+    Row("UpdateStatus", UpdateStatus),
+    Row("Today", Today),
+    Row("Now", Now),
+    TimeRow("JumpDate", &TimeAstro::JumpDate),
+    TimeRow("DayUpDown", &TimeAstro::DayUpDown),
+    TimeRow("StepMenu_Click", &TimeAstro::StepMenu_Click),
+
+    Row("isGregorianLeapYear", isGregorianLeapYear),
+    Row("GregorianToFixed", GregorianToFixed),
+    Row("GregorianYearEnd", GregorianYearEnd),
+    Row("FixedToGregorianYear", FixedToGregorianYear),
+    Row("FixedToGregorianDate", FixedToGregorianDate),
+    Row("GregorianMonthLength", GregorianMonthLength),
+    Row("FixedToGregorianString", FixedToGregorianString),
+    Row("GregorianDominicalLetters", GregorianDominicalLetters),
+    Row("ISOToFixed", ISOToFixed),
+    Row("isISOLeapYear", isISOLeapYear),
+    Row("FixedToISODate", FixedToISODate),
+    Row("FixedToISOString", +[](Moment x) { return ISODateString(FixedToISODate(x)); }),
+    Row("Gregorian.ToFixed", GregorianWindow::ToFixed),
+    Row("Gregorian.GetDate", GregorianWindow::GetDate),
+    MonthNamesRow("Gregorian.SetMonthNames", GregorianCalendar),
+    DayNamesRow("Gregorian.SetDayNames", GregorianCalendar),
+    Row("Gregorian.ToFixedAlt", GregorianWindow::ToFixedAlt),
+    Row("Gregorian.GetDateAlt", GregorianWindow::GetDateAlt),
+    MonthNamesRow("Gregorian.SetMonthNamesAlt", ISOCalendar),
+    DayNamesRow("Gregorian.SetDayNamesAlt", ISOCalendar),
+};
+
+template <class T>
+DeskVariable Variable(std::string_view name, T& variable) {
+    return {name, [&variable] { return AnswerOf(variable); },
+            [&variable](const std::string& word) { variable = Read<T>::From(word); }};
+}
+
+/// A variable that only the engine writes.
+template <class T>
+DeskVariable Constant(std::string_view name, const T& variable) {
+    return {name, [&variable] { return AnswerOf(variable); }, nullptr};
+}
+
+const std::vector<DeskVariable> variables{
+    Variable("DisplayedMoment", DisplayedMoment),
+    Variable("SavedMoment", SavedMoment),
+    Variable("Increment", Increment),
+    Variable("BusyCount", BusyCount),
+    Variable("AlwaysToday", AlwaysToday),
+    Variable("TempHourFormat", TempHourFormat),
+    Constant("StepIndex", StepIndex),
+    Constant("UpdateDepth", UpdateDepth),
+    Constant("Quitting", Quitting),
+    Constant("GregorianEpoch", GregorianEpoch),
+    Constant("WeekdayOffset", WeekdayOffset),
+    Constant("JulianEpoch", JulianEpoch),
+    Constant("MinFixedDay", MinFixedDay),
+    Constant("MaxFixedDay", MaxFixedDay),
+    Constant("HebrewEpoch", HebrewEpoch),
+    Constant("J2000", J2000),
+    Constant("Epoch2001", Epoch2001),
+    Constant("JDEpoch", JDEpoch),
+    Constant("MJDEpoch", MJDEpoch),
+    Constant("TJDEpoch", TJDEpoch),
+    Constant("FixedEpochName", FixedEpochName),
+    Constant("FixedEpochValue", FixedEpochValue),
+    Constant("NumberingSerial", NumberingSerial),
+};
+
+template <class Rows>
+auto* FindByName(const Rows& rows, std::string_view name) {
+    const auto found = std::find_if(rows.begin(), rows.end(), [&](const auto& row) { return row.name == name; });
+    return found == rows.end() ? nullptr : &*found;
+}
+
+}  // namespace
+
+std::vector<std::string> WordsOf(std::string_view line) {
+    std::vector<std::string> words;
+    bool inWord = false;
+    bool quoted = false;
+    for (std::size_t i = 0; i < line.size(); ++i) {
+        const char c = line[i];
+        if (!quoted && (c == ' ' || c == '\t')) {
+            inWord = false;
+            continue;
+        }
+        if (!std::exchange(inWord, true)) words.emplace_back();
+        const bool escape = quoted && c == '\\' && i + 1 < line.size();
+        if (escape) {
+            const char next = line[++i];
+            words.back() += next == 'n' ? '\n' : next;
+        } else if (c == '"') {
+            quoted = !quoted;
+        } else {
+            words.back() += c;
+        }
+    }
+    if (quoted) throw BadLine("a quote is not closed");
+    return words;
+}
+
+std::string NumberAnswer(double x) { return x == NeverMoment ? "never" : ExactText(x); }
+
+const DeskFunction* FindDeskFunction(std::string_view name) { return FindByName(functions, name); }
+const DeskVariable* FindDeskVariable(std::string_view name) { return FindByName(variables, name); }
+
+}  // namespace horvanta

@@ -1,0 +1,9 @@
+#include <iostream>
+#include <string>
+
+#include "desk.h"
+
+int main() {
+    horvanta::Desk desk;
+    for (std::string line; std::getline(std::cin, line);) std::cout << desk.Obey(line) << std::endl;
+}
