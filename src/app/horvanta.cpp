@@ -1,12 +1,12 @@
 #include "app/horvanta.h"
 
-#include <ranges>
-
 #include "app/jumps.h"
 #include "app/stored_settings.h"
 #include "app/update_cycle.h"
 #include "core/desktop.h"
 #include "core/moment.h"
+
+#include <ranges>
 
 namespace horvanta {
 

@@ -12,7 +12,8 @@ constexpr double gap = 20;  // twips between windows that have not been moved
 
 /// A window's colours: where they are shown, how they are set, and their keys.
 template <class Window>
-void LoadColors(Window& window, const ColorPair& shown, std::string_view backgroundKey, std::string_view foregroundKey) {
+void LoadColors(Window& window, const ColorPair& shown, std::string_view backgroundKey,
+                std::string_view foregroundKey) {
     const ColorPair standard = shown;
     const auto stored = [](std::string_view key, Color otherwise) {
         return Color::FromNumber(GetLongPref(ProgramSettings, "Color", key, otherwise.Number()));
@@ -29,8 +30,9 @@ void SaveColors(const ColorPair& shown, std::string_view backgroundKey, std::str
 }  // namespace
 
 void LoadFramePrefs(HorvantaMDI& frame) {
-    frame.state = static_cast<FrameState>(GetLongPref(ProgramSettings, frame.name, "State", FrameMaximized));
-    if (frame.state != FrameNormal) return;
+    const bool normal = GetLongPref(ProgramSettings, frame.name, "State", FrameMaximized) == FrameNormal;
+    frame.state = normal ? FrameNormal : FrameMaximized;
+    if (!normal) return;
     frame.place.top = GetDoublePref(ProgramSettings, frame.name, "Top", 0);
     frame.place.left = GetDoublePref(ProgramSettings, frame.name, "Left", 0);
     frame.place.width = GetDoublePref(ProgramSettings, frame.name, "Width", 0);

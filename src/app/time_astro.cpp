@@ -1,11 +1,11 @@
 #include "app/time_astro.h"
 
-#include <algorithm>
-
 #include "calendars/gregorian.h"
 #include "core/desktop.h"
 #include "core/moment.h"
 #include "core/text.h"
+
+#include <algorithm>
 
 namespace horvanta {
 namespace {
@@ -59,7 +59,7 @@ TimeAstro::TimeAstro(HorvantaMDI& frame) : frame_(frame) {
     frame.Form_KeyDown = form.KeyDown;
     frame.TakeFocus = [this] { TakeFocus(); };
     frame.ShowClipboardText = [this](const std::string& clip) { ClipBoardStatus.text = clip; };
-    for (std::int32_t index = 1; MenuItem& item : frame.StepMenu) {
+    for (std::int32_t index = 1; MenuItem & item : frame.StepMenu) {
         item.Shows(StepIndex, index);
         item.Click = [this, index] { StepMenu_Click(index); };
         ++index;

@@ -1,9 +1,9 @@
 #pragma once
 
-#include <cstdint>
-
 #include "core/controls.h"
 #include "core/shell.h"
+
+#include <cstdint>
 
 namespace horvanta {
 

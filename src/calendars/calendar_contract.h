@@ -1,12 +1,12 @@
 #pragma once
 
+#include "core/controls.h"
+#include "core/numerics.h"
+
 #include <array>
 #include <cstdint>
 #include <string>
 #include <string_view>
-
-#include "core/controls.h"
-#include "core/numerics.h"
 
 /// What every calendar answers to whoever lays out its months, without either knowing the other.
 namespace horvanta {

@@ -3,25 +3,34 @@
 #include "core/moment.h"
 #include "core/text.h"
 
+#include <algorithm>
+#include <concepts>
+#include <optional>
+
 namespace horvanta {
 namespace {
 
 using Days = std::int64_t;
 
-/// Whole days and years need no doubles: their quotients lie on an integer or at least 1/146097 beside it, so that
-/// 64-bit division gives the dates of `Floor`, faster.
-constexpr Days FloorDivide(Days a, Days b) { return a / b - (a % b < 0); }
+// Whole days and years need no doubles: their quotients lie on an integer or at least 1/146097 beside it, so that
+// integer division gives the dates of `Floor`, faster.
 
+constexpr Days daysInCycle = 146097;
+constexpr Days yearsInCycle = 400;
+
+constexpr Days FloorDivide(Days a, Days b) { return a / b - (a % b < 0); }
 constexpr Days FloorModulo(Days a, Days b) { return a - FloorDivide(a, b) * b; }
 
-constexpr bool isLeap(Days year) { return year % (year % 100 == 0 ? 400 : 4) == 0; }
+/// A multiple of 25 is a leap year if 16 divides it, since then 400 does.
+constexpr bool isLeap(std::integral auto year) { return (year & (year % 25 == 0 ? 15 : 3)) == 0; }
 
-/// The days of all years from 1 to `year`; negative before year 0.
+/// The days of all years from 1 to `year`; negative before year 0. A shift is a floored division.
 constexpr Days DaysThroughYear(Days year) {
-    return 365 * year + FloorDivide(year, 4) - FloorDivide(year, 100) + FloorDivide(year, 400);
+    const Days centuries = FloorDivide(year, 100);
+    return 365 * year + (year >> 2) - centuries + (centuries >> 2);
 }
 
-/// The day of the year on which the day before a month's first falls.
+/// The days of a year before the first of a month.
 constexpr Days DaysBeforeMonth(Days month, bool leap) {
     const Days correction = month <= 2 ? 0 : leap ? -1 : -2;
     return FloorDivide(367 * month - 362, 12) + correction;
@@ -35,20 +44,30 @@ Days DaysSinceEpoch(Moment x) {
     return days > -limit ? static_cast<Days>(days) : static_cast<Days>(-limit);
 }
 
-Days YearOf(Days daysSinceEpoch) {
-    const Days n400 = FloorDivide(daysSinceEpoch, 146097);
-    const Days d1 = daysSinceEpoch - n400 * 146097;  // [0, 146096]
-    const Days n100 = d1 / 36524;                    // [0, 4]
-    const Days d2 = d1 - n100 * 36524;               // [0, 36523]
-    const Days n4 = d2 / 1461;                       // [0, 24]
-    const Days n1 = (d2 - n4 * 1461) / 365;          // [0, 4]
-    const bool lastDayOfCycle = n100 == 4 || n1 == 4;
-    return 400 * n400 + 100 * n100 + 4 * n4 + n1 + (lastDayOfCycle ? 0 : 1);
+struct DayOfYear {
+    Days year;
+    std::uint32_t prior;  ///< Days of the year before this one.
+    bool leap;
+    std::uint32_t weekday;
+};
+
+/// In quarters of a day, centuries and years are 146097 and 1461 long on the average, and the odd day falls at the end
+/// of the last of four, where the calendar has it (Neri and Schneider, Euclidean affine functions and their
+/// application to calendar algorithms). A cycle is a whole number of weeks and begins on a Monday.
+inline DayOfYear DayOfYearOf(Days daysSinceEpoch) {
+    const Days cycle = FloorDivide(daysSinceEpoch, daysInCycle);
+    const auto day = static_cast<std::uint32_t>(daysSinceEpoch - cycle * daysInCycle);  // [0, 146096]
+    const std::uint32_t century = (4 * day + 3) / 146097;                               // [0, 3]
+    const std::uint32_t dayOfCentury = (4 * day + 3) % 146097 / 4;                      // [0, 36524]
+    const std::uint32_t year = (4 * dayOfCentury + 3) / 1461;                           // [0, 99]
+    const std::uint32_t prior = (4 * dayOfCentury + 3) % 1461 / 4;                      // [0, 365]
+    const bool leap = year % 4 == 3 && (year != 99 || century == 3);
+    return {yearsInCycle * cycle + 100 * century + year + 1, prior, leap, (day + 1) % 7};
 }
 
 // With years of 64 bits, so that the year before the first and after the last of 32 bits has its days too.
-FixedDay FixedOf(Days year, Days month, Days day) {
-    const Days days = DaysThroughYear(year - 1) + DaysBeforeMonth(month, isLeap(year)) + day;
+FixedDay FixedOf(Days year, Days month, Days day, bool leap) {
+    const Days days = DaysThroughYear(year - 1) + DaysBeforeMonth(month, leap) + day;
     return GregorianEpoch - 1 + static_cast<double>(days);
 }
 
@@ -59,31 +78,28 @@ FixedDay YearEndOf(Days year) { return GregorianEpoch - 1 + static_cast<double>(
 bool isGregorianLeapYear(std::int32_t year) { return isLeap(year); }
 
 FixedDay GregorianToFixed(std::int32_t year, std::int32_t month, std::int32_t day) {
-    return FixedOf(year, month, day);
+    return FixedOf(year, month, day, isLeap(year));
 }
 
 FixedDay GregorianYearEnd(std::int32_t year) { return YearEndOf(year); }
 
-std::int32_t FixedToGregorianYear(Moment x) { return WholeNumber(static_cast<double>(YearOf(DaysSinceEpoch(x)))); }
+std::int32_t FixedToGregorianYear(Moment x) { return static_cast<std::int32_t>(DayOfYearOf(DaysSinceEpoch(x)).year); }
 
 GregorianDate FixedToGregorianDate(Moment x) {
     const Days days = DaysSinceEpoch(x);
-    const Days year = YearOf(days);
-    const bool leap = isLeap(year);
-    const Days prior = days - DaysThroughYear(year - 1);  // [0, 365]
-    const bool beforeMarch = prior < (leap ? 60 : 59);
-    const Days correction = beforeMarch ? 0 : leap ? 1 : 2;
-    const Days month = (12 * (prior + correction) + 373) / 367;  // [1, 12]
+    const auto [year, prior, leap, weekday] = DayOfYearOf(days);
+    const bool beforeMarch = prior < (leap ? 60U : 59U);
+    const std::uint32_t correction = beforeMarch ? 0 : leap ? 1 : 2;
+    const std::uint32_t month = (12 * (prior + correction) + 373) / 367;       // [1, 12]
+    const std::uint32_t firstOfMonth = (367 * month - 362) / 12 - correction;  // [0, 335]
 
-    GregorianDate date;
-    date.fixed = GregorianEpoch + static_cast<double>(days);
-    date.yearDay = static_cast<std::int16_t>(prior + 1);
-    date.year = static_cast<std::int32_t>(year);
-    date.month = static_cast<std::int32_t>(month);
-    date.day = static_cast<std::int16_t>(prior + 1 - DaysBeforeMonth(month, leap));
-    date.weekday = static_cast<std::int32_t>(FloorModulo(days + 1, 7));
-    date.weekdayName = WeekdayNames[date.weekday];
-    return date;
+    return {.fixed = GregorianEpoch + static_cast<double>(days),
+            .yearDay = static_cast<std::int16_t>(prior + 1),
+            .year = static_cast<std::int32_t>(year),
+            .month = static_cast<std::int32_t>(month),
+            .day = static_cast<std::int16_t>(prior - firstOfMonth + 1),
+            .weekday = static_cast<std::int32_t>(weekday),
+            .weekdayName = WeekdayNames[weekday]};
 }
 
 std::int16_t GregorianMonthLength(std::int32_t year, std::int32_t month) {
@@ -108,7 +124,7 @@ std::string GregorianDominicalLetters(std::int32_t year) {
 }
 
 FixedDay ISOToFixed(std::int32_t year, std::int32_t week, std::int32_t weekday) {
-    return NthKDay(week, 0, FixedOf(Days{year} - 1, 12, 28)) + weekday;
+    return NthKDay(week, 0, FixedOf(Days{year} - 1, 12, 28, isLeap(Days{year} - 1))) + weekday;
 }
 
 bool isISOLeapYear(std::int32_t year) {

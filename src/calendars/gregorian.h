@@ -1,10 +1,10 @@
 #pragma once
 
+#include "core/numbering.h"
+
 #include <cstdint>
 #include <string>
 #include <string_view>
-
-#include "core/numbering.h"
 
 /// The proleptic Gregorian calendar, through which the day numbers are defined, and the ISO week calendar. Both have
 /// a year 0 (1 BC) and negative years. The conversions follow Reingold and Dershowitz, Calendrical Calculations;
@@ -24,8 +24,8 @@ struct GregorianDate {
     FixedDay fixed = 0;
     std::int16_t yearDay = 0;  ///< 1 on January 1.
     std::int32_t year = 0;
-    std::int32_t month = 0;  ///< 1 to 12.
-    std::int16_t day = 0;    ///< 1 to 31.
+    std::int32_t month = 0;    ///< 1 to 12.
+    std::int16_t day = 0;      ///< 1 to 31.
     std::int32_t weekday = 0;  ///< 0 = Sunday.
     std::string_view weekdayName;
 };

@@ -1,11 +1,11 @@
 #include "calendars/gregorian_window.h"
 
-#include <algorithm>
-
 #include "core/day_events.h"
 #include "core/desktop.h"
 #include "core/moment.h"
 #include "core/text.h"
+
+#include <algorithm>
 
 namespace horvanta {
 namespace {
@@ -73,9 +73,7 @@ GregorianWindow::GregorianWindow(HorvantaMDI& frame) : frame_(frame) {
     for (Label* label : {&GregorianDate, &TheISOdate, &Dominical}) {
         label->Click = [this, label] { frame_.SetClipboardText(label->text); };
     }
-    DayNumInGregYear.Click = [this] {
-        frame_.SetClipboardText(std::string(FromCharacter(DayNumInGregYear.text, 15)));
-    };
+    DayNumInGregYear.Click = [this] { frame_.SetClipboardText(std::string(FromCharacter(DayNumInGregYear.text, 15))); };
     isoOrdinalDay.Click = [this] { frame_.SetClipboardText(std::string(FromCharacter(isoOrdinalDay.text, 9))); };
     GregCycleInfo.Click = [this] { GregCycleInfo_Click(); };
     GregorianDate.DblClick = [this] { PickBackgroundColor(); };
@@ -168,15 +166,13 @@ void GregorianWindow::InfoGreg_Click() {
     frame_.AskCopyToClipboard(std::string(gregorianInformation), "The Gregorian Calendar");
 }
 
-void GregorianWindow::isoInfo_Click() {
-    frame_.AskCopyToClipboard(std::string(isoInformation), "The ISO Calendar");
-}
+void GregorianWindow::isoInfo_Click() { frame_.AskCopyToClipboard(std::string(isoInformation), "The ISO Calendar"); }
 
 void GregorianWindow::GregCycleInfo_Click() {
     const std::int32_t year = DisplayedGregorianDate().year;
     frame_.SetClipboardText("Gregorian year " + std::to_string(year) + " (" +
-                            (isGregorianLeapYear(year) ? "" : "non-") + "leap) = " +
-                            ReplaceAll(GregCycleInfo.text, " cycle", " 400-year cycle"));
+                            (isGregorianLeapYear(year) ? "" : "non-") +
+                            "leap) = " + ReplaceAll(GregCycleInfo.text, " cycle", " 400-year cycle"));
 }
 
 void GregorianWindow::PickBackgroundColor() { PickColor(true); }

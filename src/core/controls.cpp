@@ -1,8 +1,8 @@
 #include "core/controls.h"
 
-#include <algorithm>
-
 #include "core/text.h"
+
+#include <algorithm>
 
 namespace horvanta {
 namespace {
@@ -21,8 +21,7 @@ bool hasWords(std::string_view text) {
 }  // namespace
 
 Color Shade(Color color, int strength) {
-    return {ShadeChannel(color.red, strength), ShadeChannel(color.green, strength),
-            ShadeChannel(color.blue, strength)};
+    return {ShadeChannel(color.red, strength), ShadeChannel(color.green, strength), ShadeChannel(color.blue, strength)};
 }
 
 void Control::JoinForm() { form.controls.push_back(this); }

@@ -144,9 +144,9 @@ class Form {
     const std::string name;
     std::string text;  ///< The caption.
     bool visible = false;
-    Place place;                        ///< The desktop reports the size, and where the user moved the window.
-    std::vector<Control*> controls;     ///< In the order of their construction.
-    Control* focusWish = nullptr;       ///< Gets the focus, and its form is raised, when the desktop draws next.
+    Place place;                     ///< The desktop reports the size, and where the user moved the window.
+    std::vector<Control*> controls;  ///< In the order of their construction.
+    Control* focusWish = nullptr;    ///< Gets the focus, and its form is raised, when the desktop draws next.
 
     /// Asked before the focused control; true if the key has been used up. `shift` holds the bits of `KeyShift`.
     std::function<bool(int code, int shift)> KeyDown;

@@ -1,10 +1,10 @@
 #pragma once
 
+#include "core/controls.h"
+
 #include <string>
 #include <string_view>
 #include <vector>
-
-#include "core/controls.h"
 
 /// What happens on the displayed day. The list is emptied when an update pass begins; each window adds its own.
 namespace horvanta::day_events {

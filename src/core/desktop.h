@@ -1,11 +1,11 @@
 #pragma once
 
+#include "core/controls.h"
+#include "core/preferences.h"
+
 #include <optional>
 #include <string>
 #include <string_view>
-
-#include "core/controls.h"
-#include "core/preferences.h"
 
 namespace horvanta {
 

@@ -1,21 +1,21 @@
 #pragma once
 
+#include "core/numbering.h"
+
 #include <cstdint>
 #include <functional>
-
-#include "core/numbering.h"
 
 /// The one moment that every window shows, and the update cycle that shows it.
 namespace horvanta {
 
-inline Moment DisplayedMoment = 0;   ///< Universal Time. 0 at start means that none was ever set.
-inline Moment SavedMoment = 0;       ///< Universal Time; what Save This Moment keeps.
-inline double Increment = 1;         ///< Days to a step of the step keys.
-inline std::int32_t StepIndex = 1;   ///< Which item of the step menu is chosen, from 1.
-inline bool AlwaysToday = true;      ///< Each start shows the present day.
-inline std::int16_t BusyCount = 0;   ///< While above 0, `UpdateStatus` only clamps.
-inline std::int16_t UpdateDepth = 0; ///< How many runs of `UpdateStatus` are pending.
-inline bool Quitting = false;        ///< The windows are being closed for good.
+inline Moment DisplayedMoment = 0;    ///< Universal Time. 0 at start means that none was ever set.
+inline Moment SavedMoment = 0;        ///< Universal Time; what Save This Moment keeps.
+inline double Increment = 1;          ///< Days to a step of the step keys.
+inline std::int32_t StepIndex = 1;    ///< Which item of the step menu is chosen, from 1.
+inline bool AlwaysToday = true;       ///< Each start shows the present day.
+inline std::int16_t BusyCount = 0;    ///< While above 0, `UpdateStatus` only clamps.
+inline std::int16_t UpdateDepth = 0;  ///< How many runs of `UpdateStatus` are pending.
+inline bool Quitting = false;         ///< The windows are being closed for good.
 
 /// Recomputes every open window from `DisplayedMoment`; one pass of `UpdateStatus`. The program hangs it here.
 inline std::function<void()> UpdatePass;

@@ -11,15 +11,9 @@ struct DerivedEpoch {
 };
 
 constexpr DerivedEpoch derivedEpochs[] = {
-    {&JulianEpoch, -2},
-    {&MinFixedDay, -2533804},
-    {&MaxFixedDay, -2533804 + 6916348},
-    {&HebrewEpoch, -1373428},
-    {&J2000, 730119.5},
-    {&Epoch2001, 730485},
-    {&UnixEpoch, 719162},
-    {&JDEpoch, -1721425.5},
-    {&MJDEpoch, 678575},
+    {&JulianEpoch, -2},       {&MinFixedDay, -2533804}, {&MaxFixedDay, -2533804 + 6916348},
+    {&HebrewEpoch, -1373428}, {&J2000, 730119.5},       {&Epoch2001, 730485},
+    {&UnixEpoch, 719162},     {&JDEpoch, -1721425.5},   {&MJDEpoch, 678575},
     {&TJDEpoch, 718575},
 };
 

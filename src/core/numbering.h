@@ -1,9 +1,9 @@
 #pragma once
 
+#include "core/numerics.h"
+
 #include <cstdint>
 #include <string>
-
-#include "core/numerics.h"
 
 /// The numbering of days, which the user can move, and the weekdays under any numbering.
 ///
@@ -14,17 +14,17 @@ namespace horvanta {
 inline double GregorianEpoch = 1;
 
 // The epochs below follow `GregorianEpoch`; `SetFixedDayEpoch` recomputes them all.
-inline double WeekdayOffset = 0;           ///< Keeps weekdays right under every numbering, in [0, 7).
-inline double JulianEpoch = -1;            ///< January 1 of Julian year 1.
-inline double MinFixedDay = -2533803;      ///< The first day that can be displayed.
-inline double MaxFixedDay = 4382545;       ///< The last day that can be displayed.
-inline double HebrewEpoch = -1373427;      ///< First day of the Hebrew count.
-inline double J2000 = 730120.5;            ///< January 1, 2000 at noon.
-inline double Epoch2001 = 730486;          ///< January 1, 2001.
-inline double UnixEpoch = 719163;          ///< January 1, 1970.
-inline double JDEpoch = -1721424.5;        ///< Julian Day zero.
-inline double MJDEpoch = 678576;           ///< Modified Julian Day zero.
-inline double TJDEpoch = 718576;           ///< Truncated Julian Day zero.
+inline double WeekdayOffset = 0;       ///< Keeps weekdays right under every numbering, in [0, 7).
+inline double JulianEpoch = -1;        ///< January 1 of Julian year 1.
+inline double MinFixedDay = -2533803;  ///< The first day that can be displayed.
+inline double MaxFixedDay = 4382545;   ///< The last day that can be displayed.
+inline double HebrewEpoch = -1373427;  ///< First day of the Hebrew count.
+inline double J2000 = 730120.5;        ///< January 1, 2000 at noon.
+inline double Epoch2001 = 730486;      ///< January 1, 2001.
+inline double UnixEpoch = 719163;      ///< January 1, 1970.
+inline double JDEpoch = -1721424.5;    ///< Julian Day zero.
+inline double MJDEpoch = 678576;       ///< Modified Julian Day zero.
+inline double TJDEpoch = 718576;       ///< Truncated Julian Day zero.
 
 /// What the user calls the numbering, and the day number that its epoch jump goes to.
 inline std::string FixedEpochName = "rata die";

@@ -15,8 +15,22 @@ struct Decade {
 };
 
 constexpr std::array<Decade, 16> decades{{
-    {1e0, 5e-16},  {1e1, 5e-15},  {1e2, 5e-14},  {1e3, 5e-13},  {1e4, 5e-12},  {1e5, 5e-11}, {1e6, 5e-10}, {1e7, 5e-9},
-    {1e8, 5e-8},   {1e9, 5e-7},   {1e10, 5e-6},  {1e11, 5e-5},  {1e12, 5e-4},  {1e13, 5e-3}, {1e14, 5e-2}, {1e15, 5e-1},
+    {1e0, 5e-16},
+    {1e1, 5e-15},
+    {1e2, 5e-14},
+    {1e3, 5e-13},
+    {1e4, 5e-12},
+    {1e5, 5e-11},
+    {1e6, 5e-10},
+    {1e7, 5e-9},
+    {1e8, 5e-8},
+    {1e9, 5e-7},
+    {1e10, 5e-6},
+    {1e11, 5e-5},
+    {1e12, 5e-4},
+    {1e13, 5e-3},
+    {1e14, 5e-2},
+    {1e15, 5e-1},
 }};
 
 }  // namespace
@@ -101,9 +115,7 @@ double ArcTanRad(double a, double b) {
     return b != 0 ? Sign(b) * 1.570796326794895 : a / b;
 }
 
-double ArcTan2Rad(double y, double x) {
-    return Modulo(std::atan(y / x) + (x < 0 ? HalfCircle : 0), 2 * HalfCircle);
-}
+double ArcTan2Rad(double y, double x) { return Modulo(std::atan(y / x) + (x < 0 ? HalfCircle : 0), 2 * HalfCircle); }
 
 double ArcTan2Deg(double y, double x) { return RadToDeg(ArcTan2Rad(y, x)); }
 
@@ -123,7 +135,8 @@ double RoundToDigits(double x, int n) {
     if (exponent.ptr == written.ptr) return x;
 
     std::array<char, 64> rounded;
-    char* end = std::to_chars(rounded.begin(), rounded.end(), Round(mantissa, n - 1), std::chars_format::general, 15).ptr;
+    char* end =
+        std::to_chars(rounded.begin(), rounded.end(), Round(mantissa, n - 1), std::chars_format::general, 15).ptr;
     end = std::copy(exponent.ptr, static_cast<const char*>(written.ptr), end);
     double result = x;
     std::from_chars(rounded.begin(), end, result);

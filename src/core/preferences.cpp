@@ -1,10 +1,10 @@
 #include "core/preferences.h"
 
-#include <cmath>
-#include <limits>
-
 #include "core/desktop.h"
 #include "core/text.h"
+
+#include <cmath>
+#include <limits>
 
 namespace horvanta {
 namespace {

@@ -1,11 +1,11 @@
 #pragma once
 
+#include "core/controls.h"
+
 #include <cstdint>
 #include <optional>
 #include <string>
 #include <string_view>
-
-#include "core/controls.h"
 
 /// The per-user settings: application, section, key and a text. Every value is text; what can't be read is its default.
 namespace horvanta {

@@ -1,10 +1,10 @@
 #pragma once
 
+#include "core/controls.h"
+
 #include <functional>
 #include <string>
 #include <string_view>
-
-#include "core/controls.h"
 
 /// The frame of the program as data: its menu tree, the clipboard line, and the few acts of the time window that
 /// other windows call. The owners of the commands hang their handlers here.

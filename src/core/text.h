@@ -1,11 +1,11 @@
 #pragma once
 
+#include "core/numerics.h"
+
 #include <cstdint>
 #include <optional>
 #include <string>
 #include <string_view>
-
-#include "core/numerics.h"
 
 /// Numbers, times and fractions as text, and the way back. Nothing here reads the machine's locale: the decimal mark
 /// is always a point. Text is UTF-8, and positions in it count characters.

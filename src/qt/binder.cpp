@@ -1,14 +1,14 @@
 #include "qt/binder.h"
 
-#include <algorithm>
-#include <utility>
-
 #include <QAbstractButton>
 #include <QApplication>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMouseEvent>
+
+#include <algorithm>
+#include <utility>
 
 namespace horvanta {
 namespace {
@@ -22,14 +22,22 @@ struct KeyRow {
 };
 
 constexpr KeyRow keyRows[] = {
-    {Qt::Key_Backspace, false, KeyBackspace}, {Qt::Key_Return, false, KeyEnter},
-    {Qt::Key_Enter, true, KeyEnter},          {Qt::Key_Shift, false, KeyShiftItself},
-    {Qt::Key_Pause, false, KeyPause},         {Qt::Key_Escape, false, KeyEscape},
-    {Qt::Key_Space, false, KeySpace},         {Qt::Key_PageUp, false, KeyPageUp},
-    {Qt::Key_PageDown, false, KeyPageDown},   {Qt::Key_End, false, KeyEnd},
-    {Qt::Key_Home, false, KeyHome},           {Qt::Key_Left, false, KeyLeft},
-    {Qt::Key_Up, false, KeyUp},               {Qt::Key_Right, false, KeyRight},
-    {Qt::Key_Down, false, KeyDown},           {Qt::Key_Plus, true, KeyNumericPlus},
+    {Qt::Key_Backspace, false, KeyBackspace},
+    {Qt::Key_Return, false, KeyEnter},
+    {Qt::Key_Enter, true, KeyEnter},
+    {Qt::Key_Shift, false, KeyShiftItself},
+    {Qt::Key_Pause, false, KeyPause},
+    {Qt::Key_Escape, false, KeyEscape},
+    {Qt::Key_Space, false, KeySpace},
+    {Qt::Key_PageUp, false, KeyPageUp},
+    {Qt::Key_PageDown, false, KeyPageDown},
+    {Qt::Key_End, false, KeyEnd},
+    {Qt::Key_Home, false, KeyHome},
+    {Qt::Key_Left, false, KeyLeft},
+    {Qt::Key_Up, false, KeyUp},
+    {Qt::Key_Right, false, KeyRight},
+    {Qt::Key_Down, false, KeyDown},
+    {Qt::Key_Plus, true, KeyNumericPlus},
     {Qt::Key_Minus, true, KeyNumericMinus},
 };
 
@@ -50,12 +58,23 @@ int ShiftOf(const QKeyEvent& event) {
 
 /// What edits a line of text. Home alone is not among them: it is a key of the windows.
 constexpr QKeySequence::StandardKey editingKeys[] = {
-    QKeySequence::MoveToNextChar,      QKeySequence::MoveToPreviousChar,    QKeySequence::MoveToNextWord,
-    QKeySequence::MoveToPreviousWord,  QKeySequence::MoveToEndOfLine,       QKeySequence::MoveToStartOfDocument,
-    QKeySequence::MoveToEndOfDocument, QKeySequence::SelectNextChar,        QKeySequence::SelectPreviousChar,
-    QKeySequence::SelectNextWord,      QKeySequence::SelectPreviousWord,    QKeySequence::SelectStartOfLine,
-    QKeySequence::SelectEndOfLine,     QKeySequence::SelectStartOfDocument, QKeySequence::SelectEndOfDocument,
-    QKeySequence::Backspace,           QKeySequence::Delete,
+    QKeySequence::MoveToNextChar,
+    QKeySequence::MoveToPreviousChar,
+    QKeySequence::MoveToNextWord,
+    QKeySequence::MoveToPreviousWord,
+    QKeySequence::MoveToEndOfLine,
+    QKeySequence::MoveToStartOfDocument,
+    QKeySequence::MoveToEndOfDocument,
+    QKeySequence::SelectNextChar,
+    QKeySequence::SelectPreviousChar,
+    QKeySequence::SelectNextWord,
+    QKeySequence::SelectPreviousWord,
+    QKeySequence::SelectStartOfLine,
+    QKeySequence::SelectEndOfLine,
+    QKeySequence::SelectStartOfDocument,
+    QKeySequence::SelectEndOfDocument,
+    QKeySequence::Backspace,
+    QKeySequence::Delete,
 };
 
 /// Keys that a focused widget keeps to itself.
@@ -95,8 +114,14 @@ void SetColors(QWidget& widget, const ColorPair& colors) {
 }
 
 void DrawControl(const Control& control, QWidget& widget) {
-    const auto differs = [](const QString& shown, const std::string& text) { return shown != QString::fromStdString(text); };
-    if (differs(TextOf(widget), control.text)) SetText(widget, QString::fromStdString(control.text));
+    const auto differs = [](const QString& shown, const std::string& text) {
+        return shown != QString::fromStdString(text);
+    };
+    if (differs(TextOf(widget), control.text)) {
+        SetText(widget, QString::fromStdString(control.text));
+        const bool outgrown = !control.widest.empty() && widget.sizeHint().width() > widget.minimumWidth();
+        if (outgrown && qobject_cast<QLabel*>(&widget)) widget.setMinimumWidth(widget.sizeHint().width());
+    }
     if (differs(widget.toolTip(), control.tooltip)) widget.setToolTip(QString::fromStdString(control.tooltip));
     const std::string accessible = AccessibleName(control);
     if (differs(widget.accessibleName(), accessible)) widget.setAccessibleName(QString::fromStdString(accessible));
@@ -139,7 +164,8 @@ void Binder::Connect(const Bound& bound) {
     }
     if (auto* field = qobject_cast<QLineEdit*>(bound.widget)) {
         auto* text = static_cast<TextField*>(control);
-        connect(field, &QLineEdit::textEdited, this, [text](const QString& typed) { text->text = typed.toStdString(); });
+        connect(field, &QLineEdit::textEdited, this,
+                [text](const QString& typed) { text->text = typed.toStdString(); });
         connect(field, &QLineEdit::returnPressed, this, [this, text] { acts_.Run(text->LostFocus); });
     }
     if (auto* label = qobject_cast<QLabel*>(bound.widget)) {
@@ -168,7 +194,8 @@ void Binder::Draw() {
 }
 
 QWidget* Binder::WidgetOf(const Control& control) const {
-    const auto found = std::find_if(bound_.begin(), bound_.end(), [&](const Bound& b) { return b.control == &control; });
+    const auto found =
+        std::find_if(bound_.begin(), bound_.end(), [&](const Bound& b) { return b.control == &control; });
     return found == bound_.end() ? nullptr : found->widget;
 }
 
@@ -206,7 +233,8 @@ void Binder::MouseActed(Control& control, const QMouseEvent& event) {
 
 bool Binder::KeyActed(QObject* watched, const QKeyEvent& event) {
     const KeyPress key = KeyPressOf(event);
-    if (key.code == 0 || !form_.KeyDown || watched != QApplication::focusWidget() || isKept(watched, event)) return false;
+    if (key.code == 0 || !form_.KeyDown || watched != QApplication::focusWidget() || isKept(watched, event))
+        return false;
     if (event.isAutoRepeat() && acts_.isPaintPending()) return true;
     bool used = false;
     acts_.Run([&] { used = form_.KeyDown(key.code, key.shift); });

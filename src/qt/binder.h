@@ -1,11 +1,11 @@
 #pragma once
 
-#include <functional>
-#include <vector>
+#include "core/controls.h"
 
 #include <QObject>
 
-#include "core/controls.h"
+#include <functional>
+#include <vector>
 
 class QKeyEvent;
 class QMouseEvent;

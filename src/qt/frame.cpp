@@ -1,33 +1,30 @@
 #include "qt/frame.h"
 
-#include <algorithm>
-#include <cmath>
+#include "core/moment.h"
+#include "qt/forms.h"
 
 #include <QAction>
 #include <QCloseEvent>
 #include <QGuiApplication>
 #include <QKeyEvent>
+#include <QLayout>
 #include <QMdiArea>
 #include <QMdiSubWindow>
 #include <QMenu>
 #include <QMenuBar>
 #include <QScreen>
-#include <QLayout>
 
-#include "core/moment.h"
-#include "qt/forms.h"
+#include <algorithm>
+#include <cmath>
 
 namespace horvanta {
 namespace {
 
-/// So much of a window's title always stays within reach, in pixels.
-constexpr double reach = 60;
-constexpr double farthest = 10000;
-
 double Twips(int pixels) { return pixels * TwipsPerPixel; }
 
-int Pixels(double twips, double least) {
-    return static_cast<int>(std::lround(std::clamp(twips / TwipsPerPixel, least, farthest)));
+/// Twips as pixels, held between two ends, the lower of which prevails.
+int Pixels(double twips, double least, double greatest) {
+    return static_cast<int>(std::lround(std::max(least, std::min(twips / TwipsPerPixel, greatest))));
 }
 
 void NoteSize(Form& form, const QSize& size) {
@@ -40,8 +37,7 @@ void NoteSize(Form& form, const QSize& size) {
 Frame::Frame(HorvantaMDI& shell) : shell_(shell), area_(new QMdiArea(this)) {
     setObjectName(QString::fromStdString(shell_.name));
     setWindowTitle(QString::fromStdString(shell_.text));
-    area_->setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
-    area_->setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
+    area_->viewport()->installEventFilter(this);
     setCentralWidget(area_);
     for (MenuItem* item : shell_.menuBar.items) {
         QMenu* menu = menuBar()->addMenu(QString::fromStdString(item->caption));
@@ -90,9 +86,9 @@ void Frame::Run(const std::function<void()>& act) {
 
 void Frame::Draw() {
     drawing_ = true;
+    if (!isVisible() && !Quitting) ShowFirst();
     DrawMenus();
     for (Child& child : children_) DrawChild(child);
-    if (!isVisible() && !Quitting) ShowFirst();
     for (Child& child : children_) GrantFocus(child);
     drawing_ = false;
     paintPending_ = true;
@@ -116,13 +112,25 @@ void Frame::DrawChild(Child& child) {
     }
 }
 
-/// Puts a window where its form says and lets it grow to hold what it shows now.
+/// Lets a window grow to hold what it shows now, and puts it where its form says, but so that its title can be
+/// reached: settings may come from a larger screen.
 void Frame::DrawPlace(Child& child) {
+    constexpr int reach = 60;  // pixels
     QMdiSubWindow& window = *child.window;
-    const QPoint place(Pixels(child.form->place.left, reach - window.width()), Pixels(child.form->place.top, 0));
-    if (window.pos() != place) window.move(place);
     const QSize needed = window.size().expandedTo(window.minimumSizeHint());
     if (needed != window.size()) window.resize(needed);
+
+    const Place& place = child.form->place;
+    const QSize room = area_->viewport()->size();
+    const QPoint position(Pixels(place.left, reach - window.width(), room.width() - reach),
+                          Pixels(place.top, 0, room.height() - reach));
+    if (window.pos() != position) window.move(position);
+}
+
+void Frame::PlaceAll() {
+    const bool before = std::exchange(drawing_, true);
+    for (Child& child : children_) DrawPlace(child);
+    drawing_ = before;
 }
 
 void Frame::GrantFocus(Child& child) {
@@ -140,8 +148,11 @@ void Frame::ShowFirst() {
         showMaximized();
         return;
     }
-    resize(Pixels(shell_.place.width, 0), Pixels(shell_.place.height, 0));
-    move(Pixels(shell_.place.left, 0), Pixels(shell_.place.top, 0));
+    const QRect room = screen()->availableGeometry();
+    resize(Pixels(shell_.place.width, minimumSizeHint().width(), room.width()),
+           Pixels(shell_.place.height, minimumSizeHint().height(), room.height()));
+    move(Pixels(shell_.place.left, room.left(), room.right() - width()),
+         Pixels(shell_.place.top, room.top(), room.bottom() - height()));
     show();
 }
 
@@ -153,11 +164,13 @@ void Frame::ComeForward() {
 }
 
 Frame::Child* Frame::ChildOf(const QObject* window) {
-    const auto found = std::find_if(children_.begin(), children_.end(), [&](const Child& c) { return c.window == window; });
+    const auto found =
+        std::find_if(children_.begin(), children_.end(), [&](const Child& c) { return c.window == window; });
     return found == children_.end() ? nullptr : &*found;
 }
 
 bool Frame::eventFilter(QObject* watched, QEvent* event) {
+    if (watched == area_->viewport() && event->type() == QEvent::Resize) PlaceAll();
     Child* child = ChildOf(watched);
     if (!child) return QMainWindow::eventFilter(watched, event);
     switch (event->type()) {

@@ -1,13 +1,13 @@
 #pragma once
 
-#include <memory>
-#include <utility>
-#include <vector>
+#include "core/shell.h"
+#include "qt/binder.h"
 
 #include <QMainWindow>
 
-#include "core/shell.h"
-#include "qt/binder.h"
+#include <memory>
+#include <utility>
+#include <vector>
 
 class QAction;
 class QMdiArea;
@@ -56,6 +56,7 @@ class Frame final : public QMainWindow, public Acts {
     void DrawMenus();
     void DrawChild(Child& child);
     void DrawPlace(Child& child);
+    void PlaceAll();
     void GrantFocus(Child& child);
     void ShowFirst();
     void NotePlace();

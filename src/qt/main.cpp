@@ -1,9 +1,9 @@
-#include <QApplication>
-#include <QTimer>
-
 #include "app/horvanta.h"
 #include "qt/qt_desktop.h"
 #include "qt/single_instance.h"
+
+#include <QApplication>
+#include <QTimer>
 
 namespace {
 

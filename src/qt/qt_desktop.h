@@ -1,10 +1,10 @@
 #pragma once
 
-#include <memory>
-
 #include "core/desktop.h"
 #include "qt/frame.h"
 #include "qt/settings_file.h"
+
+#include <memory>
 
 namespace horvanta {
 

@@ -1,8 +1,8 @@
 #include "qt/settings_file.h"
 
-#include <cstdio>
-
 #include <QFile>
+
+#include <cstdio>
 
 namespace horvanta {
 namespace {

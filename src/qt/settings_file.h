@@ -1,12 +1,12 @@
 #pragma once
 
-#include <map>
-#include <memory>
-#include <string>
+#include "core/preferences.h"
 
 #include <QSettings>
 
-#include "core/preferences.h"
+#include <map>
+#include <memory>
+#include <string>
 
 namespace horvanta {
 

@@ -1,11 +1,11 @@
 #include "qt/single_instance.h"
 
+#include "qt/settings_file.h"
+
 #include <QCryptographicHash>
 #include <QDir>
 #include <QLocalSocket>
 #include <QStandardPaths>
-
-#include "qt/settings_file.h"
 
 namespace horvanta {
 namespace {

@@ -1,10 +1,10 @@
 #pragma once
 
-#include <functional>
-#include <memory>
-
 #include <QLocalServer>
 #include <QLockFile>
+
+#include <functional>
+#include <memory>
 
 namespace horvanta {
 

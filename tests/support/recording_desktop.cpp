@@ -1,8 +1,8 @@
 #include "recording_desktop.h"
 
-#include <utility>
-
 #include "core/text.h"
+
+#include <utility>
 
 namespace horvanta {
 

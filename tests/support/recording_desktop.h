@@ -1,13 +1,13 @@
 #pragma once
 
+#include "core/desktop.h"
+#include "core/shell.h"
+
 #include <deque>
 #include <map>
 #include <optional>
 #include <string>
 #include <vector>
-
-#include "core/desktop.h"
-#include "core/shell.h"
 
 namespace horvanta {
 
@@ -36,7 +36,7 @@ struct BoxAnswer {
 
 /// A desktop without a display. It records what it was asked, answers boxes from a queue (an empty queue cancels),
 /// and keeps who has the focus. Its clock stands still.
-class RecordingDesktop final : public Desktop {
+class RecordingDesktop : public Desktop {
   public:
     void LoadFrame(HorvantaMDI&) override {}
     void LoadForm(Form& form) override;

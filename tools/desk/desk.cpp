@@ -1,12 +1,12 @@
 #include "desk.h"
 
-#include <algorithm>
-#include <utility>
-
 #include "core/day_events.h"
 #include "core/moment.h"
 #include "core/text.h"
 #include "desk_functions.h"
+
+#include <algorithm>
+#include <utility>
 
 namespace horvanta {
 namespace {
@@ -17,14 +17,22 @@ struct NamedKey {
 };
 
 constexpr NamedKey namedKeys[] = {
-    {"Backspace", KeyBackspace}, {"Enter", KeyEnter},
-    {"Shift", KeyShiftItself},   {"Pause", KeyPause},
-    {"Escape", KeyEscape},       {"Esc", KeyEscape},
-    {"Space", KeySpace},         {"PageUp", KeyPageUp},
-    {"PageDown", KeyPageDown},   {"End", KeyEnd},
-    {"Home", KeyHome},           {"Left", KeyLeft},
-    {"Up", KeyUp},               {"Right", KeyRight},
-    {"Down", KeyDown},           {"Plus", KeyNumericPlus},
+    {"Backspace", KeyBackspace},
+    {"Enter", KeyEnter},
+    {"Shift", KeyShiftItself},
+    {"Pause", KeyPause},
+    {"Escape", KeyEscape},
+    {"Esc", KeyEscape},
+    {"Space", KeySpace},
+    {"PageUp", KeyPageUp},
+    {"PageDown", KeyPageDown},
+    {"End", KeyEnd},
+    {"Home", KeyHome},
+    {"Left", KeyLeft},
+    {"Up", KeyUp},
+    {"Right", KeyRight},
+    {"Down", KeyDown},
+    {"Plus", KeyNumericPlus},
     {"Minus", KeyNumericMinus},
 };
 
@@ -64,7 +72,8 @@ std::string Joined(const std::vector<std::string>& items) {
 
 }  // namespace
 
-Desk::Desk() {
+Desk::Desk(const decltype(MemorySettings::values)& settings) {
+    desktop.settings.values = settings;
     CurrentDesktop = &desktop;
     program.Start();
     desktop.Settle();

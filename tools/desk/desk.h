@@ -1,11 +1,11 @@
 #pragma once
 
+#include "app/horvanta.h"
+#include "recording_desktop.h"
+
 #include <functional>
 #include <string>
 #include <string_view>
-
-#include "app/horvanta.h"
-#include "recording_desktop.h"
 
 namespace horvanta {
 
@@ -13,7 +13,8 @@ namespace horvanta {
 /// tells the lines.
 class Desk {
   public:
-    Desk();
+    /// Starts the program on the settings that an earlier run left.
+    explicit Desk(const decltype(MemorySettings::values)& settings = {});
     ~Desk();
 
     /// Does what a line says and returns the answer, without a line end.

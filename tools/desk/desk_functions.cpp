@@ -1,15 +1,15 @@
 #include "desk_functions.h"
 
-#include <algorithm>
-#include <limits>
-#include <utility>
-
 #include "app/horvanta.h"
 #include "calendars/gregorian.h"
 #include "calendars/gregorian_window.h"
 #include "core/moment.h"
 #include "core/text.h"
 #include "recording_desktop.h"
+
+#include <algorithm>
+#include <limits>
+#include <utility>
 
 namespace horvanta {
 namespace {
@@ -119,9 +119,7 @@ struct Bezout {
     std::int32_t y;
 };
 
-std::string AnswerOf(const Bezout& b) {
-    return Fields().Add("divisor", b.divisor).Add("x", b.x).Add("y", b.y).Text();
-}
+std::string AnswerOf(const Bezout& b) { return Fields().Add("divisor", b.divisor).Add("x", b.x).Add("y", b.y).Text(); }
 
 std::string ListAnswer(const auto& items) {
     std::string text;
@@ -210,7 +208,9 @@ const std::vector<DeskFunction> functions{
     Row("RoundToPlaces", static_cast<NumberAndPlaces>(Round)),
     Row("Sign", Sign),
     Row("GCD", GCD),
-    Row("ExtGCD", +[](std::int32_t a, std::int32_t b) {
+    Row(
+        "ExtGCD",
+        +[](std::int32_t a, std::int32_t b) {
             Bezout result{};
             result.divisor = ExtGCD(a, b, result.x, result.y);
             return result;
@@ -294,7 +294,8 @@ const std::vector<DeskFunction> functions{
     Row("ISOToFixed", ISOToFixed),
     Row("isISOLeapYear", isISOLeapYear),
     Row("FixedToISODate", FixedToISODate),
-    Row("FixedToISOString", +[](Moment x) { return ISODateString(FixedToISODate(x)); }),
+    Row(
+        "FixedToISOString", +[](Moment x) { return ISODateString(FixedToISODate(x)); }),
     Row("Gregorian.ToFixed", GregorianWindow::ToFixed),
     Row("Gregorian.GetDate", GregorianWindow::GetDate),
     MonthNamesRow("Gregorian.SetMonthNames", GregorianCalendar),

@@ -1,7 +1,7 @@
+#include "desk.h"
+
 #include <iostream>
 #include <string>
-
-#include "desk.h"
 
 int main() {
     horvanta::Desk desk;

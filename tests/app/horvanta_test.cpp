@@ -1,0 +1,272 @@
+#include "app/horvanta.h"
+
+#include "core/moment.h"
+#include "core/text.h"
+#include "desk.h"
+
+#include <gtest/gtest.h>
+
+#include <array>
+
+namespace horvanta {
+namespace {
+
+using Settings = decltype(MemorySettings::values);
+
+Settings SettingsOf(std::initializer_list<std::array<const char*, 3>> rows) {
+    Settings settings;
+    for (const auto& [section, key, text] : rows) settings["Horvanta"][section][key] = text;
+    return settings;
+}
+
+TEST(Start, ChoosesAndSavesTodayInAFirstRun) {
+    Desk desk;
+    EXPECT_EQ(DisplayedMoment, 738900);
+    EXPECT_EQ(SavedMoment, 738900);
+    EXPECT_EQ(BusyCount, 0);
+    EXPECT_EQ(desk.program.gregorian.GregorianDate.text, "Monday, January 15, 2024 ");
+    EXPECT_EQ(desk.program.timeAstro.SavedToFrom.text, "days after saved date.");
+    EXPECT_EQ(desk.desktop.focused, &desk.program.timeAstro.FixedDayNum);
+    EXPECT_EQ(desk.desktop.settings.flushed["Horvanta"]["Prog"]["Launch"], "OK");
+    EXPECT_TRUE(desk.desktop.asked.empty());
+}
+
+TEST(Start, FindsWhatTheLastRunSaved) {
+    Settings left;
+    {
+        Desk desk;
+        desk.Obey("menu AlwaysToday");
+        desk.Obey("menu StepMenu 2");
+        desk.Obey("answer color 255");
+        desk.Obey("rightclick TimeAstro.TimeOfDay");
+        desk.Obey("type TimeAstro.FixedDayNum 1000.123456789");
+        desk.program.timeAstro.form.place.left = 1500;
+        desk.Obey("close Gregorian");
+        desk.Obey("menu MenuExit");
+        EXPECT_TRUE(desk.desktop.ended);
+        EXPECT_EQ(desk.Obey("press Up"), "error: the program has ended");
+        left = desk.desktop.settings.flushed;
+    }
+    Desk desk(left);
+    EXPECT_EQ(DisplayedMoment, 1000.123456789);
+    EXPECT_EQ(SavedMoment, 738900);
+    EXPECT_FALSE(AlwaysToday);
+    EXPECT_EQ(Increment, 7);
+    EXPECT_EQ(desk.program.timeAstro.TimeOfDay.colors->foreground, (Color{255, 0, 0}));
+    EXPECT_EQ(desk.program.timeAstro.form.place.left, 1500);
+    EXPECT_FALSE(desk.program.gregorian.form.visible);
+    EXPECT_TRUE(desk.program.timeAstro.form.visible);
+}
+
+/// A start that is killed leaves the mark empty, and whatever it choked on is gone at the next.
+TEST(Start, ClearsTheSettingsAfterAStartThatDidNotFinish) {
+    struct KilledDesktop : RecordingDesktop {
+        void LoadForm(Form&) override { throw 1; }
+    } killed;
+    killed.settings.values = SettingsOf({{"Item", "RD", "1000"}, {"TimeAstro", "Chk", "False"}});
+    killed.settings.values["Horvanta-UDLs"]["User 1"]["Name"] = "Home";
+    CurrentDesktop = &killed;
+    {
+        Horvanta program;
+        EXPECT_THROW(program.Start(), int);
+    }
+    Settings left = killed.settings.flushed;
+    EXPECT_EQ(left["Horvanta"]["Prog"]["Launch"], "");
+    EXPECT_EQ(left["Horvanta"]["Item"]["RD"], "1000");
+
+    Desk desk(left);
+    EXPECT_EQ(DisplayedMoment, 738900);
+    EXPECT_TRUE(AlwaysToday);
+    EXPECT_EQ(desk.desktop.settings.values["Horvanta-UDLs"]["User 1"]["Name"], "Home");
+}
+
+TEST(Start, TakesDefaultsForDamagedSettings) {
+    Desk desk(SettingsOf({{"Item", "RD", "nan"},
+                          {"Item", "SD", "\x01\xff"},
+                          {"Item", "Step", "3"},
+                          {"Color", "GBC", "beige"},
+                          {"TimeAstro", "Left", "1e999"},
+                          {"TimeAstro", "Chk", "perhaps"},
+                          {"HorvantaMDI", "State", "-77"}}));
+    EXPECT_EQ(DisplayedMoment, 738900);
+    EXPECT_EQ(StepIndex, 1);
+    EXPECT_EQ(desk.program.timeAstro.form.place.left, 0);
+    EXPECT_EQ(desk.program.gregorian.GregorianDate.colors->background.Number(), 12642289);
+    EXPECT_EQ(desk.program.frame.state, FrameMaximized);
+}
+
+TEST(End, HasFourWays) {
+    struct Row {
+        const char* item;
+        const char* moment;      // as saved
+        const char* foreground;  // as saved
+    };
+    constexpr Row rows[] = {
+        {"MenuExit", "738901", "255"},
+        {"QuitWithoutSavePrefs", nullptr, nullptr},
+        {"ResetPrefsAndQuit", nullptr, nullptr},
+        {"ResetColorsAndQuit", "738901", nullptr},
+    };
+    for (const Row& row : rows) {
+        Desk desk;
+        desk.Obey("answer color 255");
+        desk.Obey("rightclick TimeAstro.TimeOfDay");
+        desk.Obey("press Plus");
+        desk.Obey(std::string("menu ") + row.item);
+        EXPECT_TRUE(desk.desktop.ended);
+        desk.desktop.settings.values = desk.desktop.settings.flushed;
+        const auto saved = [&](const char* section, const char* key) {
+            return desk.desktop.settings.Read("Horvanta", section, key);
+        };
+        EXPECT_EQ(saved("Item", "RD"), row.moment ? std::optional<std::string>(row.moment) : std::nullopt) << row.item;
+        EXPECT_EQ(saved("Color", "AFC"), row.foreground ? std::optional<std::string>(row.foreground) : std::nullopt)
+            << row.item;
+    }
+}
+
+TEST(Keys, MoveTheMoment) {
+    struct Row {
+        const char* step;
+        const char* line;
+        double from;
+        double to;
+    };
+    constexpr Row rows[] = {
+        {"1", "press Space", 1000.25, 1001},
+        {"1", "press Space shift", 1000.25, 999},
+        {"1", "press Space ctrl", 1000, 999},
+        {"1", "press Plus", 1000.25, 1001},
+        {"1", "press Minus", 1000, 999},
+        {"1", "press Up", 1000, 1001},
+        {"1", "press Down", 1000, 999},
+        {"1", "press PageUp", 1000, 1007},
+        {"1", "press PageDown", 1000, 993},
+        {"2", "press Up", 1000, 1007},
+        {"2", "press PageUp", 1000, 1028},
+        {"2", "press PageDown", 1000, 972},
+        {"2", "press Space", 1000, 1001},
+        {"2", "click TimeAstro.DayDown", 1000, 999},
+        {"2", "click TimeAstro.NextDown", 1000, 993},
+        {"1", "click TimeAstro.NextUp", 1000, 1001},
+        {"1", "click TimeAstro.JumpToFuture", 1000, 1007},
+        {"1", "click TimeAstro.JumpToPast", 1000, 993},
+        {"1", "press Home", 1000, 738900},
+        {"1", "press Escape", 1000, 738900},
+        {"1", "press Pause", 1000, 738900},
+        {"1", "press Left", 1000.25, 1000.25},
+        {"1", "press Shift shift", 1000.25, 1000.25},
+    };
+    Desk desk;
+    for (const Row& row : rows) {
+        desk.Obey(std::string("menu StepMenu ") + row.step);
+        desk.program.timeAstro.TakeFocus();
+        desk.desktop.Settle();
+        desk.Obey("set DisplayedMoment " + std::to_string(row.from));
+        EXPECT_EQ(desk.Obey(row.line), "ok") << row.line;
+        EXPECT_EQ(DisplayedMoment, row.to) << row.line;
+        EXPECT_EQ(desk.program.timeAstro.FixedDayNum.text, GeneralText(row.to)) << row.line;
+    }
+    EXPECT_EQ(desk.Obey("asked"), "none");
+}
+
+TEST(Keys, OfAFocusedButtonStayWithIt) {
+    Desk desk;
+    desk.Obey("focus Gregorian.isoInfo");
+    desk.Obey("press Space");
+    EXPECT_EQ(DisplayedMoment, 738900);
+    EXPECT_EQ(desk.desktop.asked.size(), 1U);
+    desk.Obey("focus Gregorian.isoInfo");
+    desk.Obey("press PageUp");
+    EXPECT_EQ(DisplayedMoment, 738907);
+}
+
+TEST(FixedDayNum, TakesNumbersAndGivesTheOldOneBackForAnythingElse) {
+    struct Row {
+        const char* typed;
+        double moment;
+        const char* shown;
+        const char* asked;
+    };
+    const std::string digits(5000, '7');
+    const Row rows[] = {
+        {"1000.5", 1000.5, "1000.5", "none"},
+        {" 2000 ", 2000, "2000", "none"},
+        {"—1000", -1000, "-1000", "none"},
+        {"–1000", -1000, "-1000", "none"},
+        {"-0", 0, "0", "none"},
+        {"12x", 739000.25, "739000.25", "beep"},
+        {"", 739000.25, "739000.25", "beep"},
+        {"—", 739000.25, "739000.25", "beep"},
+        {"1e400", 739000.25, "739000.25", "beep"},
+        {"nan", 739000.25, "739000.25", "beep"},
+        {"inf", 739000.25, "739000.25", "beep"},
+        {digits.c_str(), 739000.25, "739000.25", "beep"},
+        {"1e300", 4382545, "4382545", "beep"},
+        {"-9999999", -2533803, "-2533803", "beep"},
+        {"739000.250", 739000.25, "739000.25", "none"},
+    };
+    Desk desk;
+    for (const Row& row : rows) {
+        desk.Obey("set DisplayedMoment 739000.25");
+        desk.Obey("type TimeAstro.FixedDayNum " + std::string(row.typed));
+        EXPECT_EQ(DisplayedMoment, row.moment) << row.typed;
+        EXPECT_EQ(desk.program.timeAstro.FixedDayNum.text, row.shown) << row.typed;
+        EXPECT_EQ(desk.Obey("asked"), row.asked) << row.typed;
+    }
+}
+
+TEST(FixedDayNum, KeepsDigitsItDoesNotShow) {
+    Desk desk;
+    desk.Obey("set DisplayedMoment 739000.12345678912");
+    const Moment exact = DisplayedMoment;
+    desk.Obey("type TimeAstro.FixedDayNum " + desk.program.timeAstro.FixedDayNum.text);
+    EXPECT_EQ(DisplayedMoment, exact);
+}
+
+TEST(SavedMoment, IsToldByItsDistance) {
+    struct Row {
+        double moment;
+        const char* distance;
+        const char* words;
+    };
+    constexpr Row rows[] = {
+        {738900, "0", "days after saved date."},
+        {738901, "1", "day before saved date."},
+        {738899.5, "0.5", "days after saved date."},
+        {738900.0004, "0", "days after saved date."},
+    };
+    Desk desk;
+    for (const Row& row : rows) {
+        desk.Obey("set DisplayedMoment " + GeneralText(row.moment));
+        EXPECT_EQ(desk.program.timeAstro.SavedDiffBox.text, row.distance) << row.moment;
+        EXPECT_EQ(desk.program.timeAstro.SavedToFrom.text, row.words) << row.moment;
+    }
+    desk.Obey("set DisplayedMoment 1000");
+    desk.Obey("menu SaveThisMoment");
+    desk.Obey("press Home");
+    desk.Obey("menu JumpToSaved");
+    EXPECT_EQ(DisplayedMoment, 1000);
+}
+
+TEST(Windows, AreHiddenAndShownByTheirItem) {
+    Desk desk;
+    desk.Obey("close Gregorian");
+    EXPECT_FALSE(desk.program.frame.GregCal.isTicked());
+    desk.Obey("set DisplayedMoment 1");
+    EXPECT_EQ(desk.Obey("click Gregorian.Dominical"), "error: not shown: Gregorian.Dominical");
+    EXPECT_EQ(desk.Obey("close TimeAstro"), "error: can't be closed: TimeAstro");
+    desk.Obey("menu GregCal");
+    EXPECT_TRUE(desk.program.frame.GregCal.isTicked());
+    EXPECT_EQ(desk.program.gregorian.GregorianDate.text, "Monday, January 1, 1 ");
+}
+
+TEST(Numbering, IsToldByTheDayNumbersTooltip) {
+    Desk desk;
+    desk.Obey("call ChangeFixedDayEpoch 738900 1 \"1 = Displayed date\"");
+    EXPECT_EQ(desk.program.timeAstro.FixedDayNum.text, "1");
+    EXPECT_EQ(desk.program.timeAstro.FixedDayNum.tooltip,
+              "Universal Days relative to day 1 on Monday, January 15, 2024 (Gregorian) at Midnight");
+}
+
+}  // namespace
+}  // namespace horvanta

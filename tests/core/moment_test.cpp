@@ -1,0 +1,118 @@
+#include "core/moment.h"
+
+#include "calendars/gregorian.h"
+#include "recording_desktop.h"
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+
+namespace horvanta {
+namespace {
+
+class MomentTest : public testing::Test {
+  protected:
+    MomentTest() {
+        CurrentDesktop = &desktop_;
+        DisplayedMoment = 738900.75;
+        SavedMoment = 730120.123456789;
+        BusyCount = 0;
+    }
+    ~MomentTest() override {
+        UpdatePass = nullptr;
+        CurrentDesktop = nullptr;
+    }
+
+    RecordingDesktop desktop_;
+};
+
+TEST_F(MomentTest, IsClampedWithABeep) {
+    EXPECT_EQ(ClampToRange(MinFixedDay), MinFixedDay);
+    EXPECT_EQ(ClampToRange(MaxFixedDay), MaxFixedDay);
+    EXPECT_TRUE(desktop_.asked.empty());
+    EXPECT_EQ(ClampToRange(MaxFixedDay + 0.25), MaxFixedDay);
+    EXPECT_EQ(ClampToRange(-1e300), MinFixedDay);
+    EXPECT_EQ(ClampToRange(std::nan("")), MinFixedDay);
+    EXPECT_EQ(desktop_.asked.size(), 3U);
+}
+
+TEST_F(MomentTest, UpdatesOnceMoreForEachCallFromWithinAPass) {
+    int passes = 0;
+    int nested = 2;
+    UpdatePass = [&] {
+        ++passes;
+        if (nested-- > 0) UpdateStatus();
+    };
+    UpdateStatus();
+    EXPECT_EQ(passes, 3);
+    EXPECT_EQ(UpdateDepth, 0);
+}
+
+TEST_F(MomentTest, IsOnlyClampedWhileUpdatesAreHeld) {
+    int passes = 0;
+    UpdatePass = [&] { ++passes; };
+    {
+        const BusyHold hold;
+        DisplayedMoment = 1e7;
+        UpdateStatus();
+        EXPECT_EQ(DisplayedMoment, MaxFixedDay);
+        EXPECT_EQ(passes, 0);
+    }
+    UpdateStatus();
+    EXPECT_EQ(passes, 1);
+}
+
+TEST_F(MomentTest, KeepsDatesTimesAndWeekdaysUnderEveryNumbering) {
+    const FixedDay newYear2000 = GregorianToFixed(2000, 1, 1);
+    const double days[] = {730486, -1721424, 678577.0, 61, newYear2000 + 0.75, 4382545};
+    for (const double day : days) {
+        ChangeFixedDayEpoch(day, 1, "test");
+        EXPECT_EQ(FixedToGregorianString(DisplayedMoment), "Monday, January 15, 2024") << day;
+        EXPECT_EQ(DisplayedGregorianDate().day, 15) << day;
+        EXPECT_EQ(DisplayedISODate().week, 3) << day;
+        EXPECT_NEAR(DayFraction(DisplayedMoment), 0.75, 1e-9);
+        EXPECT_NEAR(DayFraction(SavedMoment), 0.123456789, 1e-9);
+        EXPECT_EQ(DayOfWeek(GregorianToFixed(2000, 1, 1)), 6) << day;
+        EXPECT_EQ(DayOfWeek(J2000), 6) << day;
+        EXPECT_EQ(MaxFixedDay - MinFixedDay, 6916348);
+    }
+    ChangeFixedDayEpoch(GregorianEpoch, 1, "rata die");
+    EXPECT_EQ(DisplayedMoment, 738900.75);
+    EXPECT_NEAR(SavedMoment, 730120.123456789, 1e-9);
+    EXPECT_EQ(JDEpoch, -1721424.5);
+}
+
+TEST_F(MomentTest, MakesTheChosenDayDay1) {
+    const FixedDay chosen = GregorianToFixed(1900, 3, 1) - 60;
+    ChangeFixedDayEpoch(chosen + 0.9, 61, "match Windows");
+    EXPECT_EQ(GregorianToFixed(1900, 3, 1), 61);
+    EXPECT_EQ(FixedEpochValue, 61);
+}
+
+TEST_F(MomentTest, HasTheDateOfTheClock) {
+    EXPECT_EQ(FixedToGregorianString(Today()), "Monday, January 15, 2024");
+    EXPECT_EQ(Now() - Today(), 0.4375);
+}
+
+TEST(KDays, LieWithinAWeekOnTheirSide) {
+    for (int k = 0; k < 7; ++k) {
+        for (Moment x = 738900.25; x < 738907; ++x) {
+            EXPECT_EQ(DayOfWeek(KDayOnOrBefore(k, x)), k);
+            EXPECT_LE(KDayOnOrBefore(k, x), x);
+            EXPECT_GT(KDayOnOrBefore(k, x), x - 7);
+            EXPECT_GE(KDayOnOrAfter(k, x), x);
+            EXPECT_LT(KDayBefore(k, x), x);
+            EXPECT_GT(KDayAfter(k, x), x);
+            EXPECT_LE(std::fabs(KDayNearest(k, x) - x), 3);
+            EXPECT_EQ(FirstKDay(k, x), KDayOnOrAfter(k, x));
+            EXPECT_EQ(LastKDay(k, x), KDayOnOrBefore(k, x));
+        }
+    }
+    EXPECT_EQ(NthKDay(4, 4, GregorianToFixed(2024, 11, 1)), GregorianToFixed(2024, 11, 28));  // Thanksgiving
+    EXPECT_EQ(CountKDaysInRange(1, 738900, 738900), 1);
+    EXPECT_EQ(CountKDaysInRange(1, 738914, 738900), 3);
+    EXPECT_EQ(CountKDaysInRange(0, 738900, 738905), 0);
+}
+
+}  // namespace
+}  // namespace horvanta

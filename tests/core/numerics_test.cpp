@@ -1,0 +1,175 @@
+#include "core/numerics.h"
+
+#include <gtest/gtest.h>
+
+#include <array>
+#include <bit>
+#include <charconv>
+#include <cstdlib>
+#include <limits>
+#include <random>
+
+namespace horvanta {
+namespace {
+
+/// The definition of `Floor`: the floor of what the decimal text of 15 significant digits reads as.
+double FloorOfText(double x) {
+    std::array<char, 40> text;
+    const auto end = std::to_chars(text.begin(), text.end(), x, std::chars_format::general, 15).ptr;
+    double read = std::numeric_limits<double>::quiet_NaN();
+    std::from_chars(text.begin(), end, read);
+    return std::floor(read);
+}
+
+bool isSame(double a, double b) { return std::bit_cast<std::uint64_t>(a) == std::bit_cast<std::uint64_t>(b); }
+
+double Stepped(double x, int ulps) {
+    return std::bit_cast<double>(std::bit_cast<std::int64_t>(x) + (x > 0 ? ulps : -ulps));
+}
+
+TEST(Floor, SnapsUpToAnIntegerWithinHalfAUnitOfThe15thDigit) {
+    struct Boundary {
+        double integer;
+        double lastThatSnaps;
+        double firstThatDoesNot;
+    };
+    constexpr Boundary boundaries[] = {
+        {3, 2.999999999999995, 2.9999999999999947},
+        {10, 9.999999999999996, 9.999999999999995},
+        {730120, 730119.9999999995, 730119.9999999994},
+        {5000000, 4999999.999999995, 4999999.999999994},
+        {-3, -3.000000000000005, -3.0000000000000053},
+        {-10, -10.00000000000005, -10.000000000000052},
+        {999999999999998, 999999999999997.5, 999999999999997.4},
+        {1e15, 999999999999999.5, 999999999999999.4},
+    };
+    for (const auto& [integer, snaps, doesNot] : boundaries) {
+        EXPECT_EQ(Floor(snaps), integer);
+        EXPECT_EQ(Floor(doesNot), integer - 1);
+    }
+    EXPECT_EQ(Floor(999999999999998.5), 999999999999998);  // a tie goes to the even integer
+    EXPECT_EQ(Floor(2.9999999999999996), 3);
+    EXPECT_EQ(Floor(8.99999999999999), 8);
+    EXPECT_EQ(Floor(-0.5), -1);
+    EXPECT_TRUE(isSame(Floor(-0.0), -0.0));
+    EXPECT_EQ(Floor(NeverMoment), NeverMoment);
+    EXPECT_EQ(Floor(std::numeric_limits<double>::max()), std::numeric_limits<double>::max());
+    EXPECT_EQ(Floor(-std::numeric_limits<double>::infinity()), -std::numeric_limits<double>::infinity());
+    EXPECT_TRUE(std::isnan(Floor(std::nan(""))));
+}
+
+/// Each round gives 12 values: anywhere, close below and above integers and halves, and quotients that ought to be
+/// whole. All sizes up to 1e17 take part.
+TEST(Floor, AgreesWithItsTextForm) {
+    std::mt19937_64 random(20240115);
+    std::uniform_real_distribution<double> day(-3e6, 5e6);
+    std::uniform_real_distribution<double> exponent(-3, 17);
+    std::uniform_int_distribution<int> ulps(-12, 12);
+    constexpr double divisors[] = {7, 19, 24, 25920, 146097, 36524, 365.2425, 29.530588853, 0.1};
+    std::int64_t differing = 0;
+    const auto check = [&](double x) { differing += !isSame(Floor(x), FloorOfText(x)); };
+    for (int round = 0; round < 850'000; ++round) {
+        const double x = day(random);
+        const double whole = std::floor(x);
+        const double sized = std::pow(10, exponent(random)) * (round % 2 ? 1 : -1);
+        const double divisor = divisors[round % std::size(divisors)];
+        check(x);
+        check(Stepped(whole, ulps(random)));
+        check(Stepped(whole, 64 * ulps(random)));
+        check(Stepped(whole + 0.5, ulps(random)));
+        check(whole + 1 - 1e-10 * (round % 16));
+        check(x / divisor);
+        check(whole * divisor / divisor);
+        check(Stepped(whole / divisor * divisor, ulps(random)));
+        check(sized);
+        check(Stepped(std::floor(sized), ulps(random)));
+        check(std::floor(sized) - 5 * std::pow(10, std::floor(std::log10(std::fabs(sized))) - 15));
+        check(std::floor(sized) / 2 + 0.5);
+    }
+    EXPECT_EQ(differing, 0);
+}
+
+TEST(Modulo, KeepsItsRange) {
+    EXPECT_EQ(Modulo(-1, 7), 6);
+    EXPECT_EQ(Modulo(9, -5), -1);
+    EXPECT_EQ(AdjustedModulo(7, 7), 7);
+    EXPECT_EQ(AdjustedModulo(0, 7), 7);
+    EXPECT_EQ(AdjustedModulo(8, 7), 1);
+    EXPECT_EQ(ModuloRange(12.5, 5, 5), 12.5);
+    EXPECT_EQ(ModuloRange(190, -180, 180), -170);
+    EXPECT_EQ(Ceiling(-0.5), 0);
+    EXPECT_EQ(Ceiling(3.0000000000000004), 4);
+}
+
+TEST(WholeNumber, SaturatesWhatDoesNotFit) {
+    EXPECT_EQ(WholeNumber(NeverMoment), std::numeric_limits<std::int32_t>::max());
+    EXPECT_EQ(WholeNumber<std::int16_t>(-1e6), std::numeric_limits<std::int16_t>::min());
+    EXPECT_EQ(WholeNumber(std::nan("")), std::numeric_limits<std::int32_t>::max());
+    EXPECT_EQ(WholeNumber<std::int64_t>(-2533804), -2533804);
+}
+
+TEST(Divisors, SatisfyBezout) {
+    constexpr std::int32_t numbers[] = {
+        0, 1, -1, 7, 12, -18, 293, 52, 235, 146097, std::numeric_limits<std::int32_t>::min()};
+    for (const std::int32_t a : numbers) {
+        for (const std::int32_t b : numbers) {
+            std::int32_t x = 0;
+            std::int32_t y = 0;
+            const std::int32_t divisor = ExtGCD(a, b, x, y);
+            EXPECT_EQ(divisor, GCD(a, b)) << a << ", " << b;
+            EXPECT_EQ(std::int64_t{a} * x + std::int64_t{b} * y, divisor) << a << ", " << b;
+        }
+    }
+    EXPECT_EQ(ModInverse(52, 293), 62);  // 52 * 62 = 11 * 293 + 1
+    EXPECT_EQ(ModInverse(4, 12), 0);
+}
+
+TEST(Angles, AgreeWithTheLibraryInEveryQuadrant) {
+    constexpr double fullCircle = 6.283185307179586;
+    for (int degrees = -715; degrees < 720; degrees += 5) {
+        const double radians = degrees * fullCircle / 360;
+        EXPECT_NEAR(SinDeg(degrees), std::sin(radians), 1e-13);
+        EXPECT_NEAR(CosDeg(degrees), std::cos(radians), 1e-13);
+        const double x = std::cos(radians) * 3;
+        const double y = std::sin(radians) * 3;
+        EXPECT_NEAR(Degrees(ArcTan2Deg(y, x) - degrees + 180), 180, 1e-10) << degrees;
+        EXPECT_NEAR(ArcTanRad(x, y), std::atan2(y, x), 1e-13) << degrees;
+    }
+    EXPECT_GT(Radians(-90), 0);
+    EXPECT_EQ(Radians(-90), Radians(270));
+    EXPECT_NEAR(ArcSinDeg(-0.5), -30, 1e-12);
+    EXPECT_NEAR(ArcCosDeg(-0.5), 120, 1e-12);
+    EXPECT_TRUE(std::isnan(ArcTanRad(0, 0)));
+}
+
+TEST(DegMinSec, PutsTheSignOfTheDegreesOnAll) {
+    EXPECT_NEAR(DegMinSec(-122, 0, 33), -122.00916666666667, 1e-14);
+    EXPECT_EQ(DegMinSec(0, -30, 0), -0.5);
+    EXPECT_NEAR(HMSToDegrees(5, 16, 41.4), 79.1725, 1e-12);
+}
+
+TEST(Rounding, GoesToTheEvenDigit) {
+    EXPECT_EQ(Round(2.5), 2);
+    EXPECT_EQ(Round(-3.5), -4);
+    EXPECT_EQ(Round(0.125, 2), 0.12);
+    EXPECT_EQ(ZoneFromLongitude(-112.5), -8);
+    EXPECT_EQ(RoundToDigits(6162.4567, 3), 6160);
+    EXPECT_EQ(RoundToDigits(-0.000123456, 2), -0.00012);
+    EXPECT_EQ(RoundToDigits(NeverMoment, 3), NeverMoment);
+    EXPECT_EQ(RoundToDigits(0, 3), 0);
+}
+
+TEST(DayFraction, IsATimeOfDayBeforeDay0Too) {
+    EXPECT_NEAR(DayFraction(-2.25), 0.75, 1e-12);
+    EXPECT_EQ(DayFraction(739000.9999999999), 0);
+    EXPECT_EQ(DayFraction(739000), 0);
+}
+
+TEST(Lists, HaveAGreatestAndALeast) {
+    EXPECT_EQ(MaxOf({3, -1, 7.5}), 7.5);
+    EXPECT_EQ(MinOf({3, -1, 7.5}), -1);
+    EXPECT_EQ(MaxOf({}), -1e308);
+}
+
+}  // namespace
+}  // namespace horvanta

@@ -1,0 +1,319 @@
+#include "app/horvanta.h"
+#include "core/moment.h"
+#include "qt/qt_desktop.h"
+
+#include <QApplication>
+#include <QClipboard>
+#include <QFile>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMdiArea>
+#include <QMdiSubWindow>
+#include <QMenuBar>
+#include <QMessageBox>
+#include <QProcess>
+#include <QPushButton>
+#include <QTemporaryDir>
+#include <QTest>
+#include <QTimer>
+#include <QToolButton>
+
+#include <set>
+
+using namespace horvanta;
+
+namespace {
+
+/// The whole program on a settings folder of its own.
+struct Session {
+    Session() {
+        CurrentDesktop = &desktop;
+        program.Start();
+        frame().Draw();
+        frame().resize(1400, 900);
+        if (!QTest::qWaitForWindowActive(&frame())) qWarning("the frame did not become active");
+    }
+    ~Session() { CurrentDesktop = nullptr; }
+
+    Frame& frame() { return *desktop.frame(); }
+
+    template <class Widget>
+    Widget* Find(const char* name) {
+        return frame().findChild<Widget*>(QString::fromLatin1(name));
+    }
+
+    QMdiSubWindow* Window(const Form& form) {
+        return frame().findChild<QMdiSubWindow*>(QString::fromStdString(form.name));
+    }
+
+    void Press(Qt::Key key, Qt::KeyboardModifiers held = Qt::NoModifier) {
+        QTest::keyClick(QApplication::focusWidget(), key, held);
+    }
+
+    QtDesktop desktop;
+    Horvanta program;
+};
+
+/// Answers the next message box with a button.
+void AnswerNextBox(QMessageBox::StandardButton button) {
+    QTimer::singleShot(0, qApp, [button] {
+        auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+        if (box) box->button(button)->click();
+    });
+}
+
+QString SettingsPath() { return SettingsFile::PathOf(ProgramSettings); }
+
+void WriteFile(const QString& path, const QByteArray& bytes) {
+    QDir().mkpath(QFileInfo(path).path());
+    QFile file(path);
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    file.write(bytes);
+}
+
+QByteArray ReadFile(const QString& path) {
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+bool isReader(const QWidget& widget) {
+    return qobject_cast<const QLabel*>(&widget) || qobject_cast<const QAbstractButton*>(&widget) ||
+           (qobject_cast<const QLineEdit*>(&widget) && !widget.objectName().isEmpty());
+}
+
+}  // namespace
+
+class FormTest final : public QObject {
+    Q_OBJECT
+
+  private Q_SLOTS:
+    void init() {
+        folder_ = std::make_unique<QTemporaryDir>();
+        qputenv("XDG_CONFIG_HOME", folder_->path().toUtf8());
+        QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, folder_->path());
+    }
+
+    void everyControlHasItsWidgetAndEveryWidgetItsControl() {
+        Session session;
+        for (Form* form : session.program.forms) {
+            QWidget* content = session.Window(*form)->widget();
+            std::set<QString> controls;
+            for (const Control* control : form->controls) {
+                const QString name = QString::fromStdString(control->name);
+                controls.insert(name);
+                const auto* widget = content->findChild<QWidget*>(name);
+                QVERIFY2(widget, control->name.c_str());
+                QVERIFY2(!widget->accessibleName().isEmpty(), control->name.c_str());
+            }
+            for (const auto* widget : content->findChildren<QWidget*>()) {
+                QVERIFY2(!isReader(*widget) || controls.contains(widget->objectName()),
+                         qPrintable(widget->objectName()));
+            }
+        }
+    }
+
+    void everyShownMenuItemDoesSomething() {
+        Session session;
+        const auto checkMenu = [](const auto& self, const QList<QAction*>& actions) -> void {
+            QVERIFY(!actions.isEmpty());
+            for (const QAction* action : actions) {
+                QVERIFY2(action->text().contains(u'&'), qPrintable(action->text()));
+                if (action->menu()) self(self, action->menu()->actions());
+            }
+        };
+        checkMenu(checkMenu, session.frame().menuBar()->actions());
+    }
+
+    void typedDayNumbersAreTakenOrGivenBack() {
+        Session session;
+        auto* field = session.Find<QLineEdit>("FixedDayNum");
+        QVERIFY(field->hasFocus());
+        field->selectAll();
+        QTest::keyClicks(field, QStringLiteral("738900.5"));
+        session.Press(Qt::Key_Return);
+        QCOMPARE(DisplayedMoment, 738900.5);
+        QCOMPARE(session.Find<QLabel>("GregorianDate")->text(), QStringLiteral("Monday, January 15, 2024 "));
+
+        field->selectAll();
+        QTest::keyClicks(field, QStringLiteral("12x"));
+        QTest::mouseClick(session.Find<QToolButton>("NextUp"), Qt::LeftButton);
+        QCOMPARE(DisplayedMoment, 738901);
+        QCOMPARE(field->text(), QStringLiteral("738901"));
+
+        field->setFocus();
+        field->selectAll();
+        QTest::keyClicks(field, QStringLiteral("1000"));
+        session.Find<QPushButton>("isoInfo")->setFocus();
+        QCOMPARE(DisplayedMoment, 1000);
+    }
+
+    void keysStepAndEditingKeysEdit() {
+        Session session;
+        auto* field = session.Find<QLineEdit>("FixedDayNum");
+        DisplayedMoment = 738900;
+        UpdateStatus();
+        session.frame().Draw();
+        const std::tuple<Qt::Key, Qt::KeyboardModifiers, double> rows[] = {
+            {Qt::Key_Space, Qt::NoModifier, 738901},    {Qt::Key_Space, Qt::ShiftModifier, 738900},
+            {Qt::Key_PageUp, Qt::NoModifier, 738907},   {Qt::Key_PageDown, Qt::NoModifier, 738900},
+            {Qt::Key_Up, Qt::NoModifier, 738901},       {Qt::Key_Down, Qt::NoModifier, 738900},
+            {Qt::Key_Plus, Qt::KeypadModifier, 738901}, {Qt::Key_Minus, Qt::KeypadModifier, 738900},
+            {Qt::Key_Left, Qt::NoModifier, 738900},     {Qt::Key_Home, Qt::ShiftModifier, 738900},
+            {Qt::Key_Home, Qt::NoModifier, Today()},
+        };
+        for (const auto& [key, held, moment] : rows) {
+            session.Press(key, held);
+            QCOMPARE(DisplayedMoment, moment);
+            QVERIFY(field->hasFocus());
+            if (held == Qt::ShiftModifier && key == Qt::Key_Home) QVERIFY(field->hasSelectedText());
+        }
+        session.frame().findChild<QMdiArea*>()->setActiveSubWindow(session.Window(session.program.gregorian.form));
+        const Moment before = DisplayedMoment;
+        session.Press(Qt::Key_PageUp);
+        QCOMPARE(DisplayedMoment, before + 7);
+    }
+
+    void repeatsOfAHeldKeyWaitForThePaint() {
+        Session session;
+        const Moment before = DisplayedMoment;
+        const auto repeat = [&] {
+            QKeyEvent event(QEvent::KeyPress, Qt::Key_Up, Qt::NoModifier, QString(), true);
+            QApplication::sendEvent(QApplication::focusWidget(), &event);
+        };
+        QCoreApplication::processEvents();
+        repeat();
+        repeat();
+        repeat();
+        QCOMPARE(DisplayedMoment, before + 1);
+        QTRY_VERIFY_WITH_TIMEOUT((repeat(), DisplayedMoment > before + 1), 2000);
+    }
+
+    void clickedLabelsAreCopied() {
+        Session session;
+        QTest::mouseClick(session.Find<QLabel>("GregCycleInfo"), Qt::LeftButton);
+        QVERIFY(QApplication::clipboard()->text().startsWith(QStringLiteral("Gregorian year ")));
+        QVERIFY(session.Find<QLabel>("ClipBoardStatus")->text().startsWith(QStringLiteral("Gregorian year ")));
+        QTest::mouseClick(session.Find<QLabel>("ClipBoardStatus"), Qt::LeftButton);
+        QVERIFY(QApplication::clipboard()->text().isEmpty());
+    }
+
+    void informationIsCopiedOnYes() {
+        Session session;
+        AnswerNextBox(QMessageBox::Yes);
+        QTest::mouseClick(session.Find<QPushButton>("isoInfo"), Qt::LeftButton);
+        QVERIFY(QApplication::clipboard()->text().startsWith(QStringLiteral("The International Organization")));
+        QCOMPARE(session.frame().focusWidget(), session.Find<QLineEdit>("FixedDayNum"));
+    }
+
+    void aClosedWindowComesBackFromTheMenu() {
+        Session session;
+        QMdiSubWindow* window = session.Window(session.program.gregorian.form);
+        QVERIFY(window->isVisible());
+        window->close();
+        QVERIFY(!window->isVisible());
+        session.program.frame.GregCal.Click();
+        session.frame().Draw();
+        QVERIFY(window->isVisible());
+        session.Window(session.program.timeAstro.form)->close();
+        QVERIFY(session.Window(session.program.timeAstro.form)->isVisible());
+    }
+
+    void windowsStandApartInTheFrameAndShowAllTheirText_data() {
+        QTest::addColumn<double>("fontScale");
+        QTest::newRow("standard font") << 1.0;
+        QTest::newRow("font half again as large") << 1.5;
+    }
+
+    void windowsStandApartInTheFrameAndShowAllTheirText() {
+        QFETCH(double, fontScale);
+        const QFont standard = QApplication::font();
+        QFont scaled = standard;
+        scaled.setPointSizeF(standard.pointSizeF() * fontScale);
+        QApplication::setFont(scaled);
+        {
+            Session session;
+            for (const double moment : {-2533803.123456789, 4382545.0, 738424.0}) {
+                DisplayedMoment = moment;
+                UpdateStatus();
+                session.frame().Draw();
+                QCoreApplication::processEvents();
+                QRegion together;
+                for (Form* form : session.program.forms) {
+                    const QMdiSubWindow* window = session.Window(*form);
+                    QVERIFY(window->parentWidget()->rect().contains(window->geometry()));
+                    QVERIFY(!together.intersects(window->geometry()));
+                    together += window->geometry();
+                    for (const auto* label : window->findChildren<QLabel*>()) {
+                        QVERIFY2(label->width() >= label->sizeHint().width() &&
+                                     label->height() >= label->sizeHint().height(),
+                                 qPrintable(label->objectName() + u' ' + label->text()));
+                    }
+                }
+            }
+        }
+        QApplication::setFont(standard);
+    }
+
+    void theProgramStartsOnAnySettingsFile_data() {
+        QTest::addColumn<QByteArray>("bytes");
+        QTest::newRow("empty") << QByteArray();
+        QTest::newRow("truncated") << QByteArray("[Item]\nRD=7389");
+        QTest::newRow("cut in a section") << QByteArray("[Prog]\nLaunch=OK\n[Ite");
+        QTest::newRow("binary") << QByteArray::fromHex("00ff10807f454c460a5b0000ff3d0a00").repeated(64);
+        QTest::newRow("nonsense") << QByteArray("[TimeAstro]\nLeft=1e300\nTop=-1e300\n[Item]\nRD=@Variant(\\0)\n");
+    }
+
+    void theProgramStartsOnAnySettingsFile() {
+        QFETCH(QByteArray, bytes);
+        WriteFile(SettingsPath(), bytes);
+        {
+            Session session;
+            QCOMPARE(DisplayedMoment, Today());
+            QVERIFY(session.Window(session.program.timeAstro.form)->isVisible());
+            QVERIFY(QRect(0, 0, 1400, 900).intersects(session.Window(session.program.gregorian.form)->geometry()));
+            session.program.MenuExit_Click();
+        }
+        QVERIFY(ReadFile(SettingsPath()).contains("Launch=OK"));
+    }
+
+    void aReadOnlySettingsFileIsReadAndLeftAlone() {
+        const QByteArray kept = "[Item]\nRD=1000\nSD=\"2000,5\"\n[TimeAstro]\nChk=False\nLeft=150,5\n";
+        WriteFile(SettingsPath(), kept);
+        QVERIFY(QFile::setPermissions(SettingsPath(), QFileDevice::ReadOwner));
+        {
+            Session session;
+            QCOMPARE(DisplayedMoment, 1000);
+            QCOMPARE(SavedMoment, 2000);
+            QCOMPARE(session.program.timeAstro.form.place.left, 150);
+            session.program.MenuExit_Click();
+        }
+        QCOMPARE(ReadFile(SettingsPath()), kept);
+    }
+
+    void aSecondStartEndsAndTheFirstGoesOn() {
+        QProcess first;
+        first.start(QStringLiteral(HORVANTA_PROGRAM), {});
+        QTRY_VERIFY_WITH_TIMEOUT(ReadFile(SettingsPath()).contains("Launch=OK"), 20000);
+        QTest::qWait(200);
+        QProcess second;
+        second.start(QStringLiteral(HORVANTA_PROGRAM), {});
+        QVERIFY(second.waitForFinished(10000));
+        QCOMPARE(second.exitCode(), 0);
+        QCOMPARE(first.state(), QProcess::Running);
+        QVERIFY(ReadFile(SettingsPath()).contains("Launch=OK"));
+
+        first.kill();
+        first.waitForFinished();
+        QProcess third;  // the lock of a program that was killed holds nobody up
+        third.start(QStringLiteral(HORVANTA_PROGRAM), {});
+        QVERIFY(!third.waitForFinished(1500));
+        third.kill();
+        third.waitForFinished();
+    }
+
+  private:
+    std::unique_ptr<QTemporaryDir> folder_;
+};
+
+QTEST_MAIN(FormTest)
+#include "form_test.moc"

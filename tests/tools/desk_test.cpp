@@ -1,0 +1,117 @@
+#include "desk.h"
+
+#include "core/moment.h"
+#include "core/text.h"
+
+#include <gtest/gtest.h>
+
+#include <cstdlib>
+#include <random>
+
+namespace horvanta {
+namespace {
+
+TEST(Desk, AnswersEveryLineWithOne) {
+    constexpr std::pair<const char*, const char*> rows[] = {
+        {"call GregorianToFixed 2024 1 15", "738900"},
+        {"call Modulo -1 7", "6"},
+        {"call HoursToDays 2.4", "0.099999999999999992"},
+        {"call FormatTime never 0 false", "\"never\""},
+        {"call Floor never", "never"},
+        {"call isGregorianLeapYear 2024", "true"},
+        {"call ExtGCD 240 46", "divisor=2 x=-9 y=47"},
+        {"call MaxOf 1 3 2", "3"},
+        {"call ReplaceAll \"a b\" \" \" \"\\n\"", "\"a\\nb\""},
+        {"call ParseNumber x", "none"},
+        {"call Floor", "error: takes 1 arguments"},
+        {"call Floor x", "error: not a number: x"},
+        {"call GCD 1.5 2", "error: not a whole number that fits: 1.5"},
+        {"call Nothing", "error: no such function: Nothing"},
+        {"call ReplaceAll \"a", "error: a quote is not closed"},
+        {"", "error: no such line: "},
+        {"set J2000 1", "error: can't be set: J2000"},
+        {"get MJDEpoch", "678576"},
+        {"press F13", "error: no such key: F13"},
+        {"menu FileMenu", "error: no such menu item: FileMenu"},
+        {"click Gregorian.Nothing", "error: no such control: Gregorian.Nothing"},
+        {"click TimeAstro.UT", "error: nothing happens there"},
+        {"type Gregorian.Dominical A", "error: nothing can be typed there"},
+        {"answer maybe", "error: no such answer: maybe"},
+        {"asked", "none"},
+    };
+    Desk desk;
+    for (const auto& [line, answer] : rows) EXPECT_EQ(desk.Obey(line), answer) << line;
+}
+
+/// Random keys, clicks, choices and typed texts: whatever the user does, the moment stays within its range and the
+/// date shown is that of its day. HORVANTA_ACTS sets how many acts.
+TEST(Desk, KeepsTheMomentInItsRangeWhateverIsDone) {
+    constexpr const char* lines[] = {
+        "press Space",
+        "press Space shift",
+        "press PageUp",
+        "press PageDown",
+        "press Up",
+        "press Down",
+        "press Plus",
+        "press Minus",
+        "press Home",
+        "press Enter",
+        "press Left",
+        "press Backspace ctrl",
+        "click TimeAstro.DayUp",
+        "click TimeAstro.NextDown",
+        "click TimeAstro.JumpToFuture",
+        "click TimeAstro.JumpToPast",
+        "click TimeAstro.ClipBoardStatus",
+        "click Gregorian.GregorianDate",
+        "click Gregorian.GregCycleInfo",
+        "click Gregorian.isoOrdinalDay",
+        "click Gregorian.InfoGreg",
+        "dblclick Gregorian.GregorianDate",
+        "rightclick TimeAstro.TimeOfDay",
+        "focus Gregorian.isoInfo",
+        "focus TimeAstro.NextUp",
+        "focus TimeAstro.FixedDayNum",
+        "answer yes",
+        "answer color 8421504",
+        "menu StepMenu 1",
+        "menu StepMenu 2",
+        "menu SaveThisMoment",
+        "menu JumpToSaved",
+        "menu AlwaysToday",
+        "menu GregCal",
+        "close Gregorian",
+        "events",
+        "call ChangeFixedDayEpoch 1 1 x",
+    };
+    constexpr const char* typed[] = {"", "-", "nan", "1e400", "—5", "9999999", "-9999999", "1e-300", "0x1", "٣"};
+    const char* wanted = std::getenv("HORVANTA_ACTS");
+    const int acts = wanted ? std::atoi(wanted) : 20'000;
+    std::mt19937 random(5784);
+    const auto pick = [&](const auto& list) { return list[random() % std::size(list)]; };
+    std::uniform_real_distribution<double> day(-3e6, 5e6);
+
+    Desk desk;
+    for (int i = 0; i < acts; ++i) {
+        std::string line = pick(lines);
+        if (random() % 4 == 0) line = "type TimeAstro.FixedDayNum " + GeneralText(day(random));
+        if (random() % 16 == 0) line = std::string("type TimeAstro.FixedDayNum ") + pick(typed);
+        if (random() % 64 == 0) line = "call ChangeFixedDayEpoch " + GeneralText(day(random)) + " 1 x";
+        desk.Obey(line);
+
+        const GregorianDate& date = DisplayedGregorianDate();
+        const bool inRange = DisplayedMoment >= MinFixedDay && DisplayedMoment <= MaxFixedDay;
+        const bool convertsBack = GregorianToFixed(date.year, date.month, date.day) == Floor(DisplayedMoment);
+        const bool shown = !desk.program.gregorian.form.visible ||
+                           desk.program.gregorian.GregorianDate.text == GregorianDateString(date) + " ";
+        const bool isNumber = ParseNumber(desk.program.timeAstro.FixedDayNum.text).has_value();
+        ASSERT_TRUE(inRange && convertsBack && shown && isNumber)
+            << "act " << i << ", " << line << ": " << ExactText(DisplayedMoment);
+        if (desk.desktop.asked.size() > 100) desk.desktop.asked.clear();
+        if (desk.desktop.answers.size() > 4) desk.desktop.answers.clear();
+    }
+}
+
+}  // namespace
+}  // namespace horvanta
