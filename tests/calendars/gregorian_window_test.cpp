@@ -120,9 +120,7 @@ TEST_F(GregorianWindowTest, AnswersToMonthGrids) {
     }
     DisplayedMoment = GregorianToFixed(2020, 12, 31);
     EXPECT_EQ(desk_.Obey("call Gregorian.GetDateAlt"), "year=2020 month=13 day=32 monthLength=35 firstWeekday=0");
-    EXPECT_EQ(desk_.Obey("call Gregorian.SetMonthNamesAlt").substr(0, 24), R"("Week 1-4"; "Week 5-8"; )");
     EXPECT_TRUE(desk_.Obey("call Gregorian.SetMonthNamesAlt").ends_with(R"("Week 49-End"; selected=12)"));
-    EXPECT_TRUE(desk_.Obey("call Gregorian.SetMonthNames").ends_with(R"("December"; selected=11)"));
     EXPECT_TRUE(desk_.Obey("call Gregorian.SetDayNamesAlt").starts_with(R"("Monday"; "Tuesday")"));
     EXPECT_TRUE(desk_.Obey("call Gregorian.SetDayNames").starts_with(R"("Sunday"; "Monday")"));
 }

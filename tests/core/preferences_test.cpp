@@ -37,14 +37,5 @@ TEST_F(PreferencesTest, ReadsADoubleUpToAComma) {
     EXPECT_EQ(GetDoublePref(ProgramSettings, "Item", "Key", 0), 739000.1);
 }
 
-TEST_F(PreferencesTest, AreDeletedButForTheUsersOwnPlaces) {
-    desktop_.settings.Write("Horvanta-UDLs", "User 1", "Name", "Home");
-    DeleteAllPrefs();
-    Store("1");
-    DeleteAllPrefs();
-    EXPECT_EQ(GetTextPref(ProgramSettings, "Item", "Key", "none"), "none");
-    EXPECT_EQ(GetTextPref("Horvanta-UDLs", "User 1", "Name", "none"), "Home");
-}
-
 }  // namespace
 }  // namespace horvanta
