@@ -100,6 +100,8 @@ void Horvanta::ResetColorsAndQuit_Click() {
 void Horvanta::GregCal_Click() {
     gregorian.form.visible = !gregorian.form.visible;
     UpdateStatus();
+    Control& next = gregorian.form.visible ? static_cast<Control&>(gregorian.Dummy) : timeAstro.FixedDayNum;
+    next.TakeFocus();
 }
 
 }  // namespace horvanta

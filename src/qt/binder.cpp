@@ -208,7 +208,9 @@ bool Binder::eventFilter(QObject* watched, QEvent* event) {
     Control* control = ControlOf(watched);
     switch (event->type()) {
         case QEvent::KeyPress: return KeyActed(watched, static_cast<QKeyEvent&>(*event));
-        case QEvent::MouseButtonDblClick: doubleClicked_ = watched; return false;
+        case QEvent::MouseButtonDblClick:
+            if (control) doubleClicked_ = watched;
+            return false;
         case QEvent::MouseButtonRelease:
             if (control) MouseActed(*control, static_cast<QMouseEvent&>(*event));
             return false;

@@ -3,6 +3,7 @@
 #include "qt/single_instance.h"
 
 #include <QApplication>
+#include <QIcon>
 #include <QTimer>
 
 namespace {
@@ -24,7 +25,7 @@ void TakePicture(horvanta::Horvanta& program, horvanta::Frame& frame) {
 int main(int argc, char* argv[]) {
     QApplication application(argc, argv);
     QApplication::setApplicationName(QStringLiteral("horvanta"));
-    QApplication::setApplicationDisplayName(QStringLiteral("Horvanta"));
+    QApplication::setWindowIcon(QIcon(QStringLiteral(":/horvanta.png")));
 
     horvanta::SingleInstance instance;
     if (!instance.Claim()) return 0;

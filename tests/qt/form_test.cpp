@@ -4,6 +4,7 @@
 
 #include <QApplication>
 #include <QClipboard>
+#include <QColorDialog>
 #include <QFile>
 #include <QLabel>
 #include <QLineEdit>
@@ -191,6 +192,21 @@ class FormTest final : public QObject {
         QVERIFY(QApplication::clipboard()->text().isEmpty());
     }
 
+    void aDoubleClickAsksForAColour() {
+        Session session;
+        auto* date = session.Find<QLabel>("GregorianDate");
+        QTimer::singleShot(100, qApp, [] {
+            auto* dialog = qobject_cast<QColorDialog*>(QApplication::activeModalWidget());
+            QVERIFY(dialog);
+            dialog->setCurrentColor(Qt::green);
+            dialog->accept();
+        });
+        QTest::mouseDClick(date, Qt::LeftButton);
+        QTest::mouseRelease(date, Qt::LeftButton);
+        QCOMPARE(date->palette().color(QPalette::Window), QColor(Qt::green));
+        QCOMPARE(date->palette().color(QPalette::WindowText), QColor(Qt::black));
+    }
+
     void informationIsCopiedOnYes() {
         Session session;
         AnswerNextBox(QMessageBox::Yes);
@@ -205,6 +221,7 @@ class FormTest final : public QObject {
         QVERIFY(window->isVisible());
         window->close();
         QVERIFY(!window->isVisible());
+        QCOMPARE(session.frame().focusWidget(), session.Find<QLineEdit>("FixedDayNum"));
         DisplayedMoment = 1;
         session.program.frame.GregCal.Click();
         session.frame().Draw();
