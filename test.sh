@@ -70,7 +70,7 @@ case "${1:-quick}" in
         HORVANTA_ACTS=1000000 build/sanitize/tests/horvanta_tests --gtest_filter='Desk.KeepsTheMoment*'
         ;;
     *)
-        sed -n '2,5s/^# //p' "$0"
+        sed -n '2,5s/^# //p' test.sh
         exit 2
         ;;
 esac

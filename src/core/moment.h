@@ -23,8 +23,8 @@ inline std::function<void()> UpdatePass;
 /// A moment that can be displayed: x itself, or with a beep the nearer end of the range (the first for NaN).
 Moment ClampToRange(Moment x);
 
-/// Clamps `DisplayedMoment` and runs a pass. A call from within a pass makes the pass run again and returns; so do
-/// not the windows, but the events let in by a long pass, ask for it.
+/// Clamps `DisplayedMoment` and runs a pass. Called from within a pass, by an event that the pass let in, it returns at
+/// once and the pass runs again.
 void UpdateStatus();
 
 /// Holds all updates while it lives.

@@ -1,5 +1,6 @@
 #include "core/numerics.h"
 
+#include <algorithm>
 #include <array>
 #include <charconv>
 #include <string>
@@ -136,7 +137,7 @@ double RoundToDigits(double x, int n) {
 
     std::array<char, 64> rounded;
     char* end =
-        std::to_chars(rounded.begin(), rounded.end(), Round(mantissa, n - 1), std::chars_format::general, 15).ptr;
+        std::to_chars(rounded.begin(), rounded.end(), Round(mantissa, std::clamp(n, 1, 15) - 1), std::chars_format::general, 15).ptr;
     end = std::copy(exponent.ptr, static_cast<const char*>(written.ptr), end);
     double result = x;
     std::from_chars(rounded.begin(), end, result);

@@ -153,7 +153,7 @@ inline double DayFraction(Moment x) {
     return rounded - Floor(rounded);
 }
 
-/// x with the mantissa of its 15 digits rounded to n significant digits. For display only.
+/// x with the mantissa of its 15 digits rounded to n significant digits, at least 1. For display only.
 double RoundToDigits(double x, int n);
 
 }  // namespace horvanta

@@ -82,9 +82,9 @@ std::string AngleString(double degrees);
 /// Hours as whole minutes, 90m; negative ones within "-(" and ")".
 std::string MinutesString(double hours);
 
-/// A whole number and a fraction in lowest terms, "3 + 1 / 4", or its form for web pages. All three numbers of a
-/// negative value are negative or zero but for the denominator; it is printed with a dash before, and in parentheses
-/// if it has both a whole part and a fraction. A zero value is "0".
+/// A whole number and a fraction in lowest terms, "3 + 1 / 4", or its form for web pages. A negative value has the sign
+/// on the whole number and on the fraction; it is printed with a dash before, and in parentheses if it has both. Zero
+/// is "0".
 std::string FractionText(std::int32_t whole, std::int32_t numerator, std::int32_t denominator, bool html);
 
 /// A fraction in small print for web pages.

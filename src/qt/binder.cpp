@@ -180,7 +180,8 @@ void Binder::KeepRoom(const Bound& bound) {
     const QString widest = QString::fromStdString(bound.control->widest);
     QWidget& widget = *bound.widget;
     if (qobject_cast<QLineEdit*>(&widget)) {
-        widget.setMinimumWidth(widget.fontMetrics().horizontalAdvance(widest + QStringLiteral("00")));
+        const QString withMargins = widest + QStringLiteral("00");
+        widget.setMinimumWidth(widget.fontMetrics().horizontalAdvance(withMargins));
         return;
     }
     const QString shown = TextOf(widget);

@@ -1,7 +1,7 @@
 #include "qt/forms.h"
 
-#include "ui_gregorian.h"
-#include "ui_time_astro.h"
+#include "forms/ui_gregorian.h"
+#include "forms/ui_time_astro.h"
 
 namespace horvanta {
 namespace {

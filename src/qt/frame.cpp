@@ -20,6 +20,8 @@
 namespace horvanta {
 namespace {
 
+constexpr QEvent::Type paintedEvent = QEvent::User;
+
 double Twips(int pixels) { return pixels * TwipsPerPixel; }
 
 /// Twips as pixels, held between two ends, the lower of which prevails.
@@ -91,7 +93,14 @@ void Frame::Draw() {
     for (Child& child : children_) DrawChild(child);
     for (Child& child : children_) GrantFocus(child);
     drawing_ = false;
-    paintPending_ = true;
+    AwaitPaint();
+}
+
+/// Paints are posted with low priority; what is posted lower still arrives when they are done.
+void Frame::AwaitPaint() {
+    if (!std::exchange(paintPending_, true)) {
+        QCoreApplication::postEvent(this, new QEvent(paintedEvent), Qt::LowEventPriority - 1);
+    }
 }
 
 void Frame::DrawMenus() {
@@ -189,11 +198,9 @@ bool Frame::eventFilter(QObject* watched, QEvent* event) {
     }
 }
 
-/// The backing store is painted when the update that a drawing asked for comes round.
 bool Frame::event(QEvent* event) {
-    const bool handled = QMainWindow::event(event);
-    if (event->type() == QEvent::UpdateRequest) paintPending_ = false;
-    return handled;
+    if (event->type() == paintedEvent) paintPending_ = false;
+    return QMainWindow::event(event);
 }
 
 void Frame::changeEvent(QEvent* event) {

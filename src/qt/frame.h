@@ -53,6 +53,7 @@ class Frame final : public QMainWindow, public Acts {
     bool isDrawing() const override { return drawing_; }
 
     void AddItem(QMenu& menu, MenuItem& item);
+    void AwaitPaint();
     void DrawMenus();
     void DrawChild(Child& child);
     void DrawPlace(Child& child);

@@ -73,7 +73,7 @@ TEST(Start, ClearsTheSettingsAfterAStartThatDidNotFinish) {
         EXPECT_THROW(program.Start(), int);
     }
     Settings left = killed.settings.flushed;
-    EXPECT_EQ(left["Horvanta"]["Prog"]["Launch"], "");
+    EXPECT_EQ(left["Horvanta"]["Prog"].at("Launch"), "");
     EXPECT_EQ(left["Horvanta"]["Item"]["RD"], "1000");
 
     Desk desk(left);

@@ -78,6 +78,8 @@ TEST_F(MomentTest, KeepsDatesTimesAndWeekdaysUnderEveryNumbering) {
     EXPECT_EQ(DisplayedMoment, 738900.75);
     EXPECT_NEAR(SavedMoment, 730120.123456789, 1e-9);
     EXPECT_EQ(JDEpoch, -1721424.5);
+    SetFixedDayEpoch(GregorianEpoch + 1, 1, "the same number for another day");
+    EXPECT_EQ(DisplayedGregorianDate().day, 16);
 }
 
 TEST(KDays, LieWithinAWeekOnTheirSide) {

@@ -181,6 +181,11 @@ class FormTest final : public QObject {
         repeat();
         QCOMPARE(DisplayedMoment, before + 1);
         QTRY_VERIFY_WITH_TIMEOUT((repeat(), DisplayedMoment > before + 1), 2000);
+
+        session.program.timeAstro.DayUpDown(-1e8, 1);  // to the first day, from where a held key changes nothing
+        session.Press(Qt::Key_Down);
+        session.Press(Qt::Key_Down);
+        QTRY_VERIFY_WITH_TIMEOUT((repeat(), DisplayedMoment > MinFixedDay), 400);
     }
 
     void clickedLabelsAreCopied() {
