@@ -6,6 +6,7 @@
 #include "core/text.h"
 
 #include <algorithm>
+#include <functional>
 
 namespace horvanta {
 namespace {
@@ -162,12 +163,12 @@ void TimeAstro::FixedDayNum_LostFocus() {
 
 void TimeAstro::ClipBoardStatus_Click() { frame_.SetClipboardText(""); }
 
-void TimeAstro::PickBackgroundColor() { PickColor(true); }
-void TimeAstro::PickForegroundColor() { PickColor(false); }
+void TimeAstro::PickBackgroundColor() {
+    frame_.PickColor(TimeOfDay, true, std::bind_front(&TimeAstro::SetColor, this));
+}
 
-void TimeAstro::PickColor(bool isBackground) {
-    const auto chosen = CurrentDesktop->ChooseColor(TimeOfDay.colors->Part(isBackground));
-    if (chosen) SetColor(*chosen, isBackground);
+void TimeAstro::PickForegroundColor() {
+    frame_.PickColor(TimeOfDay, false, std::bind_front(&TimeAstro::SetColor, this));
 }
 
 void TimeAstro::SetColor(Color color, bool isBackground) {

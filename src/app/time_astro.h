@@ -68,7 +68,6 @@ class TimeAstro {
   private:
     void FixedDayNum_LostFocus();
     void SetStepCaptions(std::int32_t index);
-    void PickColor(bool isBackground);
 
     HorvantaMDI& frame_;
     std::int64_t tooltipNumbering_ = -1;  ///< The numbering that the day number's tooltip tells.

@@ -1,11 +1,11 @@
 #include "calendars/gregorian_window.h"
 
 #include "core/day_events.h"
-#include "core/desktop.h"
 #include "core/moment.h"
 #include "core/text.h"
 
 #include <algorithm>
+#include <functional>
 
 namespace horvanta {
 namespace {
@@ -175,12 +175,12 @@ void GregorianWindow::GregCycleInfo_Click() {
                             "leap) = " + ReplaceAll(GregCycleInfo.text, " cycle", " 400-year cycle"));
 }
 
-void GregorianWindow::PickBackgroundColor() { PickColor(true); }
-void GregorianWindow::PickForegroundColor() { PickColor(false); }
+void GregorianWindow::PickBackgroundColor() {
+    frame_.PickColor(GregorianDate, true, std::bind_front(&GregorianWindow::SetColor, this));
+}
 
-void GregorianWindow::PickColor(bool isBackground) {
-    const auto chosen = CurrentDesktop->ChooseColor(GregorianDate.colors->Part(isBackground));
-    if (chosen) SetColor(*chosen, isBackground);
+void GregorianWindow::PickForegroundColor() {
+    frame_.PickColor(GregorianDate, false, std::bind_front(&GregorianWindow::SetColor, this));
 }
 
 void GregorianWindow::SetColor(Color color, bool isBackground) {

@@ -53,7 +53,6 @@ class GregorianWindow {
     void ShowGregorianDate(const horvanta::GregorianDate& date);
     void ShowISODate(const ISODate& date);
     void PostEvents(const ISODate& date);
-    void PickColor(bool isBackground);
 
     HorvantaMDI& frame_;
 };

@@ -64,6 +64,8 @@ double FloorNearInteger(double x, double below) {
 }  // namespace detail
 
 double Round(double x, int places) {
+    constexpr double allWhole = 4503599627370496;  // 2^52: doubles from here on have no fraction
+    if (std::fabs(x) >= allWhole) return x;
     const double scale = std::pow(10.0, places);
     return std::nearbyint(x * scale) / scale;
 }
@@ -136,8 +138,9 @@ double RoundToDigits(double x, int n) {
     if (exponent.ptr == written.ptr) return x;
 
     std::array<char, 64> rounded;
-    char* end =
-        std::to_chars(rounded.begin(), rounded.end(), Round(mantissa, std::clamp(n, 1, 15) - 1), std::chars_format::general, 15).ptr;
+    char* end = std::to_chars(rounded.begin(), rounded.end(), Round(mantissa, std::clamp(n, 1, 15) - 1),
+                              std::chars_format::general, 15)
+                    .ptr;
     end = std::copy(exponent.ptr, static_cast<const char*>(written.ptr), end);
     double result = x;
     std::from_chars(rounded.begin(), end, result);

@@ -19,4 +19,11 @@ void HorvantaMDI::AskCopyToClipboard(const std::string& message, const std::stri
     TakeFocus();
 }
 
+void HorvantaMDI::PickColor(const Control& mainDate, bool isBackground,
+                            const std::function<void(Color, bool)>& setColor) {
+    const Color present = isBackground ? mainDate.colors->background : mainDate.colors->foreground;
+    const auto chosen = CurrentDesktop->ChooseColor(present);
+    if (chosen) setColor(*chosen, isBackground);
+}
+
 }  // namespace horvanta

@@ -24,6 +24,9 @@ class HorvantaMDI {
     /// Shows a text in a box that offers to copy it. The copy has the title behind the text.
     void AskCopyToClipboard(const std::string& message, const std::string& title);
 
+    /// Lets the user choose one of the colours of a window, starting from that of its main date, and sets it.
+    void PickColor(const Control& mainDate, bool isBackground, const std::function<void(Color, bool)>& setColor);
+
     const std::string name = "HorvantaMDI";
     const std::string text = "Horvanta";
     FrameState state = FrameMaximized;

@@ -143,6 +143,7 @@ TEST(Keys, MoveTheMoment) {
         desk.Obey("set DisplayedMoment " + std::to_string(row.from));
         EXPECT_EQ(desk.Obey(row.line), "ok") << row.line;
         EXPECT_EQ(DisplayedMoment, row.to) << row.line;
+        EXPECT_EQ(StepIndex == 2 ? 7 : 1, Increment) << row.line;
         EXPECT_EQ(desk.program.timeAstro.FixedDayNum.text, GeneralText(row.to)) << row.line;
     }
     EXPECT_EQ(desk.Obey("asked"), "none");
