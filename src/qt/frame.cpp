@@ -70,7 +70,6 @@ void Frame::Load(Form& form) {
     window->setWidget(content);
     const Qt::WindowFlags closable = form.Close ? Qt::WindowCloseButtonHint : Qt::WindowFlags();
     area_->addSubWindow(window, Qt::SubWindow | Qt::CustomizeWindowHint | Qt::WindowTitleHint | closable);
-    window->setSystemMenu(nullptr);
     window->hide();
     children_.push_back({&form, window, std::make_unique<Binder>(form, *content, *this)});
     content->layout()->activate();
