@@ -48,17 +48,28 @@ form_tests_on_a_display() {
         build/release/tests/horvanta_form_tests
 }
 
+# What an installation holds, by the tools made for it.
+packaging_checks() {
+    heading 'Packaging'
+    rm -rf build/staged
+    cmake --install build/release --prefix build/staged >/dev/null
+    [ -x build/staged/bin/horvanta ]
+    desktop-file-validate build/staged/share/applications/*.desktop
+    appstreamcli validate --no-net build/staged/share/metainfo/*.xml
+}
+
 need "${build_packages[@]}"
 case "${1:-quick}" in
     quick) quick_tests ;;
     all)
-        need "${display_packages[@]}" clang-format locales openbox tzdata
+        need "${display_packages[@]}" appstream clang-format desktop-file-utils locales openbox tzdata
         format_check
         quick_tests
         sanitized_tests
         locale_tests
         shuffled_tests
         form_tests_on_a_display
+        packaging_checks
         ;;
     bench)
         need libbenchmark-dev

@@ -97,11 +97,17 @@ void Horvanta::ResetColorsAndQuit_Click() {
     CurrentDesktop->End();
 }
 
-void Horvanta::GregCal_Click() {
-    gregorian.form.visible = !gregorian.form.visible;
+void Horvanta::GregCal_Click() { ShowOrHide(gregorian.form, gregorian.Dummy); }
+
+/// A window that is shown gets the focus; one that is hidden gives it to the time window.
+void Horvanta::ShowOrHide(Form& form, Control& first) {
+    form.visible = !form.visible;
     UpdateStatus();
-    Control& next = gregorian.form.visible ? static_cast<Control&>(gregorian.Dummy) : timeAstro.FixedDayNum;
-    next.TakeFocus();
+    if (form.visible) {
+        first.TakeFocus();
+    } else {
+        timeAstro.TakeFocus();
+    }
 }
 
 }  // namespace horvanta

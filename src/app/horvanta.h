@@ -42,6 +42,7 @@ class Horvanta {
     void MarkLaunch();
     void LoadWindows();
     void ChooseMoment();
+    void ShowOrHide(Form& form, Control& first);
 };
 
 }  // namespace horvanta

@@ -24,6 +24,7 @@ constexpr Step steps[] = {
     {1, "a day", "a week"},
     {7, "a week", "4 weeks"},
 };
+static_assert(std::size(steps) == std::extent_v<decltype(HorvantaMDI::StepMenu)>);
 
 /// How many steps a jump takes.
 struct Jump {
@@ -67,7 +68,7 @@ TimeAstro::TimeAstro(HorvantaMDI& frame) : frame_(frame) {
     }
 }
 
-/// The saved date counts as lying "before" when its day number is the lower one.
+/// The words tell on which side of the displayed date the saved one lies: the program's own way of putting it.
 void TimeAstro::ShowMoment() {
     const double difference = Round(SavedMoment - DisplayedMoment, 3);
     SavedToFrom.text = std::string("day") + (std::fabs(difference) != 1 ? "s " : " ") +

@@ -25,6 +25,7 @@ void TakePicture(horvanta::Horvanta& program, horvanta::Frame& frame) {
 int main(int argc, char* argv[]) {
     QApplication application(argc, argv);
     QApplication::setApplicationName(QStringLiteral("horvanta"));
+    QApplication::setDesktopFileName(QStringLiteral("org.horvanta.Horvanta"));
     QApplication::setWindowIcon(QIcon(QStringLiteral(":/horvanta.png")));
 
     horvanta::SingleInstance instance;

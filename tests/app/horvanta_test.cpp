@@ -87,13 +87,15 @@ TEST(Start, TakesDefaultsForDamagedSettings) {
                           {"Item", "SD", "\x01\xff"},
                           {"Item", "Step", "3"},
                           {"Color", "GBC", "beige"},
+                          {"Color", "GFC", "99999999999"},
                           {"TimeAstro", "Left", "1e999"},
                           {"TimeAstro", "Chk", "perhaps"},
                           {"HorvantaMDI", "State", "-77"}}));
     EXPECT_EQ(DisplayedMoment, 738900);
     EXPECT_EQ(StepIndex, 1);
     EXPECT_EQ(desk.program.timeAstro.form.place.left, 0);
-    EXPECT_EQ(desk.program.gregorian.GregorianDate.colors->background.Number(), 12642289);
+    EXPECT_EQ(desk.program.gregorian.GregorianDate.colors,
+              (ColorPair{Color::FromNumber(12642289), Color::FromNumber(0)}));
     EXPECT_EQ(desk.program.frame.state, FrameMaximized);
 }
 

