@@ -247,7 +247,8 @@ bool Binder::KeyActed(QObject* watched, const QKeyEvent& event) {
 /// Another window of the desktop coming forward, or a menu opening, does not end the editing.
 void Binder::FocusLeft(Control& control, Qt::FocusReason reason) {
     auto* field = dynamic_cast<TextField*>(&control);
-    if (!field || acts_.isDrawing() || reason == Qt::PopupFocusReason) return;
+    const bool toMenu = reason == Qt::PopupFocusReason || reason == Qt::MenuBarFocusReason;
+    if (!field || acts_.isDrawing() || toMenu) return;
     if (QApplication::activeWindow() != root_.window()) return;
     acts_.Run(field->LostFocus);
 }
