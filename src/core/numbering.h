@@ -7,24 +7,32 @@
 
 /// The numbering of days, which the user can move, and the weekdays under any numbering.
 ///
-/// Everything that names a day by number is an offset from `GregorianEpoch`: no absolute day stands anywhere else.
+/// Whatever names a day by number is an `Epoch`: no absolute day stands anywhere else.
 namespace horvanta {
 
 /// Fixed day of January 1 of Gregorian year 1. Only `SetFixedDayEpoch` writes it.
 inline double GregorianEpoch = 1;
 
-// The epochs below follow `GregorianEpoch`; `SetFixedDayEpoch` recomputes them all.
-inline double WeekdayOffset = 0;       ///< Keeps weekdays right under every numbering, in [0, 7).
-inline double JulianEpoch = -1;        ///< January 1 of Julian year 1.
-inline double MinFixedDay = -2533803;  ///< The first day that can be displayed.
-inline double MaxFixedDay = 4382545;   ///< The last day that can be displayed.
-inline double HebrewEpoch = -1373427;  ///< First day of the Hebrew count.
-inline double J2000 = 730120.5;        ///< January 1, 2000 at noon.
-inline double Epoch2001 = 730486;      ///< January 1, 2001.
-inline double UnixEpoch = 719163;      ///< January 1, 1970.
-inline double JDEpoch = -1721424.5;    ///< Julian Day zero.
-inline double MJDEpoch = 678576;       ///< Modified Julian Day zero.
-inline double TJDEpoch = 718576;       ///< Truncated Julian Day zero.
+/// Keeps weekdays right under every numbering, in [0, 7). Follows `GregorianEpoch`.
+inline double WeekdayOffset = 0;
+
+/// A moment that keeps its distance from `GregorianEpoch`, and so its date, under every numbering. It reads as its
+/// number in the present one.
+struct Epoch {
+    double fromGregorianEpoch;
+    operator double() const { return GregorianEpoch + fromGregorianEpoch; }
+};
+
+inline constexpr Epoch JulianEpoch{-2};                  ///< January 1 of Julian year 1.
+inline constexpr Epoch MinFixedDay{-2533804};            ///< The first day that can be displayed.
+inline constexpr Epoch MaxFixedDay{-2533804 + 6916348};  ///< The last day that can be displayed.
+inline constexpr Epoch HebrewEpoch{-1373428};            ///< First day of the Hebrew count.
+inline constexpr Epoch J2000{730119.5};                  ///< January 1, 2000 at noon.
+inline constexpr Epoch Epoch2001{730485};                ///< January 1, 2001.
+inline constexpr Epoch UnixEpoch{719162};                ///< January 1, 1970.
+inline constexpr Epoch JDEpoch{-1721425.5};              ///< Julian Day zero.
+inline constexpr Epoch MJDEpoch{678575};                 ///< Modified Julian Day zero.
+inline constexpr Epoch TJDEpoch{718575};                 ///< Truncated Julian Day zero.
 
 /// What the user calls the numbering, and the day number that its epoch jump goes to.
 inline std::string FixedEpochName = "rata die";
