@@ -58,7 +58,7 @@ void Horvanta::MarkLaunch() {
 void Horvanta::LoadWindows() {
     LoadFramePrefs(frame);
     CurrentDesktop->LoadFrame(frame);
-    SetFixedDayEpoch(GregorianEpoch, 1, "rata die");
+    SetFixedDayEpoch(GregorianEpoch, 1, "rata die");  // January 1 of year 1 is day 1
     for (Form* form : forms) CurrentDesktop->LoadForm(*form);
     timeAstro.form.visible = true;
     LoadPrefs(*this);

@@ -6,6 +6,7 @@ namespace horvanta {
 /// The computer's date, at midnight.
 void MenuJumpToToday_Click();
 
+/// Keeps the displayed moment as the saved one, and the way back to it.
 void SaveThisMoment_Click();
 void JumpToSaved_Click();
 

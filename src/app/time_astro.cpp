@@ -57,7 +57,6 @@ TimeAstro::TimeAstro(HorvantaMDI& frame) : frame_(frame) {
     ClipBoardStatus.Click = [this] { ClipBoardStatus_Click(); };
     form.KeyDown = [this](int code, int shift) { return Form_KeyDown(code, shift); };
 
-    frame.DayUpDown = [this](double count, double size) { DayUpDown(count, size); };
     frame.Form_KeyDown = form.KeyDown;
     frame.TakeFocus = [this] { TakeFocus(); };
     frame.ShowClipboardText = [this](const std::string& clip) { ClipBoardStatus.text = clip; };

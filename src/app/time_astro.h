@@ -44,6 +44,8 @@ class TimeAstro {
     void ClipBoardStatus_Click();
     void PickBackgroundColor();
     void PickForegroundColor();
+
+    /// Colours the day number and the time.
     void SetColor(Color color, bool isBackground);
 
     // clang-format off

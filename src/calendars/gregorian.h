@@ -53,6 +53,7 @@ std::int32_t FixedToGregorianYear(Moment x);
 /// The date of a moment.
 GregorianDate FixedToGregorianDate(Moment x);
 
+/// Days of a month, 28 to 31.
 std::int16_t GregorianMonthLength(std::int32_t year, std::int32_t month);
 constexpr std::int32_t GregorianYearLength(bool isLeap) { return isLeap ? 366 : 365; }
 
@@ -64,6 +65,7 @@ std::string FixedToGregorianString(Moment x);
 /// letter of its Sundays from March on. 2000 has "BA".
 std::string GregorianDominicalLetters(std::int32_t year);
 
+/// The fixed day of a weekday, 1 = Monday to 7 = Sunday, of a week of the ISO year.
 FixedDay ISOToFixed(std::int32_t year, std::int32_t week, std::int32_t weekday);
 
 /// True if the ISO year has 53 weeks.

@@ -86,8 +86,11 @@ GregorianWindow::GregorianWindow(HorvantaMDI& frame) : frame_(frame) {
 void GregorianWindow::Update() {
     if (BusyCount > 0) return;
     ShowGregorianDate(DisplayedGregorianDate());
-    ShowISODate(DisplayedISODate());
-    PostEvents(DisplayedISODate());
+    const ISODate& isoDate = DisplayedISODate();
+    const std::string isoText = ISODateString(isoDate);
+    TheISOdate.text = isoText + " ";
+    isoOrdinalDay.text = "ISO day " + DayOfYearText(isoDate.ordinalDay, ISOYearLength(isoDate.isLeap));
+    PostEvents(isoDate, isoText);
 }
 
 void GregorianWindow::ShowGregorianDate(const horvanta::GregorianDate& date) {
@@ -98,13 +101,7 @@ void GregorianWindow::ShowGregorianDate(const horvanta::GregorianDate& date) {
     GregCycleInfo.text = CycleText(date.year);
 }
 
-void GregorianWindow::ShowISODate(const ISODate& date) {
-    TheISOdate.text = ISODateString(date) + " ";
-    isoOrdinalDay.text = "ISO day " + DayOfYearText(date.ordinalDay, ISOYearLength(date.isLeap));
-}
-
-void GregorianWindow::PostEvents(const ISODate& date) {
-    const std::string dateText = ISODateString(date);
+void GregorianWindow::PostEvents(const ISODate& date, const std::string& dateText) {
     std::string holidays;
     if (date.ordinalDay == 1) {
         day_events::Add("ISO", dateText, holidays, "Begin ISO Year " + std::to_string(date.year), TheISOdate);

@@ -51,8 +51,7 @@ class GregorianWindow {
 
   private:
     void ShowGregorianDate(const horvanta::GregorianDate& date);
-    void ShowISODate(const ISODate& date);
-    void PostEvents(const ISODate& date);
+    void PostEvents(const ISODate& date, const std::string& dateText);
 
     HorvantaMDI& frame_;
 };

@@ -3,22 +3,9 @@
 #include "core/desktop.h"
 #include "core/text.h"
 
-#include <cmath>
 #include <limits>
 
 namespace horvanta {
-namespace {
-
-template <class Integer>
-Integer WholePref(std::string_view application, std::string_view section, std::string_view key, Integer otherwise) {
-    const auto text = CurrentDesktop->Settings().Read(application, section, key);
-    const auto value = text ? ParseNumber(*text) : std::nullopt;
-    using Limits = std::numeric_limits<Integer>;
-    if (!value || *value < Limits::min() || *value > Limits::max()) return otherwise;
-    return static_cast<Integer>(Round(*value));
-}
-
-}  // namespace
 
 std::string GetTextPref(std::string_view application, std::string_view section, std::string_view key,
                         std::string_view otherwise) {
@@ -31,14 +18,12 @@ bool GetBoolPref(std::string_view application, std::string_view section, std::st
     return text == "False" ? false : otherwise;
 }
 
-std::int16_t GetIntPref(std::string_view application, std::string_view section, std::string_view key,
-                        std::int16_t otherwise) {
-    return WholePref(application, section, key, otherwise);
-}
-
 std::int32_t GetLongPref(std::string_view application, std::string_view section, std::string_view key,
                          std::int32_t otherwise) {
-    return WholePref(application, section, key, otherwise);
+    const auto value = ParseNumber(GetTextPref(application, section, key, ""));
+    using Limits = std::numeric_limits<std::int32_t>;
+    const bool fits = value && *value >= Limits::min() && *value <= Limits::max();
+    return fits ? static_cast<std::int32_t>(Round(*value)) : otherwise;
 }
 
 double GetDoublePref(std::string_view application, std::string_view section, std::string_view key, double otherwise) {

@@ -33,8 +33,6 @@ inline constexpr std::string_view ProgramSettings = "Horvanta";
 std::string GetTextPref(std::string_view application, std::string_view section, std::string_view key,
                         std::string_view otherwise);
 bool GetBoolPref(std::string_view application, std::string_view section, std::string_view key, bool otherwise);
-std::int16_t GetIntPref(std::string_view application, std::string_view section, std::string_view key,
-                        std::int16_t otherwise);
 std::int32_t GetLongPref(std::string_view application, std::string_view section, std::string_view key,
                          std::int32_t otherwise);
 

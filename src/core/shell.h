@@ -33,7 +33,6 @@ class HorvantaMDI {
     Place place;  ///< Of the frame that is neither minimised nor maximised; no size until the desktop gives one.
 
     // Acts of the time window.
-    std::function<void(double steps, double size)> DayUpDown;
     std::function<bool(int code, int shift)> Form_KeyDown;
     std::function<void()> TakeFocus;
     std::function<void(const std::string& clip)> ShowClipboardText;

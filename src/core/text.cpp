@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <array>
 #include <charconv>
-#include <numeric>
 #include <span>
 
 namespace horvanta {
@@ -205,9 +204,11 @@ std::string ClockTime(std::int64_t count, std::span<const TimeField> fields, boo
     return text;
 }
 
-/// A count of the style's units below one day.
-std::string TimeText(std::int64_t count, const TimeStyle& style, bool longForm) {
+/// Settled units of the style, below one day.
+std::string TimeText(double units, const TimeStyle& style, bool longForm) {
+    const auto count = WholeNumber<std::int64_t>(units);
     switch (style.look) {
+        case TimeLook::decimal: return Worded(FormatNumber(units, style.decimals), style.fields.front(), longForm);
         case TimeLook::worded: return WordedTime(count, style.fields, longForm);
         case TimeLook::clockUnpadded: return ClockTime(count, style.fields, false);
         case TimeLook::tenths: return ClockTime(count, style.fields, true) + "." + std::to_string(count % 10);
@@ -215,10 +216,9 @@ std::string TimeText(std::int64_t count, const TimeStyle& style, bool longForm) 
     }
 }
 
-std::string DecimalTime(double units, const TimeStyle& style, bool longForm) {
-    const double settled = *ParseNumber(FormatNumber(units, style.decimals));
-    const bool wholeDay = settled >= style.unitsPerDay;
-    return Worded(FormatNumber(wholeDay ? 0 : units, style.decimals), style.fields.front(), longForm);
+/// Units of the style as they are shown: whole, or to its decimals.
+double Settled(double units, const TimeStyle& style) {
+    return style.decimals.empty() ? Round(units) : ParseNumber(FormatNumber(units, style.decimals)).value_or(units);
 }
 
 }  // namespace
@@ -226,16 +226,14 @@ std::string DecimalTime(double units, const TimeStyle& style, bool longForm) {
 std::string FormatTime(Moment x, int style, bool longForm) {
     if (isNever(x)) return "never";
     const TimeStyle& chosen = StyleOf(style);
-    const double units = DayFraction(x) * chosen.unitsPerDay;
-    if (chosen.look == TimeLook::decimal) return DecimalTime(units, chosen, longForm);
-    const double count = Round(units);
-    return TimeText(count >= chosen.unitsPerDay ? 0 : WholeNumber<std::int64_t>(count), chosen, longForm);
+    const double units = Settled(DayFraction(x) * chosen.unitsPerDay, chosen);
+    return TimeText(units >= chosen.unitsPerDay ? 0 : units, chosen, longForm);
 }
 
 std::string DurationString(double days, int style, bool longForm) {
     if (isNever(days)) return "never";
-    const double unitsPerDay = StyleOf(style).unitsPerDay;
-    const double settled = StyleOf(style).look == TimeLook::decimal ? days : Round(days * unitsPerDay) / unitsPerDay;
+    const TimeStyle& chosen = StyleOf(style);
+    const double settled = Settled(days * chosen.unitsPerDay, chosen) / chosen.unitsPerDay;
     const double whole = Floor(settled);
     const std::string rest = FormatTime(settled - whole, style, longForm);
     if (whole == 0) return rest;
@@ -277,13 +275,10 @@ std::string FractionParts(std::int64_t numerator, std::int64_t denominator) {
 std::string FractionText(std::int32_t whole, std::int32_t numerator, std::int32_t denominator, bool html) {
     const bool negative = Sign(whole) < 0 || Sign(numerator) * Sign(denominator) < 0;
     const std::int64_t units = std::abs(std::int64_t{whole});
-    std::int64_t above = std::abs(std::int64_t{numerator});
-    std::int64_t below = std::abs(std::int64_t{denominator});
-    if (units == 0 && above == 0) return "0";
-    if (const std::int64_t divisor = std::gcd(above, below); divisor != 0) {
-        above /= divisor;
-        below /= divisor;
-    }
+    const std::int64_t divisor = GCD(numerator, denominator);
+    if (units == 0 && numerator == 0) return "0";
+    const std::int64_t above = divisor == 0 ? 0 : std::abs(numerator / divisor);
+    const std::int64_t below = divisor == 0 ? 0 : std::abs(denominator / divisor);
 
     std::string text = units != 0 ? std::to_string(units) : "";
     if (above != 0) {

@@ -77,13 +77,13 @@ constexpr QKeySequence::StandardKey editingKeys[] = {
     QKeySequence::Delete,
 };
 
+bool isEnter(const QKeyEvent& event) { return event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter; }
+
 /// Keys that a focused widget keeps to itself.
 bool isKept(const QObject* focused, const QKeyEvent& event) {
-    if (qobject_cast<const QAbstractButton*>(focused)) {
-        return event.key() == Qt::Key_Space || event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter;
-    }
+    if (qobject_cast<const QAbstractButton*>(focused)) return event.key() == Qt::Key_Space || isEnter(event);
     if (!qobject_cast<const QLineEdit*>(focused)) return false;
-    if (event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter) return true;
+    if (isEnter(event)) return true;
     return std::any_of(std::begin(editingKeys), std::end(editingKeys),
                        [&](QKeySequence::StandardKey key) { return event.matches(key); });
 }
@@ -234,10 +234,15 @@ void Binder::MouseActed(Control& control, const QMouseEvent& event) {
     if (event.button() == Qt::LeftButton) acts_.Run(ofDoubleClick ? control.DblClick : control.Click);
 }
 
+/// Outside of dialogs, buttons don't take Enter by themselves.
 bool Binder::KeyActed(QObject* watched, const QKeyEvent& event) {
+    if (watched != QApplication::focusWidget()) return false;
+    if (auto* button = qobject_cast<QAbstractButton*>(watched); button && isEnter(event)) {
+        if (!event.isAutoRepeat()) button->click();
+        return true;
+    }
     const KeyPress key = KeyPressOf(event);
-    if (key.code == 0 || !form_.KeyDown || watched != QApplication::focusWidget() || isKept(watched, event))
-        return false;
+    if (key.code == 0 || !form_.KeyDown || isKept(watched, event)) return false;
     if (event.isAutoRepeat() && acts_.isPaintPending()) return true;
     bool used = false;
     acts_.Run([&] { used = form_.KeyDown(key.code, key.shift); });

@@ -9,8 +9,6 @@
 namespace horvanta {
 namespace {
 
-QString ToQString(std::string_view text) { return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size())); }
-
 std::uint8_t Channel(int value) { return static_cast<std::uint8_t>(value); }
 
 }  // namespace
@@ -28,8 +26,8 @@ void QtDesktop::Beep() { QApplication::beep(); }
 
 bool QtDesktop::AskYesNo(std::string_view question, std::string_view title) {
     frame_->Draw();
-    QMessageBox box(QMessageBox::Question, ToQString(title), ToQString(question), QMessageBox::Yes | QMessageBox::No,
-                    frame_.get());
+    QMessageBox box(QMessageBox::Question, QString::fromUtf8(title), QString::fromUtf8(question),
+                    QMessageBox::Yes | QMessageBox::No, frame_.get());
     box.setTextFormat(Qt::PlainText);
     box.setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
     box.setDefaultButton(QMessageBox::Yes);
@@ -43,7 +41,9 @@ std::optional<Color> QtDesktop::ChooseColor(Color present) {
     return Color{Channel(chosen.red()), Channel(chosen.green()), Channel(chosen.blue())};
 }
 
-void QtDesktop::SetClipboard(const std::string& text) { QGuiApplication::clipboard()->setText(ToQString(text)); }
+void QtDesktop::SetClipboard(const std::string& text) {
+    QGuiApplication::clipboard()->setText(QString::fromUtf8(text));
+}
 
 LocalClock QtDesktop::Clock() {
     const QDateTime now = QDateTime::currentDateTime();

@@ -7,16 +7,16 @@
 namespace horvanta {
 namespace {
 
-QString ToQString(std::string_view text) { return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size())); }
-
 std::unique_ptr<QSettings> Open(std::string_view application) {
     auto settings = std::make_unique<QSettings>(QSettings::IniFormat, QSettings::UserScope, QStringLiteral("Horvanta"),
-                                                ToQString(application));
+                                                QString::fromUtf8(application));
     settings->setFallbacksEnabled(false);
     return settings;
 }
 
-QString PathIn(std::string_view section, std::string_view key) { return ToQString(section) + u'/' + ToQString(key); }
+QString PathIn(std::string_view section, std::string_view key) {
+    return QString::fromUtf8(section) + u'/' + QString::fromUtf8(key);
+}
 
 /// A file without write permission stays as it is even where its owner could replace it.
 bool isWritable(const QSettings& settings) {
@@ -52,12 +52,12 @@ std::optional<std::string> SettingsFile::Read(std::string_view application, std:
 void SettingsFile::Write(std::string_view application, std::string_view section, std::string_view key,
                          std::string_view text) {
     File& file = FileOf(application);
-    if (file.writable) file.settings->setValue(PathIn(section, key), ToQString(text));
+    if (file.writable) file.settings->setValue(PathIn(section, key), QString::fromUtf8(text));
 }
 
 void SettingsFile::DeleteSection(std::string_view application, std::string_view section) {
     File& file = FileOf(application);
-    if (file.writable) file.settings->remove(ToQString(section));
+    if (file.writable) file.settings->remove(QString::fromUtf8(section));
 }
 
 void SettingsFile::DeleteApplication(std::string_view application) {

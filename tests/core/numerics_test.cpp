@@ -47,12 +47,14 @@ TEST(Floor, SnapsUpToAnIntegerWithinHalfAUnitOfThe15thDigit) {
         EXPECT_EQ(Floor(snaps), integer);
         EXPECT_EQ(Floor(doesNot), integer - 1);
     }
-    EXPECT_EQ(Floor(999999999999998.5), 999999999999998);  // a tie goes to the even integer
-    EXPECT_EQ(Floor(2.9999999999999996), 3);
-    EXPECT_EQ(Floor(8.99999999999999), 8);
-    EXPECT_EQ(Floor(-0.5), -1);
-    EXPECT_TRUE(isSame(Floor(-0.0), -0.0));
-    EXPECT_EQ(Floor(NeverMoment), NeverMoment);
+    constexpr std::pair<double, double> rows[] = {
+        {999999999999998.5, 999999999999998},  // a tie goes to the even integer
+        {2.9999999999999996, 3},
+        {8.99999999999999, 8},
+        {-0.5, -1},
+        {-0.0, -0.0},
+        {NeverMoment, NeverMoment}};
+    for (const auto& [x, floor] : rows) EXPECT_TRUE(isSame(Floor(x), floor)) << x;
     EXPECT_EQ(Floor(std::numeric_limits<double>::max()), std::numeric_limits<double>::max());
     EXPECT_EQ(Floor(-std::numeric_limits<double>::infinity()), -std::numeric_limits<double>::infinity());
     EXPECT_TRUE(std::isnan(Floor(std::nan(""))));
@@ -67,24 +69,19 @@ TEST(Floor, AgreesWithItsTextForm) {
     std::uniform_int_distribution<int> ulps(-12, 12);
     constexpr double divisors[] = {7, 19, 24, 25920, 146097, 36524, 365.2425, 29.530588853, 0.1};
     std::int64_t differing = 0;
-    const auto check = [&](double x) { differing += !isSame(Floor(x), FloorOfText(x)); };
     for (int round = 0; round < 850'000; ++round) {
         const double x = day(random);
         const double whole = std::floor(x);
         const double sized = std::pow(10, exponent(random)) * (round % 2 ? 1 : -1);
         const double divisor = divisors[round % std::size(divisors)];
-        check(x);
-        check(Stepped(whole, ulps(random)));
-        check(Stepped(whole, 64 * ulps(random)));
-        check(Stepped(whole + 0.5, ulps(random)));
-        check(whole + 1 - 1e-10 * (round % 16));
-        check(x / divisor);
-        check(whole * divisor / divisor);
-        check(Stepped(whole / divisor * divisor, ulps(random)));
-        check(sized);
-        check(Stepped(std::floor(sized), ulps(random)));
-        check(std::floor(sized) - 5 * std::pow(10, std::floor(std::log10(std::fabs(sized))) - 15));
-        check(std::floor(sized) / 2 + 0.5);
+        const double bound = 5 * std::pow(10, std::floor(std::log10(std::fabs(sized))) - 15);
+        for (const double value :
+             {x, Stepped(whole, ulps(random)), Stepped(whole, 64 * ulps(random)), Stepped(whole + 0.5, ulps(random)),
+              whole + 1 - 1e-10 * (round % 16), x / divisor, whole * divisor / divisor,
+              Stepped(whole / divisor * divisor, ulps(random)), sized, Stepped(std::floor(sized), ulps(random)),
+              std::floor(sized) - bound, std::floor(sized) / 2 + 0.5}) {
+            differing += !isSame(Floor(value), FloorOfText(value));
+        }
     }
     EXPECT_EQ(differing, 0);
 }

@@ -9,11 +9,9 @@ namespace horvanta {
 namespace {
 
 TEST(GeneralText, HasUpTo15Digits) {
-    EXPECT_EQ(GeneralText(739000.25), "739000.25");
-    EXPECT_EQ(GeneralText(0.1 + 0.2), "0.3");
-    EXPECT_EQ(GeneralText(-0.0), "0");
-    EXPECT_EQ(GeneralText(1e15), "1e+15");
-    EXPECT_EQ(GeneralText(-2533803), "-2533803");
+    constexpr std::pair<double, const char*> rows[] = {
+        {739000.25, "739000.25"}, {0.1 + 0.2, "0.3"}, {-0.0, "0"}, {1e15, "1e+15"}, {-2533803, "-2533803"}};
+    for (const auto& [x, text] : rows) EXPECT_EQ(GeneralText(x), text);
 }
 
 TEST(FormatNumber, RoundsHalvesAwayFromZeroOnTheDecimalText) {
@@ -105,6 +103,7 @@ TEST(DurationString, RoundsDaysAndRestTogether) {
     EXPECT_EQ(DurationString(1.25, 4, true), "1 day 6 hours 0 minutes");
     EXPECT_EQ(DurationString(0.25, 2), "06:00");
     EXPECT_EQ(DurationString(2.99999999, 2), "3d 00:00");
+    EXPECT_EQ(DurationString(2.99999999, 13), "3d 0.00h");
     EXPECT_EQ(DurationString(NeverMoment), "never");
 }
 

@@ -166,6 +166,8 @@ class FormTest final : public QObject {
         session.Find<QToolButton>("NextDown")->setFocus();
         session.Press(Qt::Key_Space);
         QCOMPARE(DisplayedMoment, before + 6);
+        session.Press(Qt::Key_Return);
+        QCOMPARE(DisplayedMoment, before + 5);
     }
 
     void repeatsOfAHeldKeyWaitForThePaint() {
