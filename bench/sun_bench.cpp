@@ -1,0 +1,71 @@
+#include "astro/sun.h"
+#include "astro/sun_events.h"
+#include "core/numbering.h"
+#include "locale/presets.h"
+#include "ratios.h"
+
+#include <benchmark/benchmark.h>
+
+#include <cmath>
+#include <random>
+#include <vector>
+
+namespace horvanta {
+namespace {
+
+std::vector<double> RandomNumbers(double from, double to) {
+    std::mt19937_64 random(3);
+    std::uniform_real_distribution<double> number(from, to);
+    std::vector<double> list(10'000);
+    for (double& x : list) x = number(random);
+    return list;
+}
+
+const std::vector<Moment>& Moments() {
+    static const std::vector<Moment> moments = RandomNumbers(MinFixedDay, MaxFixedDay);
+    return moments;
+}
+
+template <class Function>
+void ForEach(benchmark::State& state, const std::vector<double>& numbers, const Function& function) {
+    for (auto _ : state) {
+        for (const double x : numbers) benchmark::DoNotOptimize(function(x));
+    }
+    state.SetItemsProcessed(state.iterations() * static_cast<std::int64_t>(numbers.size()));
+}
+
+void Sine(benchmark::State& state) {
+    static const std::vector<double> angles = RandomNumbers(0, 6.283185307179586);
+    ForEach(state, angles, [](double angle) { return std::sin(angle); });
+}
+
+void Longitude(benchmark::State& state) {
+    ForEach(state, Moments(), [](Moment x) { return SolarLongitude(x); });
+}
+
+void LongitudeAfter(benchmark::State& state) {
+    ForEach(state, Moments(), [](Moment x) { return SolarLongitudeAfter(x, x - 360 * std::floor(x / 360)); });
+}
+
+/// Each day of a year at Jerusalem, over and over.
+void SunriseOverAYear(benchmark::State& state) {
+    const LocaleScope jerusalem(PresetLocale("Jerusalem"));
+    static const std::vector<double> days = [] {
+        std::vector<double> year(365);
+        for (double& day : year) day = 738900 + static_cast<double>(&day - year.data());
+        return year;
+    }();
+    ForEach(state, days, Sunrise);
+}
+
+BENCHMARK(Sine)->Name("std::sin");
+BENCHMARK(Longitude)->Name("SolarLongitude");
+BENCHMARK(LongitudeAfter)->Name("SolarLongitudeAfter");
+BENCHMARK(SunriseOverAYear)->Name("Sunrise");
+
+const RatioClaim longitude({"SolarLongitude", "std::sin", 150});
+const RatioClaim longitudeAfter({"SolarLongitudeAfter", "SolarLongitude", 16});
+const RatioClaim sunrise({"Sunrise", "SolarLongitude", 4});
+
+}  // namespace
+}  // namespace horvanta

@@ -1,0 +1,166 @@
+#include "astro/sun.h"
+
+#include "astro/earth_axis.h"
+#include "astro/ephemeris.h"
+#include "astro/sun_tables.h"
+#include "astro/timescales.h"
+#include "core/moment.h"
+#include "locale/locale.h"
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+#include <limits>
+#include <utility>
+
+namespace horvanta {
+namespace {
+
+constexpr double daysPerDegree = MeanTropicalYear / 360;
+
+double CenturiesOf(double x, bool isCenturies) { return isCenturies ? x : JulianCenturies(x); }
+
+double AberrationAt(double c) { return 0.0000974 * CosDeg(177.63 + 35999.01848 * c) - 0.005575; }
+
+double LongitudeAt(double c) {
+    std::array<double, std::size(solarTerms)> angles;
+    std::ranges::transform(solarTerms, angles.begin(),
+                           [c](const SolarTerm& term) { return term.addend + term.multiplier * c; });
+    ToRadians(angles);
+    double sum = 0;
+    for (std::size_t i = 0; i < angles.size(); ++i) sum += solarTerms[i].coefficient * std::sin(angles[i]);
+    return 282.7771834 + 36000.76953744 * c + 0.00000572957795130823 * sum + AberrationAt(c) + NutationAt(c);
+}
+
+/// An angle as the turn to it that is less than half a circle either way.
+double ShortWay(double degrees) { return Modulo(degrees + 180, 360) - 180; }
+
+/// How far the Sun is past a longitude at a moment, in [-180, 180).
+double DegreesPast(Moment x, double degrees) { return ShortWay(SolarLongitude(x) - degrees); }
+
+struct Bracket {
+    Moment from;
+    Moment to;
+};
+
+/// The passage of a longitude within a bracket of days, by secants, to some milliseconds: the error of each is about
+/// a 3000th of the product of the two before it.
+Moment RootNear(const Bracket& bracket, Moment first, double degrees) {
+    constexpr double close = 0.001;  // days; the next one would be within 0.0001 s
+    Moment before = first;
+    double pastBefore = DegreesPast(before, degrees);
+    Moment x = std::clamp(before - pastBefore * daysPerDegree, bracket.from, bracket.to);
+    for (int tries = 0; tries < 8 && std::fabs(x - before) > close; ++tries) {
+        const double past = DegreesPast(x, degrees);
+        if (past == pastBefore) break;
+        const Moment next = x - past * (x - before) / (past - pastBefore);
+        before = std::exchange(x, std::clamp(next, bracket.from, bracket.to));
+        pastBefore = past;
+    }
+    return x;
+}
+
+}  // namespace
+
+double SolarLongitude(Moment universal, bool normalise, bool isCenturies) {
+    static struct {
+        double centuries = std::numeric_limits<double>::quiet_NaN();
+        double degrees = 0;
+    } memo;
+    const double centuries = CenturiesOf(universal, isCenturies);
+    if (memo.centuries != centuries) {
+        const double degrees = LongitudeAt(centuries);
+        memo = {centuries, normalise ? Degrees(degrees) : degrees};
+    }
+    return memo.degrees;
+}
+
+double Aberration(Moment universal, bool isCenturies) { return AberrationAt(CenturiesOf(universal, isCenturies)); }
+double Nutation(Moment universal, bool isCenturies) { return NutationAt(CenturiesOf(universal, isCenturies)); }
+double Obliquity(Moment universal) { return ObliquityAt(JulianCenturies(universal)); }
+
+double SolarDeclination(Moment universal) {
+    return ArcSinDeg(SinDeg(SolarLongitude(universal)) * SinDeg(Obliquity(universal)));
+}
+
+double SolarAltitude(Moment apparent) {
+    const double declination = Radians(SolarDeclination(ApparentToUniversal(apparent)));
+    const double hourAngle = SolarHourAngle(apparent);
+    return ArcSinDeg(std::cos(Locale.LatRad) * std::cos(declination) * CosDeg(hourAngle) +
+                     std::sin(Locale.LatRad) * std::sin(declination));
+}
+
+double SolarHourAngle(Moment apparent) { return (0.5 - Modulo(apparent, 1)) * 360; }
+
+/// Halves a bracket of 10 days until it is 0.00001 days wide. Only the halves whose middle comes near the root, which
+/// secants find with a few longitudes, have to be decided by the longitude there: elsewhere it is known on which side
+/// of the root the middle lies. `doubt` covers the jumps of Delta T from one polynomial to the next.
+Moment SolarLongitudeAfter(Moment universal, double degrees) {
+    constexpr double doubt = 0.00003;  // days
+    const double estimate = universal + daysPerDegree * Modulo(degrees - SolarLongitude(universal), 360);
+    Bracket bracket{std::max(universal, estimate - 5), estimate + 5};
+    const Moment root = RootNear(bracket, estimate, degrees);
+    for (;;) {
+        const Moment middle = (bracket.from + bracket.to) / 2;
+        const bool between = middle > bracket.from && middle < bracket.to;
+        if (!between || bracket.to - bracket.from < 0.00001) return middle;
+        const bool near = std::fabs(middle - root) < doubt;
+        const bool reached = near ? Modulo(SolarLongitude(middle) - degrees, 360) < 180 : middle > root;
+        (reached ? bracket.to : bracket.from) = middle;
+    }
+}
+
+Moment EstimateSolarLongitudeBefore(Moment universal, double degrees) {
+    const Moment mean = universal - daysPerDegree * Modulo(SolarLongitude(universal) - degrees, 360);
+    return std::min(universal, mean - daysPerDegree * DegreesPast(mean, degrees));
+}
+
+namespace {
+
+/// A request for a season and the universal moment found for it, under the numbering and the Delta T of the time.
+struct Season {
+    std::int32_t year;
+    double degrees;
+    std::int64_t numbering;
+    std::int64_t deltaT;
+    Moment moment = NeverMoment;
+
+    bool isSameRequest(const Season& other) const {
+        return year == other.year && degrees == other.degrees && numbering == other.numbering && deltaT == other.deltaT;
+    }
+};
+
+/// The search begins two days before the year's mean passage of the longitude.
+Moment FindSeason(std::int32_t year, double degrees) {
+    const double givenYear = degrees < 0 ? year - 1.0 : year;
+    const double longitude = std::fabs(degrees);
+    const double fraction = Modulo(longitude * 0.00277777777777 + 0.2, 1);
+    return SolarLongitudeAfter(RAYDateToMoment(givenYear + fraction) - 2, Degrees(longitude));
+}
+
+}  // namespace
+
+/// The last two are remembered: the calendars ask for the seasons of neighbouring years by turns.
+Moment SeasonMoment(std::int32_t year, double degrees, double offset) {
+    if (Modulo(degrees, 90) == 0) {
+        if (const auto listed = SolexSolarLongitudeAfter(year, degrees)) return *listed + offset;
+    }
+    static std::array<Season, 2> memo{{{0, NeverMoment, -1, -1}, {0, NeverMoment, -1, -1}}};
+    Season asked{year, degrees, NumberingSerial, DeltaTSerial};
+    for (const Season& season : memo) {
+        if (season.isSameRequest(asked)) return season.moment + offset;
+    }
+    asked.moment = FindSeason(year, degrees);
+    memo = {asked, memo[0]};
+    return asked.moment + offset;
+}
+
+Moment SameLongitudeYearsLater(Moment universal, double years) {
+    const double size = std::fabs(years);
+    const double fraction = size - Floor(size);
+    double longitude = SolarLongitude(universal);
+    if (fraction != 0) longitude = Degrees(longitude + 360 * Sign(years) * fraction);
+    return SolarLongitudeAfter(ClampToRange(universal + MeanTropicalYear * years - 30), longitude);
+}
+
+}  // namespace horvanta

@@ -1,0 +1,29 @@
+#pragma once
+
+#include "locale/locale.h"
+
+#include <cstdint>
+#include <string>
+
+/// What is said of places.
+namespace horvanta {
+
+/// A direction in degrees by the points of the compass: "True NE" on one of the eight, otherwise how far it lies from
+/// the nearest toward a neighbour, "10° S of E".
+std::string CompassPoint(double degrees);
+
+/// A place in a line, with its elevation where `UseElevation` counts it, and its zone.
+std::string LocaleSummary(const LocaleRecord& place);
+
+/// What changes by moving from one place to another: bearing, time zone and distances, and the lengths of a degree at
+/// the new one.
+std::string LocaleChangeReport(const LocaleRecord& from, const LocaleRecord& to);
+
+/// Which web map shows places, by its place in the menu, from 1.
+inline std::int32_t MapIndex = 1;
+
+/// A link to a place on the chosen web map; for web pages with `html` the whole anchor. Empty for a map that has no
+/// form of link.
+std::string MapLink(const LocaleRecord& place, bool html);
+
+}  // namespace horvanta
