@@ -254,8 +254,11 @@ Moment molad(std::int32_t year, std::int32_t month) {
     return static_cast<double>(n) * MoladInterval + MoladEpoch();
 }
 
+// The quotient of an early molad may fall short of its whole number by more than `Floor` lifts.
 Moment MoladBefore(Moment moment) {
-    return WholeNumber(Floor((moment - MoladEpoch()) / MoladInterval)) * MoladInterval + MoladEpoch();
+    const auto moladOf = [](double n) { return n * MoladInterval + MoladEpoch(); };
+    const double n = Floor((moment - MoladEpoch()) / MoladInterval);
+    return moladOf(WholeNumber(moladOf(n + 1) <= moment ? n + 1 : n));
 }
 
 // The two products keep more of the parts than one with the whole interval.
