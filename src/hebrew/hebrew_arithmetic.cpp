@@ -28,7 +28,7 @@ bool isLeap(Days year) { return FloorModulo(7 * year + 1 + CycleShift, 19) < 7; 
 
 Days MonthsBeforeTishrei(Days year) { return FloorDivide(235 * year - 234 + CycleShift, 19); }
 
-/// The year that a month belongs to if years began at Nisan, and ended in the winter after their Tishrei.
+/// The year whose Tishrei falls in the same spring-to-winter round as the month.
 constexpr Days YearOfTishrei(std::int32_t year, std::int32_t month) { return month < tishrei ? Days{year} + 1 : year; }
 
 Days ElapsedDaysOf(Days year) {
@@ -326,7 +326,7 @@ struct Postponement {
     std::string reason;  ///< A pattern for `Filled`.
 };
 
-/// Why a year of this lunation does not begin on a weekday, 0 = Sunday, that rule 2 excludes; empty for the others.
+/// The move that rule 2 makes from a weekday, 0 = Sunday, and its reason; empty for a weekday that may begin a year.
 constexpr std::string_view ExcludedDay(std::int32_t weekday) {
     switch (weekday) {
         case 0: return "{Yom} 1 to 2|to avoid {Hoshanah Rabbah} on {Shabbat}";
@@ -336,7 +336,7 @@ constexpr std::string_view ExcludedDay(std::int32_t weekday) {
     }
 }
 
-/// Rules 3 and 4 for a year whose molad of Tishrei is that of lunation n; the numbers of no rule if neither holds.
+/// Rules 3 and 4 for a year whose molad of Tishrei is that of lunation n; nothing if neither holds.
 std::optional<Postponement> ForYearLength(Days year, double n, std::int32_t weekday) {
     if (weekday == 2 && !isLeap(year)) {
         const Moment next = TraditionalMolad(n + 12);
