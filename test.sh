@@ -3,6 +3,7 @@
 # ./test.sh all    all that is checked before a change lands
 # ./test.sh bench  the benchmarks, as ratios within one run
 # ./test.sh long   a million random acts under the sanitizers
+# ./test.sh cycle  the Hebrew new years of the whole cycle of 689,472 years
 source "$(dirname "$0")/tools/setup.sh"
 
 heading() { printf '\n== %s\n' "$1"; }
@@ -72,7 +73,7 @@ case "${1:-quick}" in
         packaging_checks
         ;;
     bench)
-        need libbenchmark-dev
+        need libbenchmark-dev libicu-dev
         build bench
         build/bench/bench/horvanta_bench
         ;;
@@ -80,8 +81,12 @@ case "${1:-quick}" in
         build sanitize
         HORVANTA_ACTS=1000000 build/sanitize/tests/horvanta_tests --gtest_filter='Desk.KeepsTheMoment*'
         ;;
+    cycle)
+        build release
+        HORVANTA_WHOLE_CYCLE=1 build/release/tests/horvanta_tests --gtest_filter='Hebrew.LengthsOfYears*'
+        ;;
     *)
-        sed -n '2,5s/^# //p' test.sh
+        sed -n '2,6s/^# //p' test.sh
         exit 2
         ;;
 esac

@@ -5,7 +5,6 @@
 
 #include <algorithm>
 #include <concepts>
-#include <optional>
 
 namespace horvanta {
 namespace {
@@ -17,9 +16,6 @@ using Days = std::int64_t;
 
 constexpr Days daysInCycle = 146097;
 constexpr Days yearsInCycle = 400;
-
-constexpr Days FloorDivide(Days a, Days b) { return a / b - (a % b < 0); }
-constexpr Days FloorModulo(Days a, Days b) { return a - FloorDivide(a, b) * b; }
 
 /// A multiple of 25 is a leap year if 16 divides it, since then 400 does.
 constexpr bool isLeap(std::integral auto year) { return (year & (year % 25 == 0 ? 15 : 3)) == 0; }
@@ -148,25 +144,6 @@ ISODate FixedToISODate(Moment x) {
 std::string ISODateString(const ISODate& date) {
     return std::to_string(date.year) + "-W" + FormatNumber(date.week, "00") + "-" + std::to_string(date.weekday);
 }
-
-namespace {
-
-/// A date of the displayed moment, kept for as long as its day and the numbering stay.
-template <class Date, Date (*Convert)(Moment)>
-const Date& DisplayedDate() {
-    static struct {
-        std::optional<FixedDay> fixed;
-        std::int64_t numbering = 0;
-        Date date;
-    } memo;
-    const FixedDay fixed = Floor(DisplayedMoment);
-    if (memo.fixed != fixed || memo.numbering != NumberingSerial) {
-        memo = {fixed, NumberingSerial, Convert(fixed)};
-    }
-    return memo.date;
-}
-
-}  // namespace
 
 const GregorianDate& DisplayedGregorianDate() { return DisplayedDate<GregorianDate, FixedToGregorianDate>(); }
 const ISODate& DisplayedISODate() { return DisplayedDate<ISODate, FixedToISODate>(); }

@@ -4,6 +4,7 @@
 
 #include <cstdint>
 #include <functional>
+#include <optional>
 
 /// The one moment that every window shows, and the update cycle that shows it.
 namespace horvanta {
@@ -38,6 +39,21 @@ class BusyHold {
 
 /// `SetFixedDayEpoch` such that the displayed and the saved moment keep their dates and times of day; then an update.
 void ChangeFixedDayEpoch(Moment day, double value, const std::string& name);
+
+/// The date of the displayed moment in a calendar, kept for as long as its day and the numbering stay.
+template <class Date, Date (*Convert)(Moment)>
+const Date& DisplayedDate() {
+    static struct {
+        std::optional<FixedDay> fixed;
+        std::int64_t numbering = 0;
+        Date date;
+    } memo;
+    const FixedDay fixed = Floor(DisplayedMoment);
+    if (memo.fixed != fixed || memo.numbering != NumberingSerial) {
+        memo = {fixed, NumberingSerial, Convert(fixed)};
+    }
+    return memo.date;
+}
 
 /// The computer's local date, and the same with its time of day.
 FixedDay Today();

@@ -58,6 +58,10 @@ inline double ModuloRange(double x, double a, double b) { return a == b ? x : Mo
 
 inline double Quotient(double x, double y) { return Floor(x / y); }
 
+/// Floored quotient and remainder of whole numbers, b > 0: what `Quotient` and `Modulo` are, without doubles.
+constexpr std::int64_t FloorDivide(std::int64_t a, std::int64_t b) { return a / b - (a % b < 0); }
+constexpr std::int64_t FloorModulo(std::int64_t a, std::int64_t b) { return a - FloorDivide(a, b) * b; }
+
 /// x to the nearest whole number, ties to the even one.
 inline double Round(double x) { return std::nearbyint(x); }
 

@@ -5,6 +5,9 @@
 #include "calendars/gregorian_window.h"
 #include "core/moment.h"
 #include "core/text.h"
+#include "hebrew/hebrew_arithmetic.h"
+#include "hebrew/hebrew_modes.h"
+#include "hebrew/molad.h"
 #include "recording_desktop.h"
 
 #include <algorithm>
@@ -60,7 +63,7 @@ struct Read<std::string_view> : Read<std::string> {};
 std::string AnswerOf(double x) { return NumberAnswer(x); }
 std::string AnswerOf(std::integral auto x) { return std::to_string(x); }
 std::string AnswerOf(bool x) { return x ? "true" : "false"; }
-std::string AnswerOf(const std::string& text) { return Quoted(text); }
+std::string AnswerOf(std::string_view text) { return Quoted(text); }
 
 template <class T>
 std::string AnswerOf(const std::optional<T>& x) {
@@ -88,7 +91,7 @@ std::string AnswerOf(const GregorianDate& d) {
         .Add("month", d.month)
         .Add("day", d.day)
         .Add("weekday", d.weekday)
-        .Add("weekdayName", std::string(d.weekdayName))
+        .Add("weekdayName", d.weekdayName)
         .Text();
 }
 
@@ -100,6 +103,18 @@ std::string AnswerOf(const ISODate& d) {
         .Add("weekday", d.weekday)
         .Add("ordinalDay", d.ordinalDay)
         .Add("isLeap", d.isLeap)
+        .Text();
+}
+
+std::string AnswerOf(const HebrewDateRecord& d) {
+    return Fields()
+        .Add("Fixed", d.Fixed)
+        .Add("Year", d.Year)
+        .Add("Month", d.Month)
+        .Add("Day", d.Day)
+        .Add("YearDay", d.YearDay)
+        .Add("WeekDay", d.WeekDay)
+        .Add("WeekDayName", d.WeekDayName)
         .Text();
 }
 
@@ -191,6 +206,9 @@ DeskFunction DayNamesRow(std::string_view name, const CalendarContract& calendar
                 return ListAnswer(longNames) + "; " + ListAnswer(shortNames);
             }};
 }
+
+constexpr CalendarContract hebrewMonths{"Hebrew", hebrew::ToFixed, hebrew::GetDate, hebrew::SetMonthNames,
+                                        hebrew::SetDayNames};
 
 using OneNumber = double (*)(double);
 using TwoNumbers = double (*)(double, double);
@@ -304,6 +322,51 @@ const std::vector<DeskFunction> functions{
     Row("Gregorian.GetDateAlt", GregorianWindow::GetDateAlt),
     MonthNamesRow("Gregorian.SetMonthNamesAlt", ISOCalendar),
     DayNamesRow("Gregorian.SetDayNamesAlt", ISOCalendar),
+
+    Row("ElapsedDays", ElapsedDays),
+    Row("HebrewNewYear", HebrewNewYear),
+    Row("DaysInHebrewYear", DaysInHebrewYear),
+    Row("LongCheshvan", LongCheshvan),
+    Row("ShortKislev", ShortKislev),
+    Row("isHebrewLeapYear", isHebrewLeapYear),
+    Row("isHebrewLeapYear19", isHebrewLeapYear19),
+    Row("isHebrewLeapYear353", isHebrewLeapYear353),
+    Row("MonthsInHebrewYear", MonthsInHebrewYear),
+    Row("LastDayOfHebrewMonth", LastDayOfHebrewMonth),
+    Row("HebrewToFixed", HebrewToFixed),
+    Row("FixedToHebrewDate", FixedToHebrewDate),
+    Row("FixedToHebrewYear", FixedToHebrewYear),
+    Row("HebrewMonthName", HebrewMonthName),
+    Row("WeekdayLabel", WeekdayLabel),
+    Row(
+        "HebrewDateString",
+        +[](Moment x, bool withWeekday, bool italics, bool withYear) {
+            return HebrewDateString(FixedToHebrewDate(x), withWeekday, italics, withYear);
+        }),
+    Row("FixedToHebrewString", FixedToHebrewString),
+    Row(
+        "HebrewShortDateString",
+        +[](Moment x, bool withYear) { return HebrewShortDateString(FixedToHebrewDate(x), withYear); }),
+    Row("FixedToHebrewShortDate", FixedToHebrewShortDate),
+    Row("MoladEpoch", MoladEpoch),
+    Row("MoladEpochEve", MoladEpochEve),
+    Row("ElapsedMonths", ElapsedMonths),
+    Row("ElapsedMonths19", ElapsedMonths19),
+    Row("ElapsedMonths353", ElapsedMonths353),
+    Row("molad", molad),
+    Row("MoladBefore", MoladBefore),
+    Row("TraditionalMolad", TraditionalMolad),
+    Row("TraditionalMomentToLunation", TraditionalMomentToLunation),
+    Row("MyMoladMoment", MyMoladMoment),
+    Row("MoladDay", MoladDay),
+    Row("MoladAdjustment", MoladAdjustment),
+    Row("HebrewYearCharacter", HebrewYearCharacter),
+    Row("HebrewYearType", HebrewYearType),
+    Row("PostponeReason", PostponeReason),
+    Row("Hebrew.ToFixed", hebrew::ToFixed),
+    Row("Hebrew.GetDate", hebrew::GetDate),
+    MonthNamesRow("Hebrew.SetMonthNames", hebrewMonths),
+    DayNamesRow("Hebrew.SetDayNames", hebrewMonths),
 };
 
 template <class T>
@@ -325,6 +388,8 @@ const std::vector<DeskVariable> variables{
     Variable("BusyCount", BusyCount),
     Variable("AlwaysToday", AlwaysToday),
     Variable("TempHourFormat", TempHourFormat),
+    Variable("CycleShift", CycleShift),
+    Variable("UseHebrewFont", UseHebrewFont),
     Constant("StepIndex", StepIndex),
     Constant("UpdateDepth", UpdateDepth),
     Constant("Quitting", Quitting),

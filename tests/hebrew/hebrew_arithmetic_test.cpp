@@ -1,0 +1,248 @@
+#include "hebrew/hebrew_arithmetic.h"
+
+#include "core/moment.h"
+#include "core/text.h"
+#include "hebrew/molad.h"
+
+#include <gtest/gtest.h>
+
+#include <cstdlib>
+#include <limits>
+
+namespace horvanta {
+namespace {
+
+constexpr bool isLeapInCycle[19] = {false, false, true,  false, false, true,  false, true,  false, false,
+                                    true,  false, false, true,  false, false, true,  false, true};
+
+/// The days from `HebrewEpoch` to the molad of Tishrei, carried past noon, and to 1 Tishrei.
+struct RuledDays {
+    std::int64_t ofMolad;
+    std::int64_t ofNewYear;
+};
+
+/// By the four rules of postponement from weekday, hour and part of the molad, as the codes of law have them.
+RuledDays ByRules(std::int64_t months, bool leap, bool afterLeap) {
+    const std::int64_t parts = months * 765433 + 5 * 1080 + 204;
+    const std::int64_t day = FloorDivide(parts, 25920);
+    const std::int64_t time = FloorModulo(parts, 25920);
+    const std::int64_t weekday = FloorModulo(day + 1, 7);
+    if (time >= 18 * 1080) return {day + 1, day + 1 + (weekday == 6 || weekday == 2 || weekday == 4)};
+    if (!leap && weekday == 2 && time >= 9 * 1080 + 204) return {day, day + 2};
+    if (afterLeap && weekday == 1 && time >= 15 * 1080 + 589) return {day, day + 1};
+    return {day, day + (weekday == 0 || weekday == 3 || weekday == 5)};
+}
+
+/// The lengths of years alone decide the new year; they must come to what the rules come to. The calendar repeats
+/// after 36288 cycles of 19 years.
+TEST(Hebrew, LengthsOfYearsAgreeWithTheRules) {
+    const bool wholeCycle = std::getenv("HORVANTA_WHOLE_CYCLE") != nullptr;
+    const int firstCycle = wholeCycle ? 0 : -200;
+    const int lastCycle = wholeCycle ? 36288 : 400;
+    std::int64_t months = 235 * firstCycle;
+    int faults = 0;
+    for (int i = 19 * firstCycle; i < 19 * lastCycle && faults < 10; ++i) {
+        const auto place = static_cast<std::size_t>(FloorModulo(i, 19));
+        const bool leap = isLeapInCycle[place];
+        const std::int32_t year = i + 1;
+        const auto [ofMolad, ofNewYear] = ByRules(months, leap, isLeapInCycle[(place + 18) % 19]);
+        const double n = ElapsedMonths19(year, 7);
+        if (HebrewNewYear(year) - HebrewEpoch != static_cast<double>(ofNewYear) || isHebrewLeapYear19(year) != leap ||
+            n != static_cast<double>(months) || MoladDay(false, n) - HebrewEpoch != static_cast<double>(ofMolad)) {
+            ++faults;
+            ADD_FAILURE() << year;
+        }
+        months += leap ? 13 : 12;
+    }
+    EXPECT_EQ(HebrewNewYear(689473) - HebrewNewYear(1), 251827457);
+}
+
+/// The days of the years -100 to 8000: dates follow one another by one step and convert back.
+TEST(Hebrew, WalksEveryDay) {
+    FixedDay fixed = HebrewNewYear(-100);
+    HebrewDateRecord before = FixedToHebrewDate(fixed - 1);
+    int faults = 0;
+    for (const FixedDay end = HebrewNewYear(8001); fixed < end && faults < 10; ++fixed) {
+        const HebrewDateRecord date = FixedToHebrewDate(fixed + 0.96);
+        const bool monthEnds = before.Day == LastDayOfHebrewMonth(before.Year, before.Month);
+        const bool yearEnds = monthEnds && before.Month == 6;
+        const bool winterEnds = monthEnds && before.Month == MonthsInHebrewYear(before.Year);
+        const bool follows = date.Day == (monthEnds ? 1 : before.Day + 1) && date.Year == before.Year + yearEnds &&
+                             date.Month == (winterEnds ? 1 : before.Month + monthEnds) &&
+                             date.YearDay == (yearEnds ? 1 : before.YearDay + 1) &&
+                             date.WeekDay == before.WeekDay % 7 + 1 && date.WeekDay == DayOfWeek(fixed) + 1 &&
+                             date.WeekDayName == WeekdayLabel(fixed);
+        if (!follows || date.Fixed != fixed || HebrewToFixed(date.Year, date.Month, date.Day) != fixed) {
+            ++faults;
+            ADD_FAILURE() << fixed << ": " << HebrewDateString(date, true, false, true);
+        }
+        before = date;
+    }
+}
+
+/// Published sample dates (Reingold and Dershowitz, Calendrical Calculations, appendix C), and new years of our time.
+TEST(Hebrew, AgreesWithPublishedDates) {
+    constexpr std::pair<FixedDay, const char*> rows[] = {
+        {-1373427, "Yom Sheini, 1 Tishrei, 1"},        {-214193, "Yom Rishon, 10 Av, 3174"},
+        {171307, "Yom Rivii, 18 Tevet, 4230"},         {452605, "Yom Shabbat, 8 Adar Sheini, 5000"},
+        {569477, "Yom Shabbat, 27 Adar Rishon, 5320"}, {728714, "Yom Rishon, 5 Adar, 5756"},
+        {727274, "Yom Shlishi, 12 Adar Sheini, 5752"}, {764652, "Yom Rishon, 5 Av, 5854"},
+        {734763, "Yom Sheini, 1 Tishrei, 5773"},       {735116, "Yom Chamishi, 1 Tishrei, 5774"},
+        {738955, "Yom Rishon, 30 Adar Rishon, 5784"},
+    };
+    for (const auto& [fixed, text] : rows) EXPECT_EQ(FixedToHebrewString(fixed + 0.75), text) << fixed;
+    EXPECT_EQ(ElapsedDays(1), 0);
+    EXPECT_EQ(DaysInHebrewYear(5773), 353);
+    EXPECT_EQ(DaysInHebrewYear(5774), 385);
+    EXPECT_EQ(FixedToHebrewYear(735116 - 1e-10), 5774);  // the residue of day arithmetic
+}
+
+TEST(Hebrew, RunsOverTheEndsOfMonths) {
+    EXPECT_EQ(HebrewToFixed(5784, 7, 31), HebrewToFixed(5784, 8, 1));
+    EXPECT_EQ(HebrewToFixed(5784, 8, 0), HebrewToFixed(5784, 7, 30));
+    EXPECT_EQ(HebrewToFixed(5785, 13, 5), HebrewToFixed(5785, 1, 5));
+    EXPECT_EQ(HebrewToFixed(5784, 14, 5), HebrewToFixed(5784, 1, 5));
+    EXPECT_EQ(HebrewToFixed(5785, 15, 1) - HebrewToFixed(5785, 13, 1), 29 + 30);
+    EXPECT_EQ(HebrewToFixed(5784, -3, 1), HebrewToFixed(5784, 1, 1));
+    EXPECT_EQ(LastDayOfHebrewMonth(5784, 14), 30);
+}
+
+TEST(Hebrew, NamesTheKindOfAYear) {
+    constexpr const char* characters[] = {"2D3", "5P3*", "5N7",  "2P7*", "2D3",  "5N7", "2P7*",
+                                          "2P5", "7D1",  "3N7*", "2P5",  "7D3*", "5P1", "3N5"};
+    for (std::int32_t year = 5773; const char* character : characters)
+        EXPECT_EQ(HebrewYearCharacter(year++), character);
+
+    EXPECT_EQ(HebrewYearType(5774, false, " ", "", ""), "Perfect Leap Year (Cheshvan and Kislev both 30 days)");
+    EXPECT_EQ(HebrewYearType(5786, true, "|", "<i>", "</i>"),
+              "Normal Non-Leap Year|(<i>Cheshvan</i> 29 days, <i>Kislev</i> 30 days) in year 10 of 19");
+    EXPECT_EQ(HebrewYearType(5776, true, "\n", "", ""),
+              "Perfect Leap Year\n(Cheshvan and Kislev both 30 days) in year 19 of 19");
+    EXPECT_EQ(HebrewYearType(5784, false, "", "{", "}"), "Deficient Leap Year({Cheshvan} and {Kislev} both 29 days)");
+}
+
+TEST(Hebrew, TellsWhyANewYearIsPostponed) {
+    constexpr std::pair<int, const char*> rows[] = {
+        {5774, ":on the day of the molad"},
+        {5776, "1:postponed due to molad at or after noon (18h)"},
+        {-3840, "1:postponed due to molad at or after noon (18h)"},  // at noon to the part
+        {5773, "2:postponed from Yom 1 to 2|to avoid Hoshanah Rabbah on Shabbat"},
+        {5775, "2:postponed from Yom 4 to 5|to avoid Yom Kippur just before Shabbat"},
+        {5784, "2:postponed from Yom 6 to Shabbat|to avoid Yom Kippur right after Shabbat"},
+        {5781,
+         "12:postponed due to molad at or after noon (18h)|and then postponed from Yom 6 to Shabbat|to avoid Yom "
+         "Kippur right after Shabbat"},
+        {5542, "3:postponed 2 days to prevent year 5542|from being too long (year 5543 postponed 2 days)"},
+        {5569, "3:postponed 2 days to prevent year 5569|from being too long (year 5570 postponed a day)"},
+        {5766, "4:postponed a day to prevent previous year|(leap year 5765, postponed 2 days) from being too short"},
+    };
+    for (const auto& [year, text] : rows) EXPECT_EQ(PostponeReason(year, "|", false, false), text) << year;
+    EXPECT_EQ(PostponeReason(5773, ", ", true, true),
+              "<i>Rosh Hashanah</i> postponed from <i>Yom</i> 1 to 2, to avoid <i>Hoshanah Rabbah</i> on "
+              "<i>Shabbat</i>.");
+}
+
+TEST(Hebrew, WritesDates) {
+    const HebrewDateRecord date = FixedToHebrewDate(735330);
+    EXPECT_EQ(HebrewDateString(date, true, true, true), "<i>Yom Sheini</i>, 7 <i>Nisan</i>, 5774");
+    EXPECT_EQ(HebrewDateString(date, false, false, false), "7 Nisan");
+    EXPECT_EQ(HebrewShortDateString(date, true), "7 Nisan, 5774");
+    EXPECT_EQ(FixedToHebrewShortDate(735330.5), "7 Nisan");
+
+    UseHebrewFont = true;
+    EXPECT_EQ(FixedToHebrewString(735330), "5774 ,ixhb 7 ,hba ouh");
+    EXPECT_EQ(HebrewDateString(FixedToHebrewDate(735330), true, true, false), "<i>ixhb</i> 7 ,<i>hba ouh</i>");
+    EXPECT_EQ(HebrewMonthName(5773, 12), "rst");
+    UseHebrewFont = false;
+}
+
+/// Announced molads; BaHaRaD, of the first Tishrei, and VaYaD, of the next, the oldest of all.
+TEST(Hebrew, AgreesWithAnnouncedMolads) {
+    struct Row {
+        int year;
+        int month;
+        const char* text;
+    };
+    constexpr Row rows[] = {
+        {1, 7, "Yom Rishon 23h 204p"},     {2, 7, "Yom Shishi 8h 0p"},        {5784, 7, "Yom Shishi 5h 882p"},
+        {5784, 1, "Yom Sheini 22h 1033p"}, {5785, 7, "Yom Chamishi 3h 391p"}, {5786, 7, "Yom Sheini 12h 187p"},
+    };
+    for (const auto& [year, month, text] : rows) {
+        const Moment x = molad(year, month);
+        EXPECT_EQ(std::string(WeekdayLabel(x)) + " " + FormatTime(x, 10), text) << year;
+    }
+    for (int year = 1; year < 8000; ++year) {
+        const Moment x = molad(year, 7);
+        const double n = ElapsedMonths19(year, 7);
+        ASSERT_EQ(MoladBefore(year < 5000 ? x + 1e-6 : x), x) << year;  // early ones lie in the noise of rounding
+        ASSERT_NEAR(MoladBefore(x - 1e-6), x - MoladInterval, 1e-8) << year;
+        ASSERT_NEAR(TraditionalMolad(n), x + 0.25, 1e-8) << year;
+        ASSERT_NEAR(MyMoladMoment(false, n, 0.5), x + 0.75, 1e-8) << year;
+        ASSERT_NEAR(TraditionalMomentToLunation(x + 0.25), n, 1e-9) << year;
+        for (const bool rectified : {false, true}) {
+            ASSERT_EQ(ElapsedMonths(rectified, year + 1, 7) - ElapsedMonths(rectified, year, 7),
+                      isHebrewLeapYear(rectified, year) ? 13 : 12);
+        }
+    }
+    EXPECT_EQ(ElapsedMonths(true, 354, 7) - ElapsedMonths(true, 1, 7), 4366);
+    EXPECT_NEAR(MyMoladMoment(false, 50834, 0) - MyMoladMoment(true, 50834, 0), 26.0 / 1440, 1e-9);
+    EXPECT_EQ(MoladAdjustment(71332, true) * 25920, 2189);  // about two hours
+}
+
+TEST(Hebrew, LaysOutMonthGrids) {
+    DisplayedMoment = 735330.5;  // 7 Nisan 5774, of a leap year
+    const GridDate date = hebrew::GetDate();
+    EXPECT_EQ((std::tuple{date.year, date.month, date.day, date.monthLength, date.firstWeekday}),
+              (std::tuple{5774, 8, 7, 30, 2}));
+    Form form("Form", "");
+    ChoiceList months(form, "Months");
+    hebrew::SetMonthNames(months, 5774);
+    EXPECT_EQ(months.items.size(), 13U);
+    EXPECT_EQ(months.items[5] + months.items[6] + months.items[months.selected], "Adar RishonAdar SheiniNisan");
+    DayNames longNames;
+    DayNames shortNames;
+    hebrew::SetDayNames(longNames, shortNames);
+    EXPECT_EQ(longNames[6] + shortNames[6], "Yom Shabbat( 7 )");
+
+    for (FixedDay fixed = HebrewNewYear(5773); fixed < HebrewNewYear(5776); ++fixed) {
+        DisplayedMoment = fixed + 0.5;
+        const GridDate d = hebrew::GetDate();
+        ASSERT_EQ(hebrew::ToFixed(d.year, d.month, d.day), fixed);
+        ASSERT_EQ(DayOfWeek(hebrew::ToFixed(d.year, d.month, 1)), d.firstWeekday);
+    }
+}
+
+TEST(Hebrew, FollowsTheNumbering) {
+    const std::string date = FixedToHebrewString(735330);
+    const std::string reason = PostponeReason(5784, "", false, true);
+    const Moment moladOfTishrei = molad(5786, 7);
+    SetFixedDayEpoch(700000, 1, "moved");
+    EXPECT_EQ(FixedToHebrewString(735330 - 699999), date);
+    EXPECT_EQ(HebrewNewYear(5774), 735116 - 699999);
+    EXPECT_EQ(PostponeReason(5784, "", false, true), reason);
+    EXPECT_NEAR(molad(5786, 7), moladOfTishrei - 699999, 1e-8);
+    EXPECT_EQ(HebrewYearCharacter(5786), "3N5");
+}
+
+TEST(Hebrew, SurvivesWhatNoOneAsksFor) {
+    for (const double x : {NeverMoment, -NeverMoment, 1e15, -1e12, std::nan("")}) {
+        EXPECT_EQ(FixedToHebrewDate(x).Year, FixedToHebrewYear(x)) << x;
+        FixedToHebrewString(x);
+        MoladBefore(x);
+    }
+    for (const std::int32_t n : {std::numeric_limits<std::int32_t>::min(), std::numeric_limits<std::int32_t>::max()}) {
+        HebrewToFixed(n, n, n);
+        HebrewToFixed(n, 1, n);
+        EXPECT_GE(LastDayOfHebrewMonth(n, 9), 29);
+        HebrewYearCharacter(n);
+        HebrewYearType(n, true, "", "", "");
+        PostponeReason(n, "", true, false);
+        hebrew::ToFixed(n, n, n);
+        molad(n, n);
+        ElapsedMonths(true, n, n);
+        EXPECT_EQ(HebrewMonthName(n, n), "");
+    }
+}
+
+}  // namespace
+}  // namespace horvanta
