@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
 # ./test.sh        the quick tests
 # ./test.sh all    all that is checked before a change lands
-# ./test.sh bench  the benchmarks, as ratios within one run
+# ./test.sh bench  the benchmarks and the start of the program, as ratios within one run
 # ./test.sh long   a million random acts under the sanitizers
 # ./test.sh cycle  the Hebrew new years of the whole cycle of 689,472 years
 source "$(dirname "$0")/tools/setup.sh"
@@ -73,9 +73,10 @@ case "${1:-quick}" in
         packaging_checks
         ;;
     bench)
-        need libbenchmark-dev libicu-dev
+        need libbenchmark-dev libicu-dev "${display_packages[@]}"
         build bench
         build/bench/bench/horvanta_bench
+        bench/start.sh build/bench
         ;;
     long)
         build sanitize

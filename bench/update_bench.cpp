@@ -24,7 +24,7 @@ void FullUpdate(benchmark::State& state) {
 
 BENCHMARK(FullUpdate)->Name("UpdateStatus");
 
-const RatioClaim claim({"UpdateStatus", "snprintf and strtod", 100});
+const RatioClaim claim({"UpdateStatus", "SolarLongitude", 90});
 
 }  // namespace
 }  // namespace horvanta

@@ -1,13 +1,19 @@
+#include "astro/timescales.h"
 #include "core/numbering.h"
+#include "locale/locale.h"
+#include "locale/zone_time.h"
 
 #include <gtest/gtest.h>
 
 namespace {
 
-/// Lets every test begin with the standard numbering, whatever the one before left.
-class StandardNumbering final : public testing::EmptyTestEventListener {
+/// Lets every test begin with the options that a first start has, whatever the one before left.
+class FirstStart final : public testing::EmptyTestEventListener {
     void OnTestStart(const testing::TestInfo&) override {
         horvanta::SetFixedDayEpoch(horvanta::GregorianEpoch, 1, "rata die");
+        horvanta::SetDeltaTDisabled(false);
+        horvanta::UseElevation = true;
+        horvanta::AdjustDST = 1;
     }
 };
 
@@ -15,6 +21,6 @@ class StandardNumbering final : public testing::EmptyTestEventListener {
 
 int main(int argc, char* argv[]) {
     testing::InitGoogleTest(&argc, argv);
-    testing::UnitTest::GetInstance()->listeners().Append(new StandardNumbering);
+    testing::UnitTest::GetInstance()->listeners().Append(new FirstStart);
     return RUN_ALL_TESTS();
 }

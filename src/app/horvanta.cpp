@@ -1,6 +1,5 @@
 #include "app/horvanta.h"
 
-#include "app/jumps.h"
 #include "app/stored_settings.h"
 #include "app/update_cycle.h"
 #include "core/desktop.h"
@@ -22,13 +21,16 @@ Horvanta::~Horvanta() { UpdatePass = nullptr; }
 
 void Horvanta::HangHandlers() {
     frame.Close = [this] { MenuExit_Click(); };
-    frame.SaveThisMoment.Click = SaveThisMoment_Click;
-    frame.JumpToSaved.Click = JumpToSaved_Click;
-    frame.MenuJumpToToday.Click = MenuJumpToToday_Click;
+    frame.SavePreferences.Click = [this] { SavePreferences_Click(); };
     frame.MenuExit.Click = [this] { MenuExit_Click(); };
     frame.QuitWithoutSavePrefs.Click = [this] { QuitWithoutSavePrefs_Click(); };
     frame.ResetPrefsAndQuit.Click = [this] { ResetPrefsAndQuit_Click(); };
     frame.ResetColorsAndQuit.Click = [this] { ResetColorsAndQuit_Click(); };
+    frame.UndoLastColorChange.Click = [this] { frame.UndoLastColorChange_Click(); };
+    frame.UndoLastColorChange.enabled = false;
+    frame.PickBackColor.Click = [this] { frame.PickBackColor_Click(); };
+    frame.PickForeColor.Click = [this] { frame.PickForeColor_Click(); };
+    frame.MenuAbout.Click = [this] { MenuAbout_Click(); };
     frame.AlwaysToday.Shows(AlwaysToday);
     frame.AlwaysToday.Click = [] { AlwaysToday = !AlwaysToday; };
     frame.GregCal.Shows(gregorian.form.visible);
@@ -61,14 +63,17 @@ void Horvanta::LoadWindows() {
     SetFixedDayEpoch(GregorianEpoch, 1, "rata die");  // January 1 of year 1 is day 1
     for (Form* form : forms) CurrentDesktop->LoadForm(*form);
     timeAstro.form.visible = true;
-    LoadPrefs(*this);
+    const StoredPlace stored = LoadPrefs(*this);
+    timeAstro.SetYearStepCaptions();
+    timeAstro.fields.SetToggles();
+    places.ChooseFirst(stored.name, stored.userSlot);
     CurrentDesktop->LetEventsRun();
 }
 
 void Horvanta::ChooseMoment() {
     const bool firstRun = DisplayedMoment == 0;
-    if (AlwaysToday || firstRun) MenuJumpToToday_Click();
-    if (firstRun) SaveThisMoment_Click();
+    if (AlwaysToday || firstRun) jumps.MenuJumpToToday_Click();
+    if (firstRun) jumps.SaveThisMoment_Click();
     timeAstro.StepMenu_Click(firstRun ? 1 : StepIndex);
 }
 
@@ -76,6 +81,20 @@ void Horvanta::Form_Unload() {
     SavePrefs(*this);
     Quitting = true;
     for (Form* form : forms | std::views::reverse) form->visible = false;
+}
+
+void Horvanta::SavePreferences_Click() {
+    SavePrefs(*this);
+    timeAstro.TakeFocus();
+}
+
+void Horvanta::MenuAbout_Click() {
+    CurrentDesktop->Tell("Horvanta " HORVANTA_VERSION
+                         "\n\nOne moment, shown in many calendars, with the Sun over any place on Earth.\n\n"
+                         "The arithmetic follows published calendar and astronomy algorithms, among them those of\n"
+                         "Reingold and Dershowitz, Meeus, Bretagnon and Simon, and Espenak.\n\n"
+                         "Free software under the MIT licence.",
+                         "About Horvanta");
 }
 
 void Horvanta::MenuExit_Click() {

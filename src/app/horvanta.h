@@ -1,5 +1,8 @@
 #pragma once
 
+#include "app/jumps.h"
+#include "app/options.h"
+#include "app/places.h"
 #include "app/time_astro.h"
 #include "calendars/gregorian_window.h"
 #include "core/shell.h"
@@ -21,6 +24,12 @@ class Horvanta {
     /// Saves the settings and closes the windows.
     void Form_Unload();
 
+    /// Saves the settings and goes on.
+    void SavePreferences_Click();
+
+    /// Tells about the program.
+    void MenuAbout_Click();
+
     // The ways to end.
     void MenuExit_Click();
     void QuitWithoutSavePrefs_Click();
@@ -33,6 +42,9 @@ class Horvanta {
     HorvantaMDI frame;
     TimeAstro timeAstro{frame};
     GregorianWindow gregorian{frame};
+    Places places{frame, timeAstro.fields};
+    Jumps jumps{frame, timeAstro};
+    Options options{frame};
 
     /// In the order in which they are loaded.
     Form* const forms[2] = {&timeAstro.form, &gregorian.form};

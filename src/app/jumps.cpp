@@ -1,22 +1,96 @@
 #include "app/jumps.h"
 
+#include "app/event_searches.h"
+#include "app/time_astro.h"
+#include "astro/timescales.h"
+#include "core/desktop.h"
 #include "core/moment.h"
+#include "core/text.h"
+#include "locale/zone_time.h"
+
+#include <cstdlib>
 
 namespace horvanta {
+namespace {
 
-void MenuJumpToToday_Click() {
-    DisplayedMoment = Today();
+void JumpToMoment(Moment universal) {
+    DisplayedMoment = universal;
     UpdateStatus();
 }
 
-void SaveThisMoment_Click() {
+std::string_view CaptionOf(std::int32_t index) { return EventCaptions[static_cast<std::size_t>(index - 1)]; }
+
+}  // namespace
+
+Jumps::Jumps(HorvantaMDI& frame, TimeAstro& time) : frame_(frame), time_(time) {
+    frame_.SaveThisMoment.Click = [this] { SaveThisMoment_Click(); };
+    frame_.JumpToSaved.Click = [this] { JumpToSaved_Click(); };
+    frame_.MenuJumpToToday.Click = [this] { MenuJumpToToday_Click(); };
+    frame_.MenuJumpToNow.Click = [this] { MenuJumpToNow_Click(); };
+    frame_.FixedDayEpoch.Click = [this] { FixedDayEpoch_Click(); };
+    frame_.JumpBy.Click = time_.IncrementDisplay.Click = [this] { JumpBy_Click(); };
+    frame_.JumpAgain.Click = time_.JumpAgainButton.Click = [this] { JumpAgain_Click(); };
+    HangSearches();
+    SetAgainCaption();
+}
+
+void Jumps::HangSearches() {
+    for (std::size_t number = 1; number <= EventCaptions.size(); ++number) {
+        if (!FindEventSearch(EventCaptions[number - 1])) continue;
+        const auto index = static_cast<std::int32_t>(number);
+        frame_.PrevMenu[number].Click = [this, index] { PrevMenu_Click(index); };
+        frame_.NextMenu[number].Click = [this, index] { NextMenu_Click(index); };
+    }
+}
+
+void Jumps::MenuJumpToToday_Click() { JumpToMoment(Today()); }
+
+void Jumps::MenuJumpToNow_Click() {
+    JumpToMoment(StandardToUniversal(DaylightToStandard(Now())));
+    time_.TakeFocus();
+}
+
+void Jumps::SaveThisMoment_Click() {
     SavedMoment = DisplayedMoment;
     UpdateStatus();
 }
 
-void JumpToSaved_Click() {
-    DisplayedMoment = SavedMoment;
+void Jumps::JumpToSaved_Click() { JumpToMoment(SavedMoment); }
+
+void Jumps::FixedDayEpoch_Click() { JumpToMoment(FixedEpochValue); }
+
+void Jumps::JumpBy_Click() {
+    const std::string steps = time_.StepCaption();
+    const auto answer = CurrentDesktop->AskText(
+        "Enter or paste the desired offset as the number of " + steps + " relative to the displayed " +
+            (Increment == Floor(Increment) ? "day" : "moment") + ", optionally with a decimal fraction:",
+        "Enter how many " + steps + " to jump", "");
+    if (!answer) return;
+    if (const auto count = ParseNumber(*answer)) time_.JumpDate(*count, false);
+}
+
+void Jumps::PrevMenu_Click(std::int32_t index) { JumpToEvent(-index); }
+void Jumps::NextMenu_Click(std::int32_t index) { JumpToEvent(index); }
+void Jumps::JumpAgain_Click() { JumpToEvent(nextPrevIndex_); }
+
+void Jumps::JumpToEvent(std::int32_t index) {
+    nextPrevIndex_ = index;
+    SetAgainCaption();
+    const EventSearch* search = FindEventSearch(CaptionOf(std::abs(index)));
+    const Moment found = (index < 0 ? search->before : search->after)(DisplayedMoment);
+    if (!isNever(found)) DisplayedMoment = found;
     UpdateStatus();
+    time_.TakeFocus();
+}
+
+void Jumps::SetAgainCaption() {
+    const bool known = nextPrevIndex_ != 0;
+    frame_.JumpAgain.enabled = time_.JumpAgainButton.enabled = known;
+    if (!known) return;
+    const std::string event =
+        (nextPrevIndex_ < 0 ? "Previous " : "Next ") + RemoveAmpersands(CaptionOf(std::abs(nextPrevIndex_)));
+    frame_.JumpAgain.caption = "Again (" + event + ")";
+    time_.JumpAgainButton.tooltip = "Again invoke the \"" + event + "\" command";
 }
 
 }  // namespace horvanta

@@ -1,12 +1,17 @@
 #include "app/time_astro.h"
 
+#include "astro/sun.h"
+#include "astro/timescales.h"
 #include "calendars/gregorian.h"
 #include "core/desktop.h"
 #include "core/moment.h"
 #include "core/text.h"
+#include "locale/locale_text.h"
 
 #include <algorithm>
+#include <cmath>
 #include <functional>
+#include <iterator>
 
 namespace horvanta {
 namespace {
@@ -20,11 +25,19 @@ struct Step {
     std::string_view jump;
 };
 
+constexpr double lunarCycle = 29.530588853;
+
 constexpr Step steps[] = {
     {1, "a day", "a week"},
     {7, "a week", "4 weeks"},
+    {lunarCycle, "a lunar cycle", "12 lunar cycles"},
+    {MeanTropicalYear, "a year", "10 years"},
+    {3652.42189, "a decade", "10 decades"},
+    {36524.2189, "a century", "10 centuries"},
 };
-static_assert(std::size(steps) == std::extent_v<decltype(HorvantaMDI::StepMenu)>);
+static_assert(std::size(steps) == decltype(HorvantaMDI::StepMenu)::size());
+
+std::size_t Number(std::int32_t index) { return static_cast<std::size_t>(index); }
 
 /// How many steps a jump takes.
 struct Jump {
@@ -32,7 +45,7 @@ struct Jump {
     double steps;
 };
 
-constexpr Jump jumps[] = {{1, 7}, {7, 4}, {29.530588853, 12}};
+constexpr Jump jumps[] = {{1, 7}, {7, 4}, {lunarCycle, 12}};
 constexpr double otherJump = 10;
 
 double StepsOfJump() {
@@ -42,12 +55,20 @@ double StepsOfJump() {
 
 }  // namespace
 
-TimeAstro::TimeAstro(HorvantaMDI& frame) : frame_(frame) {
+TimeAstro::TimeAstro(HorvantaMDI& frame) : fields(form, frame, TimeOfDay), frame_(frame) {
     TimeOfDay.colors = defaultColors;
     FixedDayNum.colors = defaultColors;
+    HangHandlers();
+    HangMenus();
+}
+
+void TimeAstro::HangHandlers() {
     FixedDayNum.LostFocus = [this] { FixedDayNum_LostFocus(); };
+    FixedDayNumLabel.Click = [this] { frame_.CopyToClipboard(FixedDayNum); };
+    TimeOfDay.Click = UT.Click = [this] { frame_.SetClipboardText(LocalTimes(DisplayedMoment)); };
     TimeOfDay.DblClick = [this] { PickBackgroundColor(); };
     TimeOfDay.RightClick = [this] { PickForegroundColor(); };
+    SavedDiffBox.Click = SavedToFrom.Click = [this] { CopySavedDifference(); };
     JumpToPast.Click = [this] { JumpToPast_Click(); };
     NextDown.Click = [this] { NextDown_Click(); };
     DayDown.Click = [this] { DayUpDown(-1, 1); };
@@ -55,16 +76,28 @@ TimeAstro::TimeAstro(HorvantaMDI& frame) : frame_(frame) {
     NextUp.Click = [this] { NextUp_Click(); };
     JumpToFuture.Click = [this] { JumpToFuture_Click(); };
     ClipBoardStatus.Click = [this] { ClipBoardStatus_Click(); };
+    form.PickColor = [this](bool isBackground) {
+        frame_.PickColor(TimeOfDay, isBackground, std::bind_front(&TimeAstro::SetColor, this));
+    };
     form.KeyDown = [this](int code, int shift) { return Form_KeyDown(code, shift); };
+}
 
-    frame.Form_KeyDown = form.KeyDown;
-    frame.TakeFocus = [this] { TakeFocus(); };
-    frame.ShowClipboardText = [this](const std::string& clip) { ClipBoardStatus.text = clip; };
-    for (std::int32_t index = 1; MenuItem & item : frame.StepMenu) {
+/// The step by lunar cycles has no handler, and so is not shown, as long as nothing finds lunar phases.
+void TimeAstro::HangMenus() {
+    frame_.Form_KeyDown = form.KeyDown;
+    frame_.TakeFocus = [this] { TakeFocus(); };
+    frame_.ShowClipboardText = [this](const std::string& clip) { ClipBoardStatus.text = clip; };
+    for (std::size_t number = 1; number <= std::size(steps); ++number) {
+        const auto index = static_cast<std::int32_t>(number);
+        MenuItem& item = frame_.StepMenu[number];
         item.Shows(StepIndex, index);
-        item.Click = [this, index] { StepMenu_Click(index); };
-        ++index;
+        if (steps[number - 1].size != lunarCycle) item.Click = [this, index] { StepMenu_Click(index); };
     }
+    frame_.StepBySolarYear.Shows(StepsBySolarYear);
+    frame_.StepByOrbitalYear.ShowsWhen([] { return !StepsBySolarYear; });
+    frame_.StepBySolarYear.Click = [this] { StepBySolarYear_Click(); };
+    frame_.StepByOrbitalYear.Click = [this] { StepByOrbitalYear_Click(); };
+    SetYearStepCaptions();
 }
 
 /// The words tell on which side of the displayed date the saved one lies: the program's own way of putting it.
@@ -75,14 +108,23 @@ void TimeAstro::ShowMoment() {
     SavedDiffBox.text = GeneralText(std::fabs(difference));
     FixedDayNum.text = GeneralText(DisplayedMoment);
     TimeOfDay.text = FormatTime(DisplayedMoment, 0);
-    if (tooltipNumbering_ != NumberingSerial) SetFixedDayNumberToolTip();
+    if (toldNumbering_ != NumberingSerial || toldScale_ != ScaleName()) SetFixedDayNumberToolTip();
 }
 
 void TimeAstro::JumpDate(double count, bool snap) {
     if (count == 0) return;
-    DisplayedMoment += Increment * count;
-    if (snap && count == Floor(count)) DisplayedMoment = Floor(DisplayedMoment);
+    if (Increment != Floor(Increment)) {
+        DisplayedMoment = AfterYears(Increment * count / MeanTropicalYear);
+    } else {
+        DisplayedMoment += Increment * count;
+        if (snap && count == Floor(count)) DisplayedMoment = Floor(DisplayedMoment);
+    }
     UpdateStatus();
+}
+
+Moment TimeAstro::AfterYears(double years) const {
+    return StepsBySolarYear ? SameLongitudeYearsLater(DisplayedMoment, years)
+                            : StepByOrbitalYear(DisplayedMoment, years);
 }
 
 void TimeAstro::DayUpDown(double count, double size) {
@@ -115,21 +157,39 @@ bool TimeAstro::Form_KeyDown(int code, int shift) {
 
 void TimeAstro::StepMenu_Click(std::int32_t index) {
     const bool known = index >= 1 && index <= static_cast<std::int32_t>(std::size(steps));
-    const std::int32_t chosen = known ? index : 1;
+    const std::int32_t chosen = known && frame_.StepMenu[Number(index)].isShown() ? index : 1;
     SetIncrement(chosen, steps[chosen - 1].size);
 }
+
+std::string TimeAstro::StepCaption() const { return RemoveAmpersands(frame_.StepMenu[Number(StepIndex)].caption); }
 
 void TimeAstro::SetIncrement(std::int32_t index, double size) {
     StepIndex = index;
     Increment = size;
-    IncrementDisplay.text = "Step by " + RemoveAmpersands(frame_.StepMenu[index - 1].caption);
+    IncrementDisplay.text = "Step by " + StepCaption();
+    frame_.JumpBy.caption = "Jump By " + StepCaption() + "...";
     SetStepCaptions(index);
+}
+
+void TimeAstro::StepBySolarYear_Click() { ChooseYears(true); }
+void TimeAstro::StepByOrbitalYear_Click() { ChooseYears(false); }
+
+void TimeAstro::ChooseYears(bool solar) {
+    StepsBySolarYear = solar;
+    SetYearStepCaptions();
+    SetIncrement(StepIndex, Increment);
+}
+
+void TimeAstro::SetYearStepCaptions() {
+    constexpr const char* units[] = {"&Years", "Decades", "&Centuries"};
+    const std::string kind = StepsBySolarYear ? "Solar " : "Orbital ";
+    for (std::size_t i = 0; i < std::size(units); ++i) frame_.StepMenu[4 + i].caption = kind + units[i];
 }
 
 /// Where a step is a day, the day buttons would repeat the step buttons and make room for them.
 void TimeAstro::SetStepCaptions(std::int32_t index) {
     const Step& step = steps[index - 1];
-    const bool byDays = frame_.StepMenu[index - 1].caption.find("Days") != std::string::npos;
+    const bool byDays = frame_.StepMenu[Number(index)].caption.find("Days") != std::string::npos;
     DayDown.visible = DayUp.visible = !byDays;
     NextDown.text = byDays ? "<" : "<<";
     NextUp.text = byDays ? ">" : ">>";
@@ -144,9 +204,15 @@ void TimeAstro::SetStepCaptions(std::int32_t index) {
 void TimeAstro::TakeFocus() { FixedDayNum.TakeFocus(); }
 
 void TimeAstro::SetFixedDayNumberToolTip() {
-    tooltipNumbering_ = NumberingSerial;
+    toldNumbering_ = NumberingSerial;
+    toldScale_ = ScaleName();
+    const std::string scale(toldScale_);
+    FixedDayNumLabel.text = scale + " Day Number";
     FixedDayNum.tooltip =
-        "Universal Days relative to day 1 on " + FixedToGregorianString(1) + " (Gregorian) at Midnight";
+        scale + " Days relative to day 1 on " + FixedToGregorianString(1) + " (Gregorian) at Midnight";
+    UT.text = scale + " Time";
+    TimeOfDay.tooltip = UT.text + " (" + scale.front() + "T) at displayed day fraction, click for local times";
+    UT.tooltip = "Click for local times";
 }
 
 /// A text that was only looked at keeps the moment, digits that it does not show included.
@@ -161,15 +227,16 @@ void TimeAstro::FixedDayNum_LostFocus() {
     UpdateStatus();
 }
 
+void TimeAstro::CopySavedDifference() {
+    const double days = std::fabs(SavedMoment - DisplayedMoment);
+    frame_.SetClipboardText(SavedDiffBox.text + " " + SavedToFrom.text + " = " + GeneralText(Floor(days)) + " days " +
+                            FormatTime(days, 0));
+}
+
 void TimeAstro::ClipBoardStatus_Click() { frame_.SetClipboardText(""); }
 
-void TimeAstro::PickBackgroundColor() {
-    frame_.PickColor(TimeOfDay, true, std::bind_front(&TimeAstro::SetColor, this));
-}
-
-void TimeAstro::PickForegroundColor() {
-    frame_.PickColor(TimeOfDay, false, std::bind_front(&TimeAstro::SetColor, this));
-}
+void TimeAstro::PickBackgroundColor() { form.PickColor(true); }
+void TimeAstro::PickForegroundColor() { form.PickColor(false); }
 
 void TimeAstro::SetColor(Color color, bool isBackground) {
     TimeOfDay.colors->Part(isBackground) = color;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "app/time_fields.h"
 #include "core/controls.h"
 #include "core/shell.h"
 
@@ -29,8 +30,11 @@ class TimeAstro {
     /// Obeys a key of the time window, by its code and the bits of `KeyShift`; false if it has no meaning here.
     bool Form_KeyDown(int code, int shift);
 
-    /// Chooses an item of the step menu, 1 or above; one that is not there acts as the first.
+    /// Chooses an item of the step menu, 1 or above; one that is not shown acts as the first.
     void StepMenu_Click(std::int32_t index);
+
+    /// What the chosen step is called, "Days".
+    std::string StepCaption() const;
 
     /// Makes `size` days the step, with the words of that item of the step menu.
     void SetIncrement(std::int32_t index, double size);
@@ -38,7 +42,14 @@ class TimeAstro {
     /// Moves the focus to the day number, whose window then gets the keys.
     void TakeFocus();
 
-    /// Tells which day the day numbers count from.
+    // Which years the steps by years go by.
+    void StepBySolarYear_Click();
+    void StepByOrbitalYear_Click();
+
+    /// Words the steps of years by the choice of year.
+    void SetYearStepCaptions();
+
+    /// Tells which day the day numbers count from, and in which scale of time.
     void SetFixedDayNumberToolTip();
 
     void ClipBoardStatus_Click();
@@ -51,9 +62,9 @@ class TimeAstro {
     // clang-format off
     Form form{"TimeAstro", "Time"};
     TextField FixedDayNum{form, "FixedDayNum", Widest("-2533803.123456789")};
-    Label FixedDayNumLabel{form, "FixedDayNumLabel", Caption("Fixed Day Number")};
-    Label UT{form, "UT", Caption("Univ Time")};
-    Label TimeOfDay{form, "TimeOfDay", Tip("Universal Time (UT) at displayed day fraction"), Widest("00:00:00")};
+    Label FixedDayNumLabel{form, "FixedDayNumLabel", Widest("Local Mean Day Number")};
+    Label UT{form, "UT", Widest("Local Mean Time")};
+    Label TimeOfDay{form, "TimeOfDay", Widest("00:00:00")};
     Label SavedDiffBox{form, "SavedDiffBox", Tip("Days between the displayed and the saved date"), Widest("6916348.123")};
     Label SavedToFrom{form, "SavedToFrom", Widest("days before saved date.")};
     Button JumpToPast{form, "JumpToPast", Caption("<<<")};
@@ -63,16 +74,24 @@ class TimeAstro {
     Button NextUp{form, "NextUp", Caption(">>")};
     Button JumpToFuture{form, "JumpToFuture", Caption(">>>")};
     Label IncrementDisplay{form, "IncrementDisplay", Tip("Increment"), Widest("Step by Orbital Centuries")};
+    Button JumpAgainButton{form, "JumpAgainButton", Caption("Again")};
     Label ClipboardLabel{form, "ClipboardLabel", Caption("Clipboard:")};
     Label ClipBoardStatus{form, "ClipBoardStatus", Tip("Click to clear the clipboard")};
     // clang-format on
+    TimeFields fields;
 
   private:
+    void HangHandlers();
+    void HangMenus();
     void FixedDayNum_LostFocus();
+    void CopySavedDifference();
+    void ChooseYears(bool solar);
+    Moment AfterYears(double years) const;
     void SetStepCaptions(std::int32_t index);
 
     HorvantaMDI& frame_;
-    std::int64_t tooltipNumbering_ = -1;  ///< The numbering that the day number's tooltip tells.
+    std::int64_t toldNumbering_ = -1;  ///< The numbering and the scale that the day number's tooltip tells.
+    std::string_view toldScale_;
 };
 
 }  // namespace horvanta

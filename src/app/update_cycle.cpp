@@ -2,13 +2,25 @@
 
 #include "app/horvanta.h"
 #include "core/day_events.h"
+#include "core/moment.h"
+#include "locale/locale.h"
 
 namespace horvanta {
+namespace {
+
+/// While passes are waiting, as under a held key, the costly ones of all fields are left to the last.
+bool isLastPass() { return UpdateDepth < 2; }
+
+}  // namespace
 
 void RunUpdatePass(Horvanta& program) {
+    TimeAstro& time = program.timeAstro;
     day_events::Clear();
-    program.timeAstro.ShowMoment();
+    if (!Locale.NoDST) time.fields.SetDSTcolour();
+    time.ShowMoment();
+    if (isLastPass() && ShowsDawnDusk) time.fields.ShowDay();
     if (program.gregorian.form.visible) program.gregorian.Update();
+    if (isLastPass()) time.fields.ShowAstronomy();
 }
 
 }  // namespace horvanta

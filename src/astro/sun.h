@@ -38,7 +38,8 @@ double SolarHourAngle(Moment apparent);
 /// if it stands there.
 Moment SolarLongitudeAfter(Moment universal, double degrees);
 
-/// A moment at or before `universal` within seconds of the last time that the Sun stood at a longitude.
+/// A moment at or before `universal` near the last time that the Sun stood at a longitude: a start for a search, off by
+/// up to some hours.
 Moment EstimateSolarLongitudeBefore(Moment universal, double degrees);
 
 /// The moment of the Gregorian year at which the Sun reaches a longitude, with `offset` days added; a negative one is

@@ -11,9 +11,6 @@
 namespace horvanta {
 namespace {
 
-/// A length of time in equal parts.
-double PartOf(double length, int parts) { return isNever(length) ? NeverMoment : length / parts; }
-
 /// The Sun's declination in radians, signed.
 double DeclinationInRadians(Moment universal) {
     return ArcSinRad(SinDeg(SolarLongitude(universal)) * SinDeg(Obliquity(universal)));
@@ -44,7 +41,7 @@ Moment ApproxMomentOfDepression(Moment local, double depression, bool morning) {
     return ApparentToLocal(date + 0.5 + (morning ? -offset : offset));
 }
 
-/// Near the polar circle two moments may lead to each other for ever; the later one then stands.
+/// Near the poles the moments may run in a circle for ever; the later of two then stands.
 Moment MomentOfDepression(Moment local, double depression, bool morning) {
     constexpr double halfMinute = 1.0 / 2880;
     constexpr int patience = 100;

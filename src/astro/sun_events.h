@@ -10,6 +10,9 @@ namespace horvanta {
 /// a - b, `NeverMoment` if either is.
 constexpr double MomentDifference(Moment a, Moment b) { return isNever(a) || isNever(b) ? NeverMoment : a - b; }
 
+/// One of the equal parts of a length of time.
+constexpr double PartOf(double days, int parts) { return isNever(days) ? NeverMoment : days / parts; }
+
 /// Degrees by which the elevation of the current place lowers the horizon; 0 at or below sea level.
 double HorizonDip();
 

@@ -57,10 +57,12 @@ double DeltaTSeconds(double year) {
     return seconds - row->perYearBefore2150 * (2150 - year);
 }
 
+double MeanSolarAnomalyAt(double c) { return 357.5291 + 35999.0503 * c - 0.0001559 * c * c - 0.00000048 * c * c * c; }
+
 double EquationOfTimeAt(double c) {
     constexpr double fullCircle = 6.28318530717958;
     const double longitude = 280.46645 + 36000.76983 * c + 0.0003032 * c * c;
-    const double anomaly = 357.5291 + 35999.0503 * c - 0.0001559 * c * c - 0.00000048 * c * c * c;
+    const double anomaly = MeanSolarAnomalyAt(c);
     const double e = 0.016708617 - (0.000042037 - 0.0000001236 * c) * c;  // its square term is meant to be positive
     const double tangent = TanDeg(ObliquityAt(c) / 2);
     const double y = tangent * tangent;
@@ -107,6 +109,8 @@ Moment StandardToUniversal(Moment standardTime) {
 }
 
 Moment LocalToStandard(Moment local) { return UniversalToStandard(LocalToUniversal(local)); }
+
+double MeanSolarAnomaly(Moment universal) { return MeanSolarAnomalyAt(JulianCenturies(universal)); }
 
 double EquationOfTime(Moment universal) {
     static struct {

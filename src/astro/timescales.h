@@ -34,6 +34,11 @@ Moment UniversalToStandard(Moment universal);     ///< `NeverMoment` passes.
 Moment StandardToUniversal(Moment standardTime);  ///< `NeverMoment` passes.
 Moment LocalToStandard(Moment local);
 
+/// Mean anomaly of the Sun in degrees, with all its revolutions, and what it gains a day at J2000 (Meeus, Astronomical
+/// Algorithms, 25.3): 0 at the mean perihelion of the Earth, 180 at its mean aphelion.
+double MeanSolarAnomaly(Moment universal);
+inline constexpr double DailyMeanSolarAnomaly = 35999.0503 / 36525;
+
 /// Apparent less mean solar time in days, at most half a day to either side (Smart, Text-Book on Spherical Astronomy;
 /// Meeus, Astronomical Algorithms, 28.3).
 double EquationOfTime(Moment universal);

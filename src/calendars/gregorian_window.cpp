@@ -80,6 +80,9 @@ GregorianWindow::GregorianWindow(HorvantaMDI& frame) : frame_(frame) {
     GregorianDate.RightClick = [this] { PickForegroundColor(); };
     InfoGreg.Click = [this] { InfoGreg_Click(); };
     isoInfo.Click = [this] { isoInfo_Click(); };
+    form.PickColor = [this](bool isBackground) {
+        frame_.PickColor(GregorianDate, isBackground, std::bind_front(&GregorianWindow::SetColor, this));
+    };
     form.KeyDown = [this](int code, int shift) { return frame_.Form_KeyDown(code, shift); };
 }
 
@@ -172,13 +175,8 @@ void GregorianWindow::GregCycleInfo_Click() {
                             "leap) = " + ReplaceAll(GregCycleInfo.text, " cycle", " 400-year cycle"));
 }
 
-void GregorianWindow::PickBackgroundColor() {
-    frame_.PickColor(GregorianDate, true, std::bind_front(&GregorianWindow::SetColor, this));
-}
-
-void GregorianWindow::PickForegroundColor() {
-    frame_.PickColor(GregorianDate, false, std::bind_front(&GregorianWindow::SetColor, this));
-}
+void GregorianWindow::PickBackgroundColor() { form.PickColor(true); }
+void GregorianWindow::PickForegroundColor() { form.PickColor(false); }
 
 void GregorianWindow::SetColor(Color color, bool isBackground) {
     GregorianDate.colors->Part(isBackground) = color;

@@ -33,7 +33,8 @@ std::string AccessibleName(const Control& control) {
     if (control.tooltip.empty()) return words.empty() ? control.name : words;
     const bool showsValue = dynamic_cast<const Label*>(&control) && !words.empty();
     if (showsValue) return control.tooltip + ": " + words;
-    const bool captioned = dynamic_cast<const Button*>(&control) && !words.empty();
+    const bool hasCaption = dynamic_cast<const Button*>(&control) || dynamic_cast<const CheckBox*>(&control);
+    const bool captioned = hasCaption && !words.empty();
     return captioned ? words : control.tooltip;
 }
 

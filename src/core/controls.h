@@ -1,10 +1,13 @@
 #pragma once
 
+#include <array>
+#include <cstddef>
 #include <cstdint>
 #include <functional>
 #include <optional>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 /// What windows and menus show, as plain data, and the callbacks that a user's act on them fires.
@@ -118,6 +121,40 @@ class ChoiceList final : public Control {
     int selected = -1;
 };
 
+/// How a check box stands; the numbers are those of the settings.
+enum CheckState { Unchecked = 0, Checked = 1, Undecided = 2 };
+
+/// A box that shows an option and holds no state of its own: a click calls for the option's change.
+class CheckBox final : public Control {
+  public:
+    using Control::Control;
+
+    void ShowsState(std::function<CheckState()> state) { state_ = std::move(state); }
+    void Shows(const bool& option) {
+        ShowsState([&option] { return option ? Checked : Unchecked; });
+    }
+
+    CheckState State() const { return state_ ? state_() : Unchecked; }
+
+  private:
+    std::function<CheckState()> state_;
+};
+
+/// A row of panels of one width.
+class StatusBar final : public Control {
+  public:
+    using Control::Control;
+
+    struct Panel {
+        std::string key;  ///< Says what it shows.
+        std::string text;
+        std::string tooltip;
+    };
+
+    std::vector<Panel> panels;
+    std::function<void(std::size_t index)> PanelClick;
+};
+
 /// What a screen reader calls a control: its caption where that has words, and its tooltip, with the value behind it.
 std::string AccessibleName(const Control& control);
 
@@ -147,6 +184,9 @@ class Form {
     Place place;                     ///< The desktop reports the size, and where the user moved the window.
     std::vector<Control*> controls;  ///< In the order of their construction.
     Control* focusWish = nullptr;    ///< Gets the focus, and its form is raised, when the desktop draws next.
+
+    /// Lets the user choose the background or the text colour of the window; none if it has no colours of its own.
+    std::function<void(bool isBackground)> PickColor;
 
     /// Asked before the focused control; true if the key has been used up. `shift` holds the bits of `KeyShift`.
     std::function<bool(int code, int shift)> KeyDown;
@@ -178,19 +218,22 @@ enum KeyCode {
     KeyNumericMinus = 109,
 };
 
-/// An item of a menu, or a whole menu under its parent. It is shown if it has a handler or holds an item that is.
+/// An item of a menu, or a whole menu under its parent. It is shown if it has a handler or holds an item that is. One
+/// with the caption "-" is a line between those that are shown.
 class MenuItem {
   public:
     MenuItem() = default;  ///< The menu bar itself.
-    MenuItem(MenuItem& parent, std::string_view name, std::string_view caption);
+    MenuItem(MenuItem& parent, std::string_view name, std::string_view caption = "");
     MenuItem(const MenuItem&) = delete;
     MenuItem& operator=(const MenuItem&) = delete;
 
-    /// Ticks the item whenever the option holds true, or holds the value.
+    /// Ticks the item whenever the answer is yes, the option holds true, or the option holds the value.
+    void ShowsWhen(std::function<bool()> ticked) { ticked_ = std::move(ticked); }
     void Shows(const bool& option);
     void Shows(const std::int32_t& option, std::int32_t value);
 
     bool isShown() const;
+    bool isSeparator() const { return caption == "-"; }
     bool isTickable() const { return static_cast<bool>(ticked_); }
     bool isTicked() const { return ticked_ && ticked_(); }
 
@@ -199,11 +242,34 @@ class MenuItem {
 
     const std::string name;
     std::string caption;
+    bool enabled = true;  ///< One that is not is shown grey.
     std::vector<MenuItem*> items;
     std::function<void()> Click;
 
   private:
     std::function<bool()> ticked_;
+};
+
+/// Items of one name, told apart by a number from 1.
+template <std::size_t N>
+class MenuArray {
+  public:
+    /// With a caption for each.
+    MenuArray(MenuItem& parent, const std::string& name, const std::array<std::string_view, N>& captions)
+        : MenuArray(parent, name, captions, std::make_index_sequence<N>()) {}
+
+    /// The item of a number from 1 to N.
+    MenuItem& operator[](std::size_t number) { return items_[number - 1]; }
+
+    static constexpr std::size_t size() { return N; }
+
+  private:
+    template <std::size_t... I>
+    MenuArray(MenuItem& parent, const std::string& name, const std::array<std::string_view, N>& captions,
+              std::index_sequence<I...>)
+        : items_{MenuItem(parent, name + " " + std::to_string(I + 1), captions[I])...} {}
+
+    std::array<MenuItem, N> items_;
 };
 
 }  // namespace horvanta

@@ -34,6 +34,16 @@ class Desktop {
     /// A box with a question; true for yes.
     virtual bool AskYesNo(std::string_view question, std::string_view title) = 0;
 
+    /// A box with a line to fill in; nothing when cancelled.
+    virtual std::optional<std::string> AskText(std::string_view prompt, std::string_view title,
+                                               std::string_view initial) = 0;
+
+    /// A box that tells something.
+    virtual void Tell(std::string_view message, std::string_view title) = 0;
+
+    /// Opens a file or a web address with the program that the desktop has for it.
+    virtual void OpenWithShell(const std::string& path) = 0;
+
     /// The colour the user chooses, starting from the present one; nothing when cancelled.
     virtual std::optional<Color> ChooseColor(Color present) = 0;
 

@@ -13,6 +13,7 @@ inline Moment DisplayedMoment = 0;    ///< Universal Time. 0 at start means that
 inline Moment SavedMoment = 0;        ///< Universal Time; what Save This Moment keeps.
 inline double Increment = 1;          ///< Days to a step of the step keys.
 inline std::int32_t StepIndex = 1;    ///< Which item of the step menu is chosen, from 1.
+inline bool StepsBySolarYear = true;  ///< Steps of years keep the solar longitude, else the rotation-adjusted date.
 inline bool AlwaysToday = true;       ///< Each start shows the present day.
 inline std::int16_t BusyCount = 0;    ///< While above 0, `UpdateStatus` only clamps.
 inline std::int16_t UpdateDepth = 0;  ///< How many runs of `UpdateStatus` are pending.

@@ -19,11 +19,38 @@ void HorvantaMDI::AskCopyToClipboard(const std::string& message, const std::stri
     TakeFocus();
 }
 
+namespace {
+
+Color Shown(const Control& mainDate, bool isBackground) {
+    return isBackground ? mainDate.colors->background : mainDate.colors->foreground;
+}
+
+}  // namespace
+
 void HorvantaMDI::PickColor(const Control& mainDate, bool isBackground,
                             const std::function<void(Color, bool)>& setColor) {
-    const Color present = isBackground ? mainDate.colors->background : mainDate.colors->foreground;
+    const Color present = Shown(mainDate, isBackground);
     const auto chosen = CurrentDesktop->ChooseColor(present);
-    if (chosen) setColor(*chosen, isBackground);
+    if (!chosen) return;
+    undoColor_ = {present, &mainDate, isBackground, setColor};
+    UndoLastColorChange.enabled = true;
+    setColor(*chosen, isBackground);
 }
+
+void HorvantaMDI::UndoLastColorChange_Click() {
+    const Color present = Shown(*undoColor_.mainDate, undoColor_.isBackground);
+    undoColor_.setColor(undoColor_.color, undoColor_.isBackground);
+    undoColor_.color = present;
+}
+
+void HorvantaMDI::PickBackColor_Click() {
+    if (activeForm && activeForm->PickColor) activeForm->PickColor(true);
+}
+
+void HorvantaMDI::PickForeColor_Click() {
+    if (activeForm && activeForm->PickColor) activeForm->PickColor(false);
+}
+
+void HorvantaMDI::ColorPicking(bool enable) { PickBackColor.enabled = PickForeColor.enabled = enable; }
 
 }  // namespace horvanta

@@ -2,6 +2,7 @@
 
 #include "core/controls.h"
 
+#include <array>
 #include <functional>
 #include <string>
 #include <string_view>
@@ -12,6 +13,48 @@ namespace horvanta {
 
 /// How the frame stands on the screen; the numbers are those of the settings.
 enum FrameState { FrameNormal = 0, FrameMinimized = 1, FrameMaximized = 2 };
+
+/// The items of the menus of previous and next events, in their order; "-" is a line.
+inline constexpr std::array<std::string_view, 38> EventCaptions = {
+    "Lunar Event",
+    "&New Moon",
+    "First New Crescent",
+    "&First Quarter Moon",
+    "&Full Moon",
+    "&Last Quarter Moon",
+    "Last Old Crescent",
+    "&Vedic Tithi",
+    "-",
+    "&Mean New Moon",
+    "Mean &Perigee",
+    "Mean &Apogee",
+    "Yerm",
+    "Yerm Era",
+    "-",
+    "&Leap Week",
+    "Qua New Year Moment",
+    "Qua Leap Cycle",
+    "Rotation-Adjusted New Year",
+    "&Mean Orbital New Year",
+    "&Besselian New Year",
+    "-",
+    "&Solar Event",
+    "Northward Equinox",
+    "North Solstice",
+    "Southward Equinox",
+    "South Solstice",
+    "Mean Peri&helion",
+    "Mean &Aphelion",
+    "-",
+    "&Chinese New Year",
+    "&Easter",
+    "&Uniform Easter",
+    "&Orthodox Easter",
+    "Fi&xed Easter",
+    "&Passover",
+    "&Rosh Hashanah",
+    "Molad Moment",
+};
 
 class HorvantaMDI {
   public:
@@ -24,12 +67,24 @@ class HorvantaMDI {
     /// Shows a text in a box that offers to copy it. The copy has the title behind the text.
     void AskCopyToClipboard(const std::string& message, const std::string& title);
 
-    /// Lets the user choose one of the colours of a window, starting from that of its main date, and sets it.
+    /// Lets the user choose one of the colours of a window, starting from that of its main date, and sets it. The old
+    /// one is kept for `UndoLastColorChange_Click`.
     void PickColor(const Control& mainDate, bool isBackground, const std::function<void(Color, bool)>& setColor);
+
+    /// Gives the window of the last change its old colour; done again, the new one.
+    void UndoLastColorChange_Click();
+
+    // The same for the window that has the focus, from the menu.
+    void PickBackColor_Click();
+    void PickForeColor_Click();
+
+    /// Lets colours be chosen from the menu, or not.
+    void ColorPicking(bool enable);
 
     const std::string name = "HorvantaMDI";
     const std::string text = "Horvanta";
     FrameState state = FrameMaximized;
+    Form* activeForm = nullptr;  ///< The window that has the focus, as the desktop reports it.
     Place place;  ///< Of the frame that is neither minimised nor maximised; no size until the desktop gives one.
 
     // Acts of the time window.
@@ -42,22 +97,130 @@ class HorvantaMDI {
     // clang-format off
     MenuItem menuBar;
     MenuItem FileMenu{menuBar, "FileMenu", "&File"};
+      MenuItem SavePreferences{FileMenu, "SavePreferences", "Save &Preferences"};
       MenuItem SaveThisMoment{FileMenu, "SaveThisMoment", "Save This &Moment"};
       MenuItem JumpTo{FileMenu, "JumpTo", "&Jump To..."};
         MenuItem JumpToSaved{JumpTo, "JumpToSaved", "&Saved Moment"};
         MenuItem MenuJumpToToday{JumpTo, "MenuJumpToToday", "&Today (at midnight)"};
+        MenuItem MenuJumpToNow{JumpTo, "MenuJumpToNow", "&Now (date and time)"};
+        MenuItem FixedDayEpoch{JumpTo, "FixedDayEpoch", "&Fixed Day Number Epoch"};
+        MenuItem LunationAtEpoch{JumpTo, "LunationAtEpoch", "Lunation Epoch"};
+        MenuItem ArbitraryLunation{JumpTo, "ArbitraryLunation", "Lunation #..."};
+        MenuItem JumpBy{JumpTo, "JumpBy", "Jump By..."};
       MenuItem QuitSubMenu{FileMenu, "QuitSubMenu", "&Quit"};
         MenuItem MenuExit{QuitSubMenu, "MenuExit", "and &Save Preferences"};
         MenuItem QuitWithoutSavePrefs{QuitSubMenu, "QuitWithoutSavePrefs", "&without Saving Preferences"};
         MenuItem ResetPrefsAndQuit{QuitSubMenu, "ResetPrefsAndQuit", "but &Reset All Preferences"};
         MenuItem ResetColorsAndQuit{QuitSubMenu, "ResetColorsAndQuit", "but Reset All &Colors"};
+
+    MenuItem UndoMenu{menuBar, "UndoMenu", "&Undo"};
+      MenuItem UndoLastColorChange{UndoMenu, "UndoLastColorChange", "Undo Last &Color Change"};
+
+    MenuItem LocaleMenu{menuBar, "LocaleMenu", "&Locale"};
+      MenuItem UDLs{LocaleMenu, "UDLs", "User-Defined Locales..."};
+        MenuArray<30> UserLoc{UDLs, "UserLoc", {}};  // the captions are those of the places
+      MenuItem LocaleSep{LocaleMenu, "LocaleSep", "-"};
+      MenuItem Presets[25] = {
+        {LocaleMenu, "SetAlexandria"},    {LocaleMenu, "SetApple"},       {LocaleMenu, "SetBabylon"},
+        {LocaleMenu, "SetBeijing"},       {LocaleMenu, "SetBogota"},      {LocaleMenu, "SetCFSalert"},
+        {LocaleMenu, "SetCopenhagen"},    {LocaleMenu, "SetFarmHill"},    {LocaleMenu, "SetGreenwich"},
+        {LocaleMenu, "SetJerusalem"},     {LocaleMenu, "SetNileEuphrates"}, {LocaleMenu, "SetLima"},
+        {LocaleMenu, "SetLimassol"},      {LocaleMenu, "SetMecca"},       {LocaleMenu, "SetMelbourne"},
+        {LocaleMenu, "SetMontreal"},      {LocaleMenu, "SetParis"},       {LocaleMenu, "SetReykjavik"},
+        {LocaleMenu, "SetTehran"},        {LocaleMenu, "SetZeus"},        {LocaleMenu, "SetTimesSquare"},
+        {LocaleMenu, "SetUrbana"},        {LocaleMenu, "SetVatican"},     {LocaleMenu, "SetYellowknife"},
+        {LocaleMenu, "SetZeroMilestone"}};
+
     MenuItem IncrementTimeScale{menuBar, "IncrementTimeScale", "&Step"};
-      MenuItem StepMenu[2] = {{IncrementTimeScale, "StepMenu 1", "&Days"}, {IncrementTimeScale, "StepMenu 2", "&Weeks"}};
+      MenuItem JumpAgain{IncrementTimeScale, "JumpAgain", "Again"};
+      MenuItem StepGap{IncrementTimeScale, "StepGap", "-"};
+      MenuArray<6> StepMenu{IncrementTimeScale, "StepMenu", {
+        "&Days", "&Weeks", "&Lunar Cycles", "Solar &Years", "Solar Decades", "Solar &Centuries"}};
+
+    MenuItem GoToPrevious{menuBar, "GoToPrevious", "&Previous"};
+      MenuArray<EventCaptions.size()> PrevMenu{GoToPrevious, "PrevMenu", EventCaptions};
+    MenuItem GoToNext{menuBar, "GoToNext", "&Next"};
+      MenuArray<EventCaptions.size()> NextMenu{GoToNext, "NextMenu", EventCaptions};
+
+    MenuItem ReportS{menuBar, "ReportS", "&Reports"};
+
     MenuItem OptionsMenu{menuBar, "OptionsMenu", "&Options"};
       MenuItem AlwaysToday{OptionsMenu, "AlwaysToday", "&Always Start With Today"};
+      MenuItem SetFixedDay{OptionsMenu, "SetFixedDay", "&Fixed Day Numbering..."};
+        MenuArray<12> SetEpochOptMenu{SetFixedDay, "SetEpochOptMenu", {
+          "1 = &Displayed date", "&Gregorian epoch (rata die)", "match &Windows OS (61 = Mar 1, 1900)",
+          "January 1, 2001 (start 3rd millennium)", "match &Pick OS date (Jan 1, 1968)", "match &Julian Day Number (JDN)",
+          "match &Modified Julian Day (MJD)", "match &Truncated Julian Day (TJD)", "&COBOL epoch (ANSI date)",
+          "Persian epoch", "Chinese epoch", "&Hebrew epoch"}};
+      MenuItem LunationOptionMenu{OptionsMenu, "LunationOptionMenu", "&Lunation Numbering..."};
+        MenuArray<6> LunationOptMenu{LunationOptionMenu, "LunationOptMenu", {
+          "&J2000", "&Brown", "&Islamic", "RD &Nth", "&Goldstine", "&Hebrew"}};
+      MenuItem YearStep{OptionsMenu, "YearStep", "&Year Steps by..."};
+        MenuItem StepBySolarYear{YearStep, "StepBySolarYear", "&Solar Year (same solar longitude)"};
+        MenuItem StepByOrbitalYear{YearStep, "StepByOrbitalYear", "Mean &Orbital Year"};
+      MenuItem LPoption{OptionsMenu, "LPoption", "&Lunar Phase Format..."};
+        MenuItem LP360{LPoption, "LP360", "&0° to 360°"};
+        MenuItem LP180{LPoption, "LP180", "&-180° to +180°"};
+      MenuItem CandlesOption{OptionsMenu, "CandlesOption", "&Candles Before Sunset"};
+        MenuItem SetCandles18{CandlesOption, "SetCandles18", "18 minutes (default)"};
+        MenuItem SetCandles20{CandlesOption, "SetCandles20", "20 minutes (New York)"};
+        MenuItem SetCandles30{CandlesOption, "SetCandles30", "30 minutes (Haifa)"};
+        MenuItem SetCandles40{CandlesOption, "SetCandles40", "40 minutes (Vilna, Jerusalem)"};
+      MenuItem TempHourFormat{OptionsMenu, "TempHourFormat", "&Temporal Hour Format..."};
+        MenuItem SetTempHMM{TempHourFormat, "SetTempHMM", "&Hour and Minutes (H:MM)"};
+        MenuItem SetTempHourMMM{TempHourFormat, "SetTempHourMMM", "&Decimal Minutes (MM.M)"};
+        MenuItem SetTempHourHHH{TempHourFormat, "SetTempHourHHH", "Decimal Hours (H.HH)"};
+      MenuItem MoladTimeFormatMenu{OptionsMenu, "MoladTimeFormatMenu", "Molad Time Format..."};
+        MenuItem MoladHoursParts{MoladTimeFormatMenu, "MoladHoursParts", "Hours Parts"};
+        MenuItem MoladHoursMinutesParts{MoladTimeFormatMenu, "MoladHoursMinutesParts", "Hours Minutes Parts"};
+      MenuItem QuaLeapWeek{OptionsMenu, "QuaLeapWeek", "Quartane &Leap Week..."};
+        MenuItem QuaLeapLongDec{QuaLeapWeek, "QuaLeapLongDec", "Append to &December"};
+        MenuItem QuaLeapUseZov{QuaLeapWeek, "QuaLeapUseZov", "Stand-Alone at &End-of-Year"};
+      MenuItem EvenQuaCycleMenu{OptionsMenu, "EvenQuaCycleMenu", "Even-Length Symmetric Cycles..."};
+        MenuItem MidLeapNonLeap{EvenQuaCycleMenu, "MidLeapNonLeap", "Middle:  Leap, Non-Leap"};
+        MenuItem MidNonLeapLeap{EvenQuaCycleMenu, "MidNonLeapLeap", "Middle:  Non-Leap, Leap"};
+      MenuItem ChooseMapServer{OptionsMenu, "ChooseMapServer", "&Map Server..."};
+        MenuArray<8> MapServer{ChooseMapServer, "MapServer", {
+          "Map&Quest", "&Google Maps", "&Bing Maps", "Geo&Hack", "&Map24", "MSN World &Atlas", "Gea&Bios",
+          "&SINTEF Virtual Globe"}};
+      MenuItem UniformEaster{OptionsMenu, "UniformEaster", "&Uniform Easter (WCC 1997)"};
+      MenuItem JYRF{OptionsMenu, "JYRF", "&Julian Year Rome Founded..."};
+      MenuItem OSY{OptionsMenu, "OSY", "&Olympiad Start Year..."};
+      MenuItem ChineseYear1{OptionsMenu, "ChineseYear1", "&Chinese Year 1..."};
+        MenuItem CE2637{ChineseYear1, "CE2637", "2637 BC"};
+        MenuItem CE2697{ChineseYear1, "CE2697", "2697 BC"};
+        MenuItem CE2698{ChineseYear1, "CE2698", "2698 BC"};
+      MenuItem RevertYerm52{OptionsMenu, "RevertYerm52", "&Revert to Fixed 52-Yerm Cycle"};
+
     MenuItem WindowS{menuBar, "WindowS", "&Window"};
+      MenuItem ShowEvents{WindowS, "ShowEvents", "&Events and Holidays"};
       MenuItem GregCal{WindowS, "GregCal", "&Gregorian and ISO Date"};
+      MenuItem CalendarMonth{WindowS, "CalendarMonth", "Calendar &Month"};
+      MenuItem HebrewCal{WindowS, "HebrewCal", "&Hebrew Date"};
+      MenuItem JulianCal{WindowS, "JulianCal", "Julian and &Roman Date"};
+      MenuItem LunarWindow{WindowS, "LunarWindow", "&Lunar"};
+      MenuItem OrientCal{WindowS, "OrientCal", "&Oriental Lunisolar Date"};
+      MenuItem PersianCal{WindowS, "PersianCal", "&Persian Date"};
+      MenuItem QuaCal{WindowS, "QuaCal", "&Quartane454 Date"};
+      MenuItem SetUserLoc{WindowS, "SetUserLoc", "&User-Defined Locales"};
+      MenuItem WorldCal{WindowS, "WorldCal", "&World and 13-Month Date"};
+      MenuItem WindowSep{WindowS, "WindowSep", "-"};
+      MenuItem PickBackColor{WindowS, "PickBackColor", "Change Background Color"};
+      MenuItem PickForeColor{WindowS, "PickForeColor", "Change Foreground Color"};
+
+    MenuItem Links{menuBar, "Links", "Lin&ks"};
+      MenuItem MenuAbout{Links, "MenuAbout", "&About Horvanta..."};
+      MenuItem MapLocale{Links, "MapLocale", "&Map of the Current Locale"};
     // clang-format on
+
+  private:
+    /// One colour of a window, before it was changed.
+    struct {
+        Color color;
+        const Control* mainDate = nullptr;
+        bool isBackground = false;
+        std::function<void(Color, bool)> setColor;
+    } undoColor_;
 };
 
 }  // namespace horvanta

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <array>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -31,6 +32,9 @@ struct LocaleRecord {
 
 /// The place for which everything is computed. Without a name before the first is chosen.
 inline LocaleRecord Locale;
+
+/// The user's own places, by the number of their slot from 1; a slot that was never filled has no name.
+inline std::array<LocaleRecord, 31> UserLocales;
 
 /// The elevation lowers the horizon for sunrise and sunset.
 inline bool UseElevation = true;

@@ -23,7 +23,7 @@ std::string SignedTime(double days) { return (days < 0 ? " – " : " + ") + Form
 
 /// The way to the other longitude that is less than half a circle.
 double LongitudeDifference(const LocaleRecord& from, const LocaleRecord& to) {
-    return Modulo(to.Longitude - from.Longitude + 180, 360) - 180;
+    return ModuloRange(to.Longitude - from.Longitude, -180, 180);
 }
 
 /// "6162.17 km = 20554.8 Lt·µs"
@@ -50,6 +50,8 @@ std::string DegreeText(double kilometres) {
 }
 
 }  // namespace
+
+std::string_view ScaleName() { return DeltaTDisabled ? "Atomic" : Locale.UseLMT ? "Local Mean" : "Universal"; }
 
 std::string CompassPoint(double degrees) {
     constexpr const char* points[] = {"N", "NE", "E", "SE", "S", "SW", "W", "NW", "N"};

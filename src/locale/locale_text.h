@@ -4,9 +4,14 @@
 
 #include <cstdint>
 #include <string>
+#include <string_view>
 
 /// What is said of places.
 namespace horvanta {
+
+/// What the scale of the displayed moment is called: "Universal", "Local Mean" where the place keeps local mean time,
+/// "Atomic" while Delta T is off.
+std::string_view ScaleName();
 
 /// A direction in degrees by the points of the compass: "True NE" on one of the eight, otherwise how far it lies from
 /// the nearest toward a neighbour, "10° S of E".

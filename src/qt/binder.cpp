@@ -1,13 +1,17 @@
 #include "qt/binder.h"
 
+#include "qt/panel_bar.h"
+
 #include <QAbstractButton>
 #include <QApplication>
+#include <QCheckBox>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMouseEvent>
 
 #include <algorithm>
+#include <optional>
 #include <utility>
 
 namespace horvanta {
@@ -103,14 +107,28 @@ void SetText(QWidget& widget, const QString& text) {
 
 QColor ToQColor(Color color) { return {color.red, color.green, color.blue}; }
 
-void SetColors(QWidget& widget, const ColorPair& colors) {
+/// Without colours the widget goes back to the desktop's.
+void SetColors(QWidget& widget, const std::optional<ColorPair>& colors) {
+    if (!colors) {
+        if (!widget.testAttribute(Qt::WA_SetPalette)) return;
+        widget.setPalette(QPalette());
+        widget.setAutoFillBackground(false);
+        return;
+    }
     const bool field = qobject_cast<QLineEdit*>(&widget) != nullptr;
     QPalette palette = widget.palette();
-    palette.setColor(field ? QPalette::Base : QPalette::Window, ToQColor(colors.background));
-    palette.setColor(field ? QPalette::Text : QPalette::WindowText, ToQColor(colors.foreground));
+    palette.setColor(field ? QPalette::Base : QPalette::Window, ToQColor(colors->background));
+    palette.setColor(field ? QPalette::Text : QPalette::WindowText, ToQColor(colors->foreground));
     if (palette == widget.palette()) return;
     widget.setPalette(palette);
     widget.setAutoFillBackground(true);
+}
+
+/// Only an undecided box has three states, or else clicks would lead through the third.
+void SetState(QCheckBox& box, CheckState state) {
+    constexpr Qt::CheckState shown[] = {Qt::Unchecked, Qt::Checked, Qt::PartiallyChecked};
+    box.setTristate(state == Undecided);
+    box.setCheckState(shown[state]);
 }
 
 void DrawControl(const Control& control, QWidget& widget) {
@@ -127,7 +145,9 @@ void DrawControl(const Control& control, QWidget& widget) {
     if (differs(widget.accessibleName(), accessible)) widget.setAccessibleName(QString::fromStdString(accessible));
     if (widget.isVisibleTo(widget.parentWidget()) != control.visible) widget.setVisible(control.visible);
     if (widget.isEnabled() != control.enabled) widget.setEnabled(control.enabled);
-    if (control.colors) SetColors(widget, *control.colors);
+    SetColors(widget, control.colors);
+    if (auto* box = qobject_cast<QCheckBox*>(&widget)) SetState(*box, static_cast<const CheckBox&>(control).State());
+    if (auto* bar = qobject_cast<PanelBar*>(&widget)) bar->Draw(static_cast<const StatusBar&>(control));
 }
 
 void EnlargeFont(QWidget& widget) {
@@ -160,7 +180,14 @@ Binder::Binder(Form& form, QWidget& root, Acts& acts) : form_(form), root_(root)
 void Binder::Connect(const Bound& bound) {
     Control* control = bound.control;
     if (auto* button = qobject_cast<QAbstractButton*>(bound.widget)) {
-        connect(button, &QAbstractButton::clicked, this, [this, control] { acts_.Run(control->Click); });
+        connect(button, &QAbstractButton::clicked, this, [this, control] { Clicked(*control); });
+    }
+    if (auto* bar = qobject_cast<PanelBar*>(bound.widget)) {
+        auto* panels = static_cast<StatusBar*>(control);
+        if (panels->PanelClick) bar->setCursor(Qt::PointingHandCursor);
+        connect(bar, &PanelBar::panelClicked, this, [this, panels](std::size_t index) {
+            if (panels->PanelClick) acts_.Run([panels, index] { panels->PanelClick(index); });
+        });
     }
     if (auto* field = qobject_cast<QLineEdit*>(bound.widget)) {
         auto* text = static_cast<TextField*>(control);
@@ -174,6 +201,14 @@ void Binder::Connect(const Bound& bound) {
     }
 }
 
+/// A check box that was clicked shows another state by itself, which the drawing sets right even if nobody cares for
+/// the click.
+void Binder::Clicked(Control& control) {
+    acts_.Run([&] {
+        if (control.Click) control.Click();
+    });
+}
+
 /// Room for the widest text that the control may come to show, so that the window keeps its size from day to day.
 void Binder::KeepRoom(const Bound& bound) {
     if (bound.control->widest.empty()) return;
@@ -182,6 +217,11 @@ void Binder::KeepRoom(const Bound& bound) {
     if (qobject_cast<QLineEdit*>(&widget)) {
         const QString withMargins = widest + QStringLiteral("00");
         widget.setMinimumWidth(widget.fontMetrics().horizontalAdvance(withMargins));
+        return;
+    }
+    if (auto* bar = qobject_cast<PanelBar*>(&widget)) {
+        bar->Draw(static_cast<const StatusBar&>(*bound.control));
+        bar->KeepRoom(widest);
         return;
     }
     const QString shown = TextOf(widget);

@@ -58,6 +58,7 @@ class Binder final : public QObject {
     };
 
     void Connect(const Bound& bound);
+    void Clicked(Control& control);
     void KeepRoom(const Bound& bound);
     void MouseActed(Control& control, const QMouseEvent& event);
     bool KeyActed(QObject* watched, const QKeyEvent& event);

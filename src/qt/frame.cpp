@@ -49,7 +49,12 @@ Frame::Frame(HorvantaMDI& shell) : shell_(shell), area_(new QMdiArea(this)) {
     DrawMenus();
 }
 
+/// A menu shows a line only between items that are shown.
 void Frame::AddItem(QMenu& menu, MenuItem& item) {
+    if (item.isSeparator()) {
+        menu.addSeparator();
+        return;
+    }
     const QString caption = QString::fromStdString(item.caption);
     if (item.items.empty()) {
         QAction* action = menu.addAction(caption);
@@ -106,6 +111,7 @@ void Frame::DrawMenus() {
     for (const auto& [item, action] : actions_) {
         action->setText(QString::fromStdString(item->caption));
         action->setVisible(item->isShown());
+        action->setEnabled(item->enabled);
         action->setCheckable(item->isTickable());
         action->setChecked(item->isTicked());
     }
@@ -120,19 +126,44 @@ void Frame::DrawChild(Child& child) {
     }
 }
 
-/// Lets a window grow to hold what it shows now, and puts it where its form says, but so that its title can be
-/// reached: settings may come from a larger screen.
+/// Lets a window grow to hold what it shows now. Where controls have come or gone it takes just the height they ask
+/// for.
+void Frame::DrawSize(Child& child) {
+    QMdiSubWindow& window = *child.window;
+    window.widget()->layout()->activate();
+    const QSize least = window.minimumSizeHint();
+    const int wanted = window.sizeHint().height();
+    const bool changed = std::exchange(child.wanted, wanted) != wanted;
+    const QSize size(std::max(window.width(), least.width()),
+                     changed ? wanted : std::max(window.height(), least.height()));
+    if (size != window.size()) window.resize(size);
+}
+
+/// Puts a window where its form says, but so that its title can be reached: settings may come from a larger screen.
 void Frame::DrawPlace(Child& child) {
     constexpr int reach = 60;  // pixels
     QMdiSubWindow& window = *child.window;
-    const QSize needed = window.size().expandedTo(window.minimumSizeHint());
-    if (needed != window.size()) window.resize(needed);
+    DrawSize(child);
 
     const Place& place = child.form->place;
     const QSize room = area_->viewport()->size();
-    const QPoint position(Pixels(place.left, reach - window.width(), room.width() - reach),
-                          Pixels(place.top, 0, room.height() - reach));
-    if (window.pos() != position) window.move(position);
+    QRect wished = window.geometry();
+    wished.moveTo(Pixels(place.left, reach - window.width(), room.width() - reach),
+                  Pixels(place.top, 0, room.height() - reach));
+    if (!child.moved && wished.right() >= room.width()) wished.moveTo(0, FreeTop(child, wished));
+    if (window.pos() != wished.topLeft()) window.move(wished.topLeft());
+}
+
+/// How far down a window has to stand at the left edge of the frame so as not to cover those drawn before it.
+int Frame::FreeTop(const Child& child, QRect wished) const {
+    constexpr int gap = 1;  // pixels
+    wished.moveLeft(0);
+    for (const Child& other : children_) {
+        if (&other == &child) break;
+        const QRect taken = other.window->geometry();
+        if (other.form->visible && wished.intersects(taken)) wished.moveTop(taken.bottom() + 1 + gap);
+    }
+    return wished.top();
 }
 
 void Frame::PlaceAll() {
@@ -188,6 +219,7 @@ bool Frame::eventFilter(QObject* watched, QEvent* event) {
             return true;
         case QEvent::Move:
             if (!drawing_) {
+                child->moved = true;
                 child->form->place.left = Twips(child->window->x());
                 child->form->place.top = Twips(child->window->y());
             }

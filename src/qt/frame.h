@@ -46,6 +46,8 @@ class Frame final : public QMainWindow, public Acts {
         Form* form;
         QMdiSubWindow* window;
         std::unique_ptr<Binder> binder;
+        int wanted = 0;      ///< The height that its controls asked for when it was drawn last, in pixels.
+        bool moved = false;  ///< By the user.
     };
 
     void Run(const std::function<void()>& act) override;
@@ -56,7 +58,9 @@ class Frame final : public QMainWindow, public Acts {
     void AwaitPaint();
     void DrawMenus();
     void DrawChild(Child& child);
+    void DrawSize(Child& child);
     void DrawPlace(Child& child);
+    int FreeTop(const Child& child, QRect wished) const;
     void PlaceAll();
     void GrantFocus(Child& child);
     void ShowFirst();

@@ -1,4 +1,5 @@
 #include "app/horvanta.h"
+#include "qt/first_paint.h"
 #include "qt/qt_desktop.h"
 #include "qt/single_instance.h"
 
@@ -20,6 +21,12 @@ void TakePicture(horvanta::Horvanta& program, horvanta::Frame& frame) {
     });
 }
 
+/// Ends after the first paint of all windows if the environment asks for it, so that the start can be timed.
+void EndAfterPaint(horvanta::Horvanta& program, horvanta::Frame& frame) {
+    if (qEnvironmentVariable("HORVANTA_END_AFTER") != QStringLiteral("paint")) return;
+    new horvanta::FirstPaint(frame, [&program] { program.QuitWithoutSavePrefs_Click(); });
+}
+
 }  // namespace
 
 int main(int argc, char* argv[]) {
@@ -38,5 +45,6 @@ int main(int argc, char* argv[]) {
     desktop.frame()->Draw();
     instance.ComeForward = [&desktop] { desktop.frame()->ComeForward(); };
     TakePicture(program, *desktop.frame());
+    EndAfterPaint(program, *desktop.frame());
     return QApplication::exec();
 }

@@ -4,12 +4,25 @@
 #include <QClipboard>
 #include <QColorDialog>
 #include <QDateTime>
+#include <QDesktopServices>
+#include <QInputDialog>
 #include <QMessageBox>
+#include <QUrl>
 
 namespace horvanta {
 namespace {
 
 std::uint8_t Channel(int value) { return static_cast<std::uint8_t>(value); }
+
+/// A box with a text that can be selected, as it is, whatever signs it holds.
+int ShowBox(QMessageBox::Icon icon, std::string_view message, std::string_view title,
+            QMessageBox::StandardButtons buttons, QWidget* parent) {
+    QMessageBox box(icon, QString::fromUtf8(title), QString::fromUtf8(message), buttons, parent);
+    box.setTextFormat(Qt::PlainText);
+    box.setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+    box.setDefaultButton(buttons.testFlag(QMessageBox::Yes) ? QMessageBox::Yes : QMessageBox::Ok);
+    return box.exec();
+}
 
 }  // namespace
 
@@ -17,7 +30,9 @@ void QtDesktop::LoadFrame(HorvantaMDI& shell) { frame_ = std::make_unique<Frame>
 
 void QtDesktop::LoadForm(Form& form) { frame_->Load(form); }
 
+/// Nothing runs before the frame is shown: the start shows it once it holds everything, and paints it only once.
 void QtDesktop::LetEventsRun() {
+    if (!frame_->isVisible()) return;
     frame_->Draw();
     QApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
 }
@@ -26,12 +41,27 @@ void QtDesktop::Beep() { QApplication::beep(); }
 
 bool QtDesktop::AskYesNo(std::string_view question, std::string_view title) {
     frame_->Draw();
-    QMessageBox box(QMessageBox::Question, QString::fromUtf8(title), QString::fromUtf8(question),
-                    QMessageBox::Yes | QMessageBox::No, frame_.get());
-    box.setTextFormat(Qt::PlainText);
-    box.setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
-    box.setDefaultButton(QMessageBox::Yes);
-    return box.exec() == QMessageBox::Yes;
+    return ShowBox(QMessageBox::Question, question, title, QMessageBox::Yes | QMessageBox::No, frame_.get()) ==
+           QMessageBox::Yes;
+}
+
+std::optional<std::string> QtDesktop::AskText(std::string_view prompt, std::string_view title,
+                                              std::string_view initial) {
+    frame_->Draw();
+    bool accepted = false;
+    const QString text = QInputDialog::getText(frame_.get(), QString::fromUtf8(title), QString::fromUtf8(prompt),
+                                               QLineEdit::Normal, QString::fromUtf8(initial), &accepted);
+    return accepted ? std::optional(text.toStdString()) : std::nullopt;
+}
+
+void QtDesktop::Tell(std::string_view message, std::string_view title) {
+    frame_->Draw();
+    ShowBox(QMessageBox::Information, message, title, QMessageBox::Ok, frame_.get());
+}
+
+/// What is escaped in an address stays so.
+void QtDesktop::OpenWithShell(const std::string& path) {
+    if (!QDesktopServices::openUrl(QUrl::fromUserInput(QString::fromStdString(path)))) Beep();
 }
 
 std::optional<Color> QtDesktop::ChooseColor(Color present) {

@@ -13,18 +13,16 @@
 namespace horvanta {
 namespace {
 
-using Settings = decltype(MemorySettings::values);
-
-Settings SettingsOf(std::initializer_list<std::array<const char*, 3>> rows) {
-    Settings settings;
+StoredSettings SettingsOf(std::initializer_list<std::array<const char*, 3>> rows) {
+    StoredSettings settings;
     for (const auto& [section, key, text] : rows) settings["Horvanta"][section][key] = text;
     return settings;
 }
 
 TEST(Start, ChoosesAndSavesTodayInAFirstRun) {
     Desk desk;
-    EXPECT_EQ(DisplayedMoment, 738900);
-    EXPECT_EQ(SavedMoment, 738900);
+    EXPECT_EQ(DisplayedMoment, 8415);
+    EXPECT_EQ(SavedMoment, 8415);
     EXPECT_EQ(BusyCount, 0);
     EXPECT_EQ(desk.program.gregorian.GregorianDate.text, "Monday, January 15, 2024 ");
     EXPECT_EQ(desk.program.timeAstro.SavedToFrom.text, "days after saved date.");
@@ -34,7 +32,7 @@ TEST(Start, ChoosesAndSavesTodayInAFirstRun) {
 }
 
 TEST(Start, FindsWhatTheLastRunSaved) {
-    Settings left;
+    StoredSettings left;
     {
         Desk desk;
         desk.Obey("menu AlwaysToday");
@@ -51,7 +49,7 @@ TEST(Start, FindsWhatTheLastRunSaved) {
     }
     Desk desk(left);
     EXPECT_EQ(DisplayedMoment, 1000.123456789);
-    EXPECT_EQ(SavedMoment, 738900);
+    EXPECT_EQ(SavedMoment, 8415);
     EXPECT_FALSE(AlwaysToday);
     EXPECT_EQ(Increment, 7);
     EXPECT_EQ(desk.program.timeAstro.TimeOfDay.colors->foreground, (Color{255, 0, 0}));
@@ -72,12 +70,12 @@ TEST(Start, ClearsTheSettingsAfterAStartThatDidNotFinish) {
         Horvanta program;
         EXPECT_THROW(program.Start(), int);
     }
-    Settings left = killed.settings.flushed;
+    StoredSettings left = killed.settings.flushed;
     EXPECT_EQ(left["Horvanta"]["Prog"].at("Launch"), "");
     EXPECT_EQ(left["Horvanta"]["Item"]["RD"], "1000");
 
     Desk desk(left);
-    EXPECT_EQ(DisplayedMoment, 738900);
+    EXPECT_EQ(DisplayedMoment, 8415);
     EXPECT_TRUE(AlwaysToday);
     EXPECT_EQ(desk.desktop.settings.values["Horvanta-UDLs"]["User 1"]["Name"], "Home");
 }
@@ -91,7 +89,7 @@ TEST(Start, TakesDefaultsForDamagedSettings) {
                           {"TimeAstro", "Left", "1e999"},
                           {"TimeAstro", "Chk", "perhaps"},
                           {"HorvantaMDI", "State", "-77"}}));
-    EXPECT_EQ(DisplayedMoment, 738900);
+    EXPECT_EQ(DisplayedMoment, 8415);
     EXPECT_EQ(StepIndex, 1);
     EXPECT_EQ(desk.program.timeAstro.form.place.left, 0);
     EXPECT_EQ(desk.program.gregorian.GregorianDate.colors,
@@ -101,10 +99,10 @@ TEST(Start, TakesDefaultsForDamagedSettings) {
 
 TEST(End, HasFourWays) {
     constexpr std::tuple<const char*, const char*, const char*> rows[] = {
-        {"MenuExit", "738901", "255"},
+        {"MenuExit", "8416", "255"},
         {"QuitWithoutSavePrefs", "none", "none"},
         {"ResetPrefsAndQuit", "none", "none"},
-        {"ResetColorsAndQuit", "738901", "none"},
+        {"ResetColorsAndQuit", "8416", "none"},
     };
     for (const auto& [item, moment, foreground] : rows) {
         Desk desk;
@@ -130,7 +128,7 @@ TEST(Keys, MoveTheMoment) {
         {"1", "press Plus", 1000.25, 1001},   {"1", "press Minus", 1000, 999},           {"2", "press Plus", 1000, 1001},
         {"1", "press Up", 1000, 1001},        {"1", "press Down", 1000, 999},            {"2", "press Up", 1000, 1007},
         {"1", "press PageUp", 1000, 1007},    {"1", "press PageDown", 1000, 993},        {"2", "press PageDown", 1000, 972},
-        {"1", "press Home", 1000, 738900},    {"1", "press Escape", 1000, 738900},       {"1", "press Pause", 1000, 738900},
+        {"1", "press Home", 1000, 8415},    {"1", "press Escape", 1000, 8415},       {"1", "press Pause", 1000, 8415},
         {"1", "press Left", 1000.25, 1000.25}, {"1", "press Shift shift", 1000.25, 1000.25},
         {"1", "click TimeAstro.NextUp", 1000, 1001}, {"1", "click TimeAstro.JumpToPast", 1000, 993},
         {"2", "click TimeAstro.NextDown", 1000, 993}, {"2", "click TimeAstro.JumpToFuture", 1000, 1028},
@@ -159,8 +157,8 @@ TEST(FixedDayNum, TakesNumbersAndGivesTheOldOneBackForAnythingElse) {
         {"12x", 739000.25, "beep"},     {"", 739000.25, "beep"},
         {"—", 739000.25, "beep"},       {"1e400", 739000.25, "beep"},
         {"nan", 739000.25, "beep"},     {"inf", 739000.25, "beep"},
-        {digits, 739000.25, "beep"},    {"1e300", 4382545, "beep"},
-        {"-9999999", -2533803, "beep"}, {"739000.250", 739000.25, "none"}};
+        {digits, 739000.25, "beep"},    {"1e300", 3652060, "beep"},
+        {"-9999999", -3264288, "beep"}, {"739000.250", 739000.25, "none"}};
     Desk desk;
     for (const auto& [typed, moment, asked] : rows) {
         desk.Obey("set DisplayedMoment 739000.25");
@@ -181,10 +179,10 @@ TEST(FixedDayNum, KeepsDigitsItDoesNotShow) {
 
 TEST(SavedMoment, IsToldByItsDistance) {
     constexpr std::tuple<double, const char*, const char*> rows[] = {
-        {738900, "0", "days after saved date."},
-        {738901, "1", "day before saved date."},
-        {738899.5, "0.5", "days after saved date."},
-        {738900.0004, "0", "days after saved date."},
+        {8415, "0", "days after saved date."},
+        {8416, "1", "day before saved date."},
+        {8414.5, "0.5", "days after saved date."},
+        {8415.0004, "0", "days after saved date."},
     };
     Desk desk;
     for (const auto& [moment, distance, words] : rows) {

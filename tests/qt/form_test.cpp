@@ -1,10 +1,15 @@
 #include "app/horvanta.h"
+#include "astro/timescales.h"
 #include "core/moment.h"
+#include "locale/zone_time.h"
+#include "qt/panel_bar.h"
 #include "qt/qt_desktop.h"
 
 #include <QApplication>
+#include <QCheckBox>
 #include <QClipboard>
 #include <QColorDialog>
+#include <QDesktopServices>
 #include <QFile>
 #include <QLabel>
 #include <QLineEdit>
@@ -31,8 +36,9 @@ struct Session {
         CurrentDesktop = &desktop;
         program.Start();
         frame().Draw();
+        frame().showNormal();  // a maximized frame keeps the size of the screen
         frame().resize(1400, 900);
-        if (!QTest::qWaitForWindowActive(&frame())) qWarning("the frame did not become active");
+        AwaitActive();
     }
     ~Session() { CurrentDesktop = nullptr; }
 
@@ -47,7 +53,14 @@ struct Session {
         return frame().findChild<QMdiSubWindow*>(QString::fromStdString(form.name));
     }
 
+    /// A box that was closed leaves no window active for a while.
+    void AwaitActive() {
+        if (!frame().isActiveWindow()) frame().activateWindow();
+        if (!QTest::qWaitForWindowActive(&frame())) qWarning("the frame did not become active");
+    }
+
     void Press(Qt::Key key, Qt::KeyboardModifiers held = Qt::NoModifier) {
+        AwaitActive();
         QTest::keyClick(QApplication::focusWidget(), key, held);
     }
 
@@ -67,6 +80,29 @@ void AnswerNextBox(QMessageBox::StandardButton button) {
     timer->start(1);
 }
 
+/// Keeps the addresses that the program opens, in place of a browser.
+class Browser final : public QObject {
+    Q_OBJECT
+  public:
+    Browser() { QDesktopServices::setUrlHandler(QStringLiteral("http"), this, "Open"); }
+    ~Browser() override { QDesktopServices::unsetUrlHandler(QStringLiteral("http")); }
+
+    Q_INVOKABLE void Open(const QUrl& address) { opened = address; }
+
+    QUrl opened;
+};
+
+/// Whether a widget is of the kind that shows such a control.
+bool isFor(const QWidget& widget, const Control& control) {
+    if (dynamic_cast<const CheckBox*>(&control)) return qobject_cast<const QCheckBox*>(&widget);
+    if (dynamic_cast<const StatusBar*>(&control)) return qobject_cast<const PanelBar*>(&widget);
+    if (dynamic_cast<const TextField*>(&control)) return qobject_cast<const QLineEdit*>(&widget);
+    if (dynamic_cast<const Button*>(&control)) {
+        return qobject_cast<const QPushButton*>(&widget) || qobject_cast<const QToolButton*>(&widget);
+    }
+    return qobject_cast<const QLabel*>(&widget);
+}
+
 QString SettingsPath() { return SettingsFile::PathOf(ProgramSettings); }
 
 void WriteFile(const QString& path, const QByteArray& bytes) {
@@ -81,8 +117,11 @@ QByteArray ReadFile(const QString& path) {
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
 
+/// Whether a widget is one that a control draws on, rather than a part of one.
 bool isReader(const QWidget& widget) {
-    return qobject_cast<const QLabel*>(&widget) || qobject_cast<const QAbstractButton*>(&widget) ||
+    if (qobject_cast<const PanelBar*>(widget.parentWidget())) return false;
+    return qobject_cast<const PanelBar*>(&widget) || qobject_cast<const QLabel*>(&widget) ||
+           qobject_cast<const QAbstractButton*>(&widget) ||
            (qobject_cast<const QLineEdit*>(&widget) && !widget.objectName().isEmpty());
 }
 
@@ -108,7 +147,9 @@ class FormTest final : public QObject {
                 controls.insert(name);
                 const auto* widget = content->findChild<QWidget*>(name);
                 QVERIFY2(widget, control->name.c_str());
+                QVERIFY2(isFor(*widget, *control), control->name.c_str());
                 QVERIFY2(!widget->accessibleName().isEmpty(), control->name.c_str());
+                for (const auto* part : widget->findChildren<QLabel*>()) QVERIFY(!part->accessibleName().isEmpty());
             }
             for (const auto* widget : content->findChildren<QWidget*>()) {
                 QVERIFY2(!isReader(*widget) || controls.contains(widget->objectName()),
@@ -122,16 +163,16 @@ class FormTest final : public QObject {
         auto* field = session.Find<QLineEdit>("FixedDayNum");
         QVERIFY(field->hasFocus());
         field->selectAll();
-        QTest::keyClicks(field, QStringLiteral("738900.5"));
+        QTest::keyClicks(field, QStringLiteral("8415.5"));
         session.Press(Qt::Key_Return);
-        QCOMPARE(DisplayedMoment, 738900.5);
+        QCOMPARE(DisplayedMoment, 8415.5);
         QCOMPARE(session.Find<QLabel>("GregorianDate")->text(), QStringLiteral("Monday, January 15, 2024 "));
 
         field->selectAll();
         QTest::keyClicks(field, QStringLiteral("12x"));
         QTest::mouseClick(session.Find<QToolButton>("NextUp"), Qt::LeftButton);
-        QCOMPARE(DisplayedMoment, 738901);
-        QCOMPARE(field->text(), QStringLiteral("738901"));
+        QCOMPARE(DisplayedMoment, 8416);
+        QCOMPARE(field->text(), QStringLiteral("8416"));
 
         field->setFocus();
         field->selectAll();
@@ -143,14 +184,14 @@ class FormTest final : public QObject {
     void keysStepAndEditingKeysEdit() {
         Session session;
         auto* field = session.Find<QLineEdit>("FixedDayNum");
-        DisplayedMoment = 738900;
+        DisplayedMoment = 8415;
         UpdateStatus();
         session.frame().Draw();
         const std::tuple<Qt::Key, Qt::KeyboardModifiers, double> rows[] = {
-            {Qt::Key_Space, Qt::NoModifier, 738901},    {Qt::Key_Space, Qt::ShiftModifier, 738900},
-            {Qt::Key_PageUp, Qt::NoModifier, 738907},   {Qt::Key_PageDown, Qt::NoModifier, 738900},
-            {Qt::Key_Plus, Qt::KeypadModifier, 738901}, {Qt::Key_Minus, Qt::KeypadModifier, 738900},
-            {Qt::Key_Left, Qt::NoModifier, 738900},     {Qt::Key_Home, Qt::ShiftModifier, 738900},
+            {Qt::Key_Space, Qt::NoModifier, 8416},    {Qt::Key_Space, Qt::ShiftModifier, 8415},
+            {Qt::Key_PageUp, Qt::NoModifier, 8422},   {Qt::Key_PageDown, Qt::NoModifier, 8415},
+            {Qt::Key_Plus, Qt::KeypadModifier, 8416}, {Qt::Key_Minus, Qt::KeypadModifier, 8415},
+            {Qt::Key_Left, Qt::NoModifier, 8415},     {Qt::Key_Home, Qt::ShiftModifier, 8415},
             {Qt::Key_Home, Qt::NoModifier, Today()},
         };
         for (const auto& [key, held, moment] : rows) {
@@ -199,6 +240,91 @@ class FormTest final : public QObject {
         QVERIFY(QApplication::clipboard()->text().isEmpty());
     }
 
+    void aClickedCheckBoxShowsWhatTheProgramMadeOfIt() {
+        Session session;
+        struct Row {
+            const char* name;
+            std::function<bool()> option;
+            Qt::CheckState before;
+        };
+        const Row rows[] = {
+            {"UseElevation", [] { return UseElevation; }, Qt::Checked},
+            {"ShowDawnDusk", [] { return ShowsDawnDusk; }, Qt::Checked},
+            {"UseDeltaT", [] { return !DeltaTDisabled; }, Qt::Checked},
+            {"AdjustDST", [] { return AdjustDST == Checked; }, Qt::PartiallyChecked},
+        };
+        AdjustDST = Undecided;
+        AnswerNextBox(QMessageBox::No);
+        session.program.frame.Presets[1].Click();  // a place with an elevation and daylight saving time
+        session.frame().Draw();
+        for (const Row& row : rows) {
+            auto* box = session.Find<QCheckBox>(row.name);
+            QCOMPARE(box->checkState(), row.before);
+            const bool closesBox = QByteArray("UseDeltaT") == row.name;
+            if (closesBox) AnswerNextBox(QMessageBox::Ok);
+            box->setFocus();
+            session.Press(Qt::Key_Space);
+            QVERIFY(!row.option());
+            QCOMPARE(box->checkState(), Qt::Unchecked);
+            session.Press(Qt::Key_Return);
+            QVERIFY(row.option());
+            QCOMPARE(box->checkState(), Qt::Checked);
+        }
+    }
+
+    void coloursComeAndGo() {
+        Session session;
+        auto* box = session.Find<QCheckBox>("AdjustDST");
+        const QPalette own = box->palette();
+        AnswerNextBox(QMessageBox::No);
+        session.program.frame.Presets[1].Click();
+        session.frame().Draw();
+        QVERIFY(box->autoFillBackground());
+        QCOMPARE(box->palette().color(QPalette::Window), QColor(Qt::white));
+        box->click();
+        QVERIFY(!box->autoFillBackground());
+        QCOMPARE(box->palette(), own);
+    }
+
+    void panelsLineUpAndAClickedOneIsCopied() {
+        Session session;
+        const auto panels = session.Find<PanelBar>("DawnDusk")->findChildren<QLabel*>();
+        const auto legends = session.Find<PanelBar>("DawnDuskLegends")->findChildren<QLabel*>();
+        QCOMPARE(panels.size(), legends.size());
+        for (int i = 0; i < panels.size(); ++i) {
+            QCOMPARE(panels[i]->x(), legends[i]->x());
+            QCOMPARE(panels[i]->width(), legends[i]->width());
+        }
+        QTest::mouseClick(panels[4], Qt::LeftButton);
+        QCOMPARE(QApplication::clipboard()->text(), QStringLiteral("Sunrise: ") + panels[4]->text());
+        QTest::mouseClick(legends[3], Qt::LeftButton);
+        QCOMPARE(QApplication::clipboard()->text(), QStringLiteral("Sunrise: ") + panels[4]->text());
+    }
+
+    void theWindowTakesTheHeightOfWhatItShows() {
+        Session session;
+        const QMdiSubWindow* window = session.Window(session.program.timeAstro.form);
+        const QSize before = window->size();
+        auto* box = session.Find<QCheckBox>("ShowDawnDusk");
+        const int bars = 2 * session.Find<PanelBar>("DawnDusk")->height();
+        box->click();
+        QVERIFY(window->height() <= before.height() - bars);
+        QCOMPARE(window->width(), before.width());
+        box->click();
+        QCOMPARE(window->size(), before);
+    }
+
+    void aMapOpensWithItsAddressAsItIs() {
+        Session session;
+        Browser browser;
+        AnswerNextBox(QMessageBox::No);
+        session.program.frame.Presets[20].Click();  // a place with a space in its name
+        session.program.frame.MapLocale.Click();
+        const QString address = QString::fromLatin1(browser.opened.toEncoded());
+        QVERIFY2(address.startsWith(QStringLiteral("http://")), qPrintable(address));
+        QVERIFY2(address.endsWith(QStringLiteral("&zoom=9&q=Times%20Square")), qPrintable(address));
+    }
+
     void aDoubleClickAsksForAColour() {
         Session session;
         auto* date = session.Find<QLabel>("GregorianDate");
@@ -233,7 +359,7 @@ class FormTest final : public QObject {
         session.program.frame.GregCal.Click();
         session.frame().Draw();
         QVERIFY(window->isVisible());
-        QCOMPARE(session.Find<QLabel>("GregorianDate")->text(), QStringLiteral("Monday, January 1, 1 "));
+        QCOMPARE(session.Find<QLabel>("GregorianDate")->text(), QStringLiteral("Monday, January 1, 2001 "));
         session.Window(session.program.timeAstro.form)->close();
         QVERIFY(session.Window(session.program.timeAstro.form)->isVisible());
     }
@@ -245,7 +371,7 @@ class FormTest final : public QObject {
             scaled.setPointSizeF(standard.pointSizeF() * fontScale);
             QApplication::setFont(scaled);
             Session session;
-            for (const double moment : {-2533803.123456789, 4382545.0, 738424.0}) {
+            for (const double moment : {MinFixedDay + 0.123456789, MaxFixedDay + 0.0, 8030.0}) {
                 DisplayedMoment = moment;
                 UpdateStatus();
                 session.frame().Draw();

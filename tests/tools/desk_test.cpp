@@ -13,7 +13,7 @@ namespace {
 
 TEST(Desk, AnswersEveryLineWithOne) {
     constexpr std::pair<const char*, const char*> rows[] = {
-        {"call GregorianToFixed 2024 1 15", "738900"},
+        {"call GregorianToFixed 2024 1 15", "8415"},
         {"call Modulo -1 7", "6"},
         {"call HoursToDays 2.4", "0.099999999999999992"},
         {"call FormatTime never 0 false", "\"never\""},
@@ -31,7 +31,9 @@ TEST(Desk, AnswersEveryLineWithOne) {
         {"set J2000 1", "error: can't be set: J2000"},
         {"menu FileMenu", "error: no such menu item: FileMenu"},
         {"click Gregorian.Nothing", "error: no such control: Gregorian.Nothing"},
-        {"click TimeAstro.UT", "error: nothing happens there"},
+        {"click TimeAstro.JumpToPast 2", "error: no such control: TimeAstro.JumpToPast 2"},
+        {"click TimeAstro.DawnDusk 10", "error: no such panel"},
+        {"click TimeAstro.SunDecLabel", "error: nothing happens there"},
         {"type Gregorian.Dominical A", "error: nothing can be typed there"},
         {"asked", "none"},
     };
@@ -57,6 +59,7 @@ std::vector<std::string> LinesOf(const Horvanta& program) {
     for (const Form* form : program.forms) {
         lines.push_back("close " + form->name);
         for (const Control* control : form->controls) {
+            if (dynamic_cast<const StatusBar*>(control)) lines.push_back("click TimeAstro.DawnDusk 9");
             for (const char* act : {"click ", "dblclick ", "rightclick ", "focus "}) {
                 lines.push_back(act + form->name + "." + control->name);
             }

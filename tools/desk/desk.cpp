@@ -64,6 +64,21 @@ std::string_view TakeWord(std::string_view& line) {
     return word;
 }
 
+/// What a control shows: of a bar its panels, separated by lines.
+std::string ShownText(const Control& control) {
+    const auto* bar = dynamic_cast<const StatusBar*>(&control);
+    if (!bar) return control.text;
+    std::string text;
+    for (const StatusBar::Panel& panel : bar->panels) text += (text.empty() ? "" : "|") + panel.text;
+    return text;
+}
+
+std::string CheckText(const Control& control) {
+    constexpr const char* words[] = {" unchecked", " checked", " undecided"};
+    const auto* box = dynamic_cast<const CheckBox*>(&control);
+    return box ? words[box->State()] : "";
+}
+
 std::string Joined(const std::vector<std::string>& items) {
     std::string text;
     for (const std::string& item : items) text += (text.empty() ? "" : "; ") + item;
@@ -72,7 +87,7 @@ std::string Joined(const std::vector<std::string>& items) {
 
 }  // namespace
 
-Desk::Desk(const decltype(MemorySettings::values)& settings) {
+Desk::Desk(const StoredSettings& settings) {
     desktop.settings.values = settings;
     CurrentDesktop = &desktop;
     program.Start();
@@ -144,21 +159,44 @@ std::string Desk::Press(std::string_view rest) {
 std::string Desk::Menu(std::string_view rest) {
     MenuItem* item = rest.empty() ? nullptr : program.frame.menuBar.Find(rest);
     if (!item || !item->Click) throw BadLine("no such menu item: " + std::string(rest));
+    if (!item->enabled) throw BadLine("not enabled: " + std::string(rest));
     item->Click();
     return "ok";
 }
 
+Control& Desk::ControlInReach(std::string_view name) const {
+    Control& control = ControlNamed(name);
+    if (!control.form.visible || !control.visible || !control.enabled) throw BadLine("not shown: " + std::string(name));
+    return control;
+}
+
 /// A button that is clicked gets the focus; labels don't take it.
 std::string Desk::Act(std::string_view rest, std::function<void()> Control::*callback) {
-    Control& control = ControlNamed(rest);
-    if (!control.form.visible || !control.visible || !control.enabled) throw BadLine("not shown: " + std::string(rest));
+    Control& control = ControlInReach(rest);
     if (!(control.*callback)) throw BadLine("nothing happens there");
-    if (dynamic_cast<Button*>(&control)) desktop.Focus(control);
+    if (TakesClicks(control)) desktop.Focus(control);
     (control.*callback)();
     return "ok";
 }
 
-std::string Desk::Click(std::string_view rest) { return Act(rest, &Control::Click); }
+std::string Desk::ClickPanel(StatusBar& bar, std::string_view number) {
+    const auto panel = ParseNumber(number);
+    if (!bar.PanelClick) throw BadLine("nothing happens there");
+    if (!panel || *panel < 1 || *panel > static_cast<double>(bar.panels.size())) throw BadLine("no such panel");
+    bar.PanelClick(WholeNumber<std::size_t>(*panel) - 1);
+    return "ok";
+}
+
+/// The panels of a bar are clicked by their numbers from 1.
+std::string Desk::Click(std::string_view rest) {
+    std::string_view number = rest;
+    const std::string_view name = TakeWord(number);
+    if (auto* bar = dynamic_cast<StatusBar*>(&ControlNamed(name))) {
+        ControlInReach(name);
+        return ClickPanel(*bar, number);
+    }
+    return Act(rest, &Control::Click);
+}
 std::string Desk::DblClick(std::string_view rest) { return Act(rest, &Control::DblClick); }
 std::string Desk::RightClick(std::string_view rest) { return Act(rest, &Control::RightClick); }
 
@@ -188,7 +226,9 @@ std::string Desk::Answer(std::string_view rest) {
     } else if (word == "no") {
         answer.kind = BoxAnswer::no;
     } else if (const auto number = ParseNumber(rest); word == "color" && number) {
-        answer = {BoxAnswer::color, Color::FromNumber(WholeNumber(*number))};
+        answer = {BoxAnswer::color, Color::FromNumber(WholeNumber(*number)), ""};
+    } else if (word == "text") {
+        answer = {BoxAnswer::text, Color(), std::string(rest)};
     } else if (word != "cancel") {
         throw BadLine("no such answer: " + std::string(word));
     }
@@ -200,9 +240,9 @@ std::string Desk::Show(std::string_view rest) {
     const Form& form = FormNamed(rest);
     std::vector<std::string> items{form.name + " " + Quoted(form.text) + (form.visible ? "" : " hidden")};
     for (const Control* control : form.controls) {
-        items.push_back(control->name + " " + Quoted(control->text) + " " + Quoted(control->tooltip) +
-                        (control->visible ? "" : " hidden") + (control->enabled ? "" : " disabled") +
-                        (control == desktop.focused ? " focus" : ""));
+        items.push_back(control->name + " " + Quoted(ShownText(*control)) + " " + Quoted(control->tooltip) +
+                        CheckText(*control) + (control->visible ? "" : " hidden") +
+                        (control->enabled ? "" : " disabled") + (control == desktop.focused ? " focus" : ""));
     }
     return Joined(items);
 }

@@ -14,7 +14,7 @@ namespace horvanta {
 class Desk {
   public:
     /// Starts the program on the settings that an earlier run left.
-    explicit Desk(const decltype(MemorySettings::values)& settings = {});
+    explicit Desk(const StoredSettings& settings = {});
     ~Desk();
 
     /// Does what a line says and returns the answer, without a line end.
@@ -41,7 +41,10 @@ class Desk {
     std::string Events(std::string_view rest);
     std::string Asked(std::string_view rest);
 
+    std::string ClickPanel(StatusBar& bar, std::string_view number);
+
     Control& ControlNamed(std::string_view name) const;
+    Control& ControlInReach(std::string_view name) const;
     Form& FormNamed(std::string_view name) const;
 };
 

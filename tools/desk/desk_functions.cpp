@@ -1,6 +1,9 @@
 #include "desk_functions.h"
 
 #include "app/horvanta.h"
+#include "astro/sun.h"
+#include "astro/sun_events.h"
+#include "astro/timescales.h"
 #include "calendars/gregorian.h"
 #include "calendars/gregorian_window.h"
 #include "core/moment.h"
@@ -8,6 +11,9 @@
 #include "hebrew/hebrew_arithmetic.h"
 #include "hebrew/hebrew_modes.h"
 #include "hebrew/molad.h"
+#include "locale/locale_text.h"
+#include "locale/presets.h"
+#include "locale/zone_time.h"
 #include "recording_desktop.h"
 
 #include <algorithm>
@@ -57,6 +63,24 @@ struct Read<std::string> {
 
 template <>
 struct Read<std::string_view> : Read<std::string> {};
+
+template <class T>
+struct Read<std::optional<T>> {
+    static std::optional<T> From(const std::string& word) {
+        return word == "none" ? std::nullopt : std::optional(Read<T>::From(word));
+    }
+};
+
+/// A preset by its short name, or the current place.
+template <>
+struct Read<LocaleRecord> {
+    static LocaleRecord From(const std::string& word) {
+        if (word == "Locale") return Locale;
+        const LocaleRecord* place = FindLocale(word);
+        if (!place) throw BadLine("no such place: " + word);
+        return *place;
+    }
+};
 
 // From results to answers.
 
@@ -125,6 +149,28 @@ std::string AnswerOf(const GridDate& d) {
         .Add("day", d.day)
         .Add("monthLength", d.monthLength)
         .Add("firstWeekday", d.firstWeekday)
+        .Text();
+}
+
+std::string AnswerOf(const LocaleRecord& r) {
+    return Fields()
+        .Add("Name", r.Name)
+        .Add("Location", r.Location)
+        .Add("Latitude", r.Latitude)
+        .Add("KmPerDegLat", r.KmPerDegLat)
+        .Add("LatRad", r.LatRad)
+        .Add("Longitude", r.Longitude)
+        .Add("KmPerDegLong", r.KmPerDegLong)
+        .Add("LongRad", r.LongRad)
+        .Add("North", r.North)
+        .Add("South", r.South)
+        .Add("East", r.East)
+        .Add("West", r.West)
+        .Add("Elevation", r.Elevation)
+        .Add("Zone", r.Zone)
+        .Add("Diaspora", r.Diaspora)
+        .Add("NoDST", r.NoDST)
+        .Add("UseLMT", r.UseLMT)
         .Text();
 }
 
@@ -301,6 +347,86 @@ const std::vector<DeskFunction> functions{
     TimeRow("DayUpDown", &TimeAstro::DayUpDown),
     TimeRow("StepMenu_Click", &TimeAstro::StepMenu_Click),
 
+    Row("MakeLocale", MakeLocale),
+    Row(
+        "PresetLocale", +[](const LocaleRecord& place) { return place; }),
+    Row("SphericalDistance", SphericalDistance),
+    Row("OblateDistance", OblateDistance),
+    Row("DirectionTo", DirectionTo),
+    Row("CompassPoint", CompassPoint),
+    Row("LocaleSummary", LocaleSummary),
+    Row("LocaleChangeReport", LocaleChangeReport),
+    Row("MapLink", MapLink),
+    Row("isDaylightTime", isDaylightTime),
+    Row("DaylightStart", DaylightStart),
+    Row("DaylightEnd", DaylightEnd),
+    Row("StandardToDaylight", StandardToDaylight),
+    Row("DaylightToStandard", DaylightToStandard),
+    Row("DaylightSwitchText", DaylightSwitchText),
+    Row("LocalTimes", LocalTimes),
+
+    Row("DeltaT", DeltaT),
+    Row("SetDeltaTDisabled", SetDeltaTDisabled),
+    Row("UniversalToTerrestrial", UniversalToTerrestrial),
+    Row("TerrestrialToUniversal", TerrestrialToUniversal),
+    Row("LocalToUniversal", LocalToUniversal),
+    Row("UniversalToLocal", UniversalToLocal),
+    Row("UniversalToStandard", UniversalToStandard),
+    Row("StandardToUniversal", StandardToUniversal),
+    Row("LocalToStandard", LocalToStandard),
+    Row("EquationOfTime", EquationOfTime),
+    Row("LocalToApparent", LocalToApparent),
+    Row("ApparentToLocal", ApparentToLocal),
+    Row("ApparentToUniversal", ApparentToUniversal),
+    Row("JulianCenturies", JulianCenturies),
+    Row("JulianMillennia", JulianMillennia),
+    Row("MomentToJD", MomentToJD),
+    Row("JDToMoment", JDToMoment),
+    Row("MomentToMJD", MomentToMJD),
+    Row("MJDToMoment", MJDToMoment),
+    Row("MomentToOrbitalDate", MomentToOrbitalDate),
+    Row("OrbitalDateToMoment", OrbitalDateToMoment),
+    Row("MomentToRAYDate", MomentToRAYDate),
+    Row("RAYDateToMoment", RAYDateToMoment),
+    Row("RAYYearLength", RAYYearLength),
+    Row("StepByOrbitalYear", StepByOrbitalYear),
+    Row("MeanSiderealDegrees", MeanSiderealDegrees),
+    Row("ApparentSiderealDegrees", ApparentSiderealDegrees),
+    Row("SiderealDegrees", SiderealDegrees),
+
+    Row("SolarLongitude", SolarLongitude),
+    Row("Aberration", Aberration),
+    Row("Nutation", Nutation),
+    Row("Obliquity", Obliquity),
+    Row("SolarDeclination", SolarDeclination),
+    Row("SolarAltitude", SolarAltitude),
+    Row("SolarHourAngle", SolarHourAngle),
+    Row("SolarLongitudeAfter", SolarLongitudeAfter),
+    Row("EstimateSolarLongitudeBefore", EstimateSolarLongitudeBefore),
+    Row("SeasonMoment", SeasonMoment),
+    Row("SameLongitudeYearsLater", SameLongitudeYearsLater),
+
+    Row("MomentDifference", MomentDifference),
+    Row("HorizonDip", HorizonDip),
+    Row("SunDepression", SunDepression),
+    Row("SineOffset", SineOffset),
+    Row("ApproxMomentOfDepression", ApproxMomentOfDepression),
+    Row("MomentOfDepression", MomentOfDepression),
+    Row("Dawn", Dawn),
+    Row("Dusk", Dusk),
+    Row("Sunrise", Sunrise),
+    Row("Sunset", Sunset),
+    Row("SolarMidday", SolarMidday),
+    Row("SolarMidnight", SolarMidnight),
+    Row("DayTemporalHour", DayTemporalHour),
+    Row("NightTemporalHour", NightTemporalHour),
+    Row("MorningTemporalHour", MorningTemporalHour),
+    Row("AfternoonTemporalHour", AfternoonTemporalHour),
+    Row("EveningTemporalHour", EveningTemporalHour),
+    Row("PreDawnTemporalHour", PreDawnTemporalHour),
+    Row("SundialToStandard", SundialToStandard),
+    Row("RiseSetAzimuth", RiseSetAzimuth),
+
     Row("isGregorianLeapYear", isGregorianLeapYear),
     Row("GregorianToFixed", GregorianToFixed),
     Row("GregorianYearEnd", GregorianYearEnd),
@@ -388,9 +514,17 @@ const std::vector<DeskVariable> variables{
     Variable("BusyCount", BusyCount),
     Variable("AlwaysToday", AlwaysToday),
     Variable("TempHourFormat", TempHourFormat),
+    Variable("MoladTimeFormat", MoladTimeFormat),
+    Variable("StepsBySolarYear", StepsBySolarYear),
+    Variable("AdjustDST", AdjustDST),
+    Variable("UseElevation", UseElevation),
+    Variable("MapIndex", MapIndex),
     Variable("CycleShift", CycleShift),
     Variable("UseHebrewFont", UseHebrewFont),
     Constant("StepIndex", StepIndex),
+    Constant("Locale", Locale),
+    Constant("DeltaTDisabled", DeltaTDisabled),
+    Constant("DeltaTSerial", DeltaTSerial),
     Constant("UpdateDepth", UpdateDepth),
     Constant("Quitting", Quitting),
     Constant("GregorianEpoch", GregorianEpoch),

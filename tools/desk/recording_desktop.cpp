@@ -43,11 +43,26 @@ BoxAnswer RecordingDesktop::NextAnswer() {
 }
 
 bool RecordingDesktop::AskYesNo(std::string_view question, std::string_view title) {
-    constexpr const char* words[] = {"yes", "no", "cancel", "cancel"};
+    constexpr const char* words[] = {"yes", "no", "cancel", "cancel", "cancel"};
     const BoxAnswer answer = NextAnswer();
     asked.push_back("box " + Quoted(title) + " " + Quoted(question) + " " + words[answer.kind]);
     return answer.kind == BoxAnswer::yes;
 }
+
+std::optional<std::string> RecordingDesktop::AskText(std::string_view prompt, std::string_view title,
+                                                     std::string_view initial) {
+    const BoxAnswer answer = NextAnswer();
+    const bool typed = answer.kind == BoxAnswer::text;
+    asked.push_back("input " + Quoted(title) + " " + Quoted(prompt) + " " + Quoted(initial) + " " +
+                    (typed ? Quoted(answer.typed) : "cancel"));
+    return typed ? std::optional(answer.typed) : std::nullopt;
+}
+
+void RecordingDesktop::Tell(std::string_view message, std::string_view title) {
+    asked.push_back("box " + Quoted(title) + " " + Quoted(message));
+}
+
+void RecordingDesktop::OpenWithShell(const std::string& path) { asked.push_back("open " + Quoted(path)); }
 
 std::optional<Color> RecordingDesktop::ChooseColor(Color present) {
     const BoxAnswer answer = NextAnswer();
@@ -62,8 +77,8 @@ void RecordingDesktop::SetClipboard(const std::string& text) { asked.push_back("
 /// A focused button keeps Space and Enter, a text field Enter; other keys go to the focused window.
 bool RecordingDesktop::Press(int code, int shift) {
     if (!focused) return false;
-    if (auto* button = dynamic_cast<Button*>(focused); button && (code == KeySpace || code == KeyEnter)) {
-        button->Click();
+    if (TakesClicks(*focused) && (code == KeySpace || code == KeyEnter)) {
+        focused->Click();
     } else if (dynamic_cast<TextField*>(focused) && code == KeyEnter) {
         LeaveField();
     } else if (focused->form.KeyDown) {
@@ -87,14 +102,23 @@ void RecordingDesktop::LeaveField() {
 
 void RecordingDesktop::Focus(Control& control) {
     if (focused != &control) LeaveField();
+    Activate(control);
+}
+
+void RecordingDesktop::Activate(Control& control) {
     focused = &control;
+    if (frame_) frame_->activeForm = &control.form;
 }
 
 void RecordingDesktop::Settle() {
     for (Form* form : forms) {
         Control* wished = std::exchange(form->focusWish, nullptr);
-        if (wished && form->visible) focused = wished;
+        if (wished && form->visible) Activate(*wished);
     }
+}
+
+bool TakesClicks(const Control& control) {
+    return dynamic_cast<const Button*>(&control) || dynamic_cast<const CheckBox*>(&control);
 }
 
 std::string Quoted(std::string_view text) {

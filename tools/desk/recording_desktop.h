@@ -24,25 +24,33 @@ class MemorySettings final : public SettingsStore {
 
     using Section = std::map<std::string, std::string, std::less<>>;
     using Application = std::map<std::string, Section, std::less<>>;
-    std::map<std::string, Application, std::less<>> values;
-    std::map<std::string, Application, std::less<>> flushed;  ///< What is on the disk.
+    using Applications = std::map<std::string, Application, std::less<>>;
+    Applications values;
+    Applications flushed;  ///< What is on the disk.
 };
+
+using StoredSettings = MemorySettings::Applications;
 
 /// What the user does with the next box.
 struct BoxAnswer {
-    enum Kind { yes, no, cancel, color } kind = cancel;
+    enum Kind { yes, no, cancel, color, text } kind = cancel;
     Color chosen;
+    std::string typed;
 };
 
 /// A desktop without a display. It records what it was asked, answers boxes from a queue (an empty queue cancels),
 /// and keeps who has the focus. Its clock stands still.
 class RecordingDesktop : public Desktop {
   public:
-    void LoadFrame(HorvantaMDI&) override {}
+    void LoadFrame(HorvantaMDI& frame) override { frame_ = &frame; }
     void LoadForm(Form& form) override;
     void LetEventsRun() override { Settle(); }
     void Beep() override;
     bool AskYesNo(std::string_view question, std::string_view title) override;
+    std::optional<std::string> AskText(std::string_view prompt, std::string_view title,
+                                       std::string_view initial) override;
+    void Tell(std::string_view message, std::string_view title) override;
+    void OpenWithShell(const std::string& path) override;
     std::optional<Color> ChooseColor(Color present) override;
     void SetClipboard(const std::string& text) override;
     LocalClock Clock() override { return clock; }
@@ -67,8 +75,14 @@ class RecordingDesktop : public Desktop {
 
   private:
     BoxAnswer NextAnswer();
+    void Activate(Control& control);
     void LeaveField();
+
+    HorvantaMDI* frame_ = nullptr;
 };
+
+/// True for buttons and check boxes, which take the focus when they are clicked, and keys as clicks.
+bool TakesClicks(const Control& control);
 
 /// A text within double quotes, with quotes, backslashes and line ends escaped.
 std::string Quoted(std::string_view text);

@@ -1,0 +1,75 @@
+#include "app/options.h"
+
+#include "calendars/gregorian.h"
+#include "core/moment.h"
+#include "core/text.h"
+#include "locale/locale_text.h"
+
+#include <utility>
+
+namespace horvanta {
+namespace {
+
+/// A numbering of the menu: the day that becomes day 1, in the present numbering, and the number that the jump to the
+/// epoch goes to.
+struct Numbering {
+    Moment (*dayOne)();
+    double value;
+};
+
+constexpr Epoch pickEpoch{718431};      // January 1, 1968
+constexpr Epoch persianEpoch{226895};   // March 22, 622
+constexpr Epoch chineseEpoch{-985012};  // February 18, -2696
+
+constexpr Numbering numberings[] = {
+    {[] { return DisplayedMoment; }, 1},
+    {[] { return GregorianEpoch; }, 1},
+    {[] { return GregorianToFixed(1900, 3, 1) - 60; }, 61},
+    {[] { return Moment{Epoch2001}; }, 1},
+    {[] { return Moment{pickEpoch}; }, 1},
+    {[] { return Floor(JDEpoch + 1); }, 0.5},
+    {[] { return MJDEpoch + 1; }, 0},
+    {[] { return TJDEpoch + 1; }, 0},
+    {[] { return GregorianToFixed(1601, 1, 1); }, 1},
+    {[] { return Moment{persianEpoch}; }, 1},
+    {[] { return Moment{chineseEpoch}; }, 1},
+    {[] { return Moment{HebrewEpoch}; }, 1},
+};
+static_assert(std::size(numberings) == decltype(HorvantaMDI::SetEpochOptMenu)::size());
+
+}  // namespace
+
+Options::Options(HorvantaMDI& frame) : frame_(frame) {
+    for (std::size_t number = 1; number <= frame_.SetEpochOptMenu.size(); ++number) {
+        const auto index = static_cast<std::int32_t>(number);
+        frame_.SetEpochOptMenu[number].Shows(FixedDayOption, index);
+        frame_.SetEpochOptMenu[number].Click = [this, index] { SetFixedDayNumberingOption(index); };
+    }
+    for (std::size_t number = 1; number <= frame_.MapServer.size(); ++number) {
+        const auto index = static_cast<std::int32_t>(number);
+        frame_.MapServer[number].Shows(MapIndex, index);
+        frame_.MapServer[number].Click = [this, index] { MapServer_Click(index); };
+    }
+    MenuItem* const formats[] = {&frame_.SetTempHMM, &frame_.SetTempHourMMM, &frame_.SetTempHourHHH};
+    for (std::int32_t format = 1; MenuItem * item : formats) {
+        item->Shows(TempHourFormat, format);
+        item->Click = [this, format] { SetTempHourFormat(format); };
+        ++format;
+    }
+}
+
+void Options::SetFixedDayNumberingOption(std::int32_t index) {
+    const auto number = static_cast<std::size_t>(index);
+    const Numbering& numbering = numberings[number - 1];
+    FixedDayOption = index;
+    ChangeFixedDayEpoch(numbering.dayOne(), numbering.value, RemoveAmpersands(frame_.SetEpochOptMenu[number].caption));
+}
+
+void Options::SetTempHourFormat(std::int32_t format) {
+    TempHourFormat = format;
+    UpdateStatus();
+}
+
+void Options::MapServer_Click(std::int32_t index) { MapIndex = index; }
+
+}  // namespace horvanta

@@ -1,0 +1,31 @@
+#pragma once
+
+#include "core/shell.h"
+
+#include <cstdint>
+
+namespace horvanta {
+
+/// Which item of the numbering menu was chosen last, from 1.
+inline std::int32_t FixedDayOption = 4;
+
+/// The commands of the Options menu that change how things are counted, told and linked.
+class Options {
+  public:
+    explicit Options(HorvantaMDI& frame);
+
+    /// Numbers the days by an item of the numbering menu, from 1. The displayed and the saved moment keep their dates
+    /// and times of day.
+    void SetFixedDayNumberingOption(std::int32_t index);
+
+    /// Chooses the form of temporal hours, 1 to 3.
+    void SetTempHourFormat(std::int32_t format);
+
+    /// Chooses the web map that places are looked up on, by its place in the menu, from 1.
+    void MapServer_Click(std::int32_t index);
+
+  private:
+    HorvantaMDI& frame_;
+};
+
+}  // namespace horvanta

@@ -1,0 +1,160 @@
+#include "app/stored_settings.h"
+
+#include "astro/timescales.h"
+#include "core/moment.h"
+#include "core/text.h"
+#include "desk.h"
+#include "hebrew/molad.h"
+#include "locale/presets.h"
+
+#include <gtest/gtest.h>
+
+#include <array>
+
+namespace horvanta {
+namespace {
+
+using Row = std::array<const char*, 3>;
+
+// Every key with a text that is not its default, those of windows to come among them.
+// clang-format off
+constexpr Row rows[] = {
+    {"HorvantaMDI", "State", "0"}, {"HorvantaMDI", "Top", "150"}, {"HorvantaMDI", "Left", "300"},
+    {"HorvantaMDI", "Width", "12000"}, {"HorvantaMDI", "Height", "9000"},
+    {"TimeAstro", "Top", "15"}, {"TimeAstro", "Left", "30"}, {"TimeAstro", "Chk", "False"},
+    {"Gregorian", "Top", "45"}, {"Gregorian", "Left", "60"}, {"Gregorian", "Chk", "False"},
+    {"Monthly", "Top", "75"}, {"Monthly", "Chk", "False"}, {"Quartane", "Chk", "False"}, {"Julian", "Chk", "True"},
+    {"Events", "Top", "90"}, {"Events", "Chk", "False"}, {"Hebrew", "Chk", "False"}, {"User", "Chk", "True"},
+    {"Lunar", "Chk", "False"}, {"Persian", "Chk", "True"}, {"Chinese", "Chk", "True"}, {"Chinese", "Left", "105"},
+    {"Item", "FixOpt", "2"}, {"Item", "GE", "1"}, {"Item", "FixEpoch", "61"}, {"Item", "FixNam", "rata die"},
+    {"Item", "EW", "9000"}, {"Item", "EH", "4000"}, {"Item", "Step", "5"}, {"Item", "Year", "False"},
+    {"Item", "OrbRAY", "RAY Date"}, {"Item", "JDMJD", "Mod Jul Day"}, {"Item", "Qua454", "False"},
+    {"Item", "QuaQS", "LSS"}, {"Item", "QuaLeap", "71/400"}, {"Item", "QuaStart", "2"}, {"Item", "UseZov454", "True"},
+    {"Item", "UseZov010", "False"}, {"Item", "Even", "True"}, {"Item", "Mix", "True"}, {"Item", "CCM", "2"},
+    {"Item", "CEN", "3"}, {"Item", "THC", "2"}, {"Item", "MTF", "5"}, {"Item", "RD", "739000.125"},
+    {"Item", "SD", "700000.5"}, {"Item", "AdjDST", "2"}, {"Item", "dT", "0"}, {"Item", "ShowDD", "0"},
+    {"Item", "Elev", "0"}, {"Item", "UseAUC", "1"}, {"Item", "JCY1", "-2636"}, {"Item", "Rectify", "1"},
+    {"Item", "YRF", "-752"}, {"Item", "OSY", "-775"}, {"Item", "LP", "True"}, {"Item", "WCC", "True"},
+    {"Item", "LOC", "Tehran"}, {"Item", "Map", "4"}, {"Item", "MC", "3"}, {"Item", "AD", "&Down"},
+    {"Item", "LunOpt", "2"}, {"Item", "LunOff", "17037"}, {"Item", "LunCap", "Brown"}, {"Item", "Candles", "40"},
+    {"Color", "ABC", "1"}, {"Color", "AFC", "2"}, {"Color", "GBC", "3"}, {"Color", "GFC", "4"}, {"Color", "LBC", "5"},
+    {"Color", "ChinFC", "6"}, {"Color", "RBC", "7"}, {"Color", "CFC", "8"}, {"Later", "Key", "kept"},
+};
+// clang-format on
+
+StoredSettings AllRows() {
+    StoredSettings settings;
+    for (const auto& [section, key, text] : rows) settings["Horvanta"][section][key] = text;
+    settings["Horvanta-UDLs"]["YLC"]["YP"] = "kept";
+    return settings;
+}
+
+std::string TextOf(StoredSettings& settings, const Row& row) { return settings["Horvanta"][row[0]][row[1]]; }
+
+TEST(StoredSettings, ComeBackAsTheyWereSaved) {
+    Desk desk(AllRows());
+    EXPECT_EQ(DisplayedMoment, 739000.125);
+    EXPECT_EQ(FixedEpochValue, 61);
+    EXPECT_EQ(Increment, 3652.42189);
+    EXPECT_TRUE(DeltaTDisabled);
+    EXPECT_EQ(Locale, PresetLocale("Tehran"));
+    EXPECT_FALSE(desk.program.timeAstro.fields.DawnDusk.visible);
+    desk.Obey("menu MenuExit");
+    StoredSettings& saved = desk.desktop.settings.flushed;
+    for (const Row& row : rows) EXPECT_EQ(TextOf(saved, row), row[2]) << row[0] << "/" << row[1];
+    EXPECT_EQ(saved["Horvanta-UDLs"]["YLC"]["YP"], "kept");
+}
+
+/// What is damaged is as if it were not there, and takes nothing else with it.
+TEST(StoredSettings, TakeDefaultsForDamage) {
+    StoredSettings defaults;
+    {
+        StoredSettings empty;
+        empty["Horvanta"]["Events"]["Top"] = "0";
+        Desk desk(empty);
+        desk.Obey("menu MenuExit");
+        defaults = desk.desktop.settings.flushed;
+    }
+    for (const char* damage : {"", "beige", "1e300", "-99999999999", "\x01\xff"}) {
+        for (const Row& row : rows) {
+            StoredSettings settings = AllRows();
+            settings["Horvanta"][row[0]][row[1]] = damage;
+            Desk desk(settings);
+            EXPECT_TRUE(desk.desktop.asked.empty());
+            desk.Obey("menu MenuExit");
+            const std::string neighbour = TextOf(desk.desktop.settings.flushed, {"Color", "AFC"});
+            EXPECT_EQ(neighbour, row[1] == std::string("AFC") ? "0" : "2") << row[1] << " " << damage;
+        }
+    }
+    constexpr Row owned[] = {{"Item", "GE"},  {"Item", "Step"}, {"Item", "dT"},
+                             {"Item", "Map"}, {"Color", "GBC"}, {"Gregorian", "Chk"},
+                             {"Item", "THC"}, {"Item", "LOC"},  {"Item", "AdjDST"}};
+    for (const Row& row : owned) {
+        StoredSettings settings = AllRows();
+        settings["Horvanta"][row[0]][row[1]] = "beige";
+        Desk desk(settings);
+        desk.Obey("menu MenuExit");
+        EXPECT_EQ(TextOf(desk.desktop.settings.flushed, row), TextOf(defaults, row)) << row[1];
+    }
+}
+
+TEST(StoredSettings, ReadNumbersAsTheyAreWritten) {
+    StoredSettings settings = AllRows();
+    settings["Horvanta"]["Item"]["RD"] = "739000,75";
+    settings["Horvanta"]["Item"]["MTF"] = "3";
+    const Desk desk(settings);
+    EXPECT_EQ(DisplayedMoment, 739000);
+    EXPECT_EQ(MoladTimeFormat, 7);
+}
+
+/// The numbering is that of the last run, its date and its jump too.
+TEST(StoredSettings, KeepTheDateUnderEveryNumbering) {
+    for (const double epoch : {1.0, -730484.0, 1721426.0, -678575.0, 1373430.0}) {
+        StoredSettings left = AllRows();
+        {
+            Desk desk(left);
+            ChangeFixedDayEpoch(GregorianEpoch + 1 - epoch, 0.5, "mine");
+            desk.Obey("menu MenuExit");
+            left = desk.desktop.settings.flushed;
+        }
+        const Desk desk(left);
+        EXPECT_EQ(GregorianEpoch, epoch);
+        EXPECT_EQ(FixedEpochValue, 0.5);
+        EXPECT_EQ(FixedEpochName, "mine");
+        EXPECT_NEAR(DisplayedMoment - GregorianEpoch, 738999.125, 1e-9);
+        EXPECT_NEAR(SavedMoment - GregorianEpoch, 699999.5, 1e-9);
+    }
+}
+
+TEST(StoredSettings, OfAnOlderLayoutAreCleared) {
+    StoredSettings settings = AllRows();
+    settings["Horvanta"].erase("Events");
+    const Desk desk(settings);
+    EXPECT_EQ(Locale.Name, "Greenwich");
+    EXPECT_EQ(StepIndex, 1);
+}
+
+TEST(StoredSettings, ChooseTheUsersOwnPlaceWithoutAQuestion) {
+    StoredSettings settings = AllRows();
+    auto& slot = settings["Horvanta-UDLs"]["User 7"];
+    slot = {{"Name", "Kfar Israel"}, {"Lat", "31.5"}, {"Long", "34.75"},
+            {"Elev", "12"},          {"Zone", "2"},   {"Chk", "True"}};
+    StoredSettings left;
+    {
+        Desk desk(settings);
+        EXPECT_EQ(Locale.Name, "Kfar Israel");
+        EXPECT_FALSE(Locale.Diaspora);
+        EXPECT_TRUE(desk.program.frame.UserLoc[7].isTicked());
+        EXPECT_FALSE(desk.program.frame.UserLoc[6].isShown());
+        EXPECT_EQ(desk.Obey("asked"), "none");
+        desk.Obey("menu SetMecca");
+        desk.Obey("menu MenuExit");
+        left = desk.desktop.settings.flushed;
+    }
+    const Desk desk(left);
+    EXPECT_EQ(Locale.Name, "Mecca");
+    EXPECT_EQ(UserLocales[7].Longitude, 34.75);
+}
+
+}  // namespace
+}  // namespace horvanta

@@ -1,0 +1,210 @@
+#include "astro/sun_events.h"
+
+#include "astro/sun.h"
+#include "astro/timescales.h"
+#include "calendars/gregorian.h"
+#include "core/numbering.h"
+#include "locale/locale.h"
+#include "locale/presets.h"
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <random>
+
+namespace horvanta {
+namespace {
+
+constexpr double minute = 1 / 1440.0;
+
+LocaleRecord PlaceAt(double latitude, double longitude, double elevation = 0) {
+    return MakeLocale("test", "", latitude, longitude, elevation, {}, true, true, false);
+}
+
+/// A time of day written as hours, minutes and seconds.
+double TimeOfDay(std::int32_t hhmmss) { return HMSToHours(hhmmss / 10000, hhmmss / 100 % 100, hhmmss % 100) / 24; }
+
+struct Day {
+    const char* place;
+    std::int32_t year, month, day;
+    std::int32_t dawn, sunrise, midday, sunset, dusk;  ///< Zone standard time, hhmmss.
+    double riseAzimuth, setAzimuth;
+};
+
+constexpr std::int32_t never = -1;
+
+/// By Astronomy Engine 2.1.19 (npm astronomy-engine), with observers at sea level: SearchAltitude of the Sun at -18°
+/// and -0°50'29", SearchHourAngle at 0, and the azimuths as arc cosine of sin(declination) / cos(latitude), with the
+/// declination at the altitude -34'29". PyEphem 4.1.4 gives the same to a second.
+constexpr Day days[] = {
+    {"Greenwich", 1905, 12, 22, 55919, 80333, 115830, 155327, 175741, 129.72, 230.28},
+    {"Greenwich", 1984, 2, 29, 45620, 64703, 121232, 173855, 192955, 102.70, 257.58},
+    {"Greenwich", 2024, 6, 21, never, 34247, 120155, 202102, never, 50.31, 309.68},
+    {"Greenwich", 2049, 11, 3, 50342, 65733, 114333, 162852, 182233, 114.93, 244.87},
+    {"Jerusalem", 1905, 12, 22, 50805, 63518, 113731, 163944, 180657, 117.91, 242.09},
+    {"Jerusalem", 1984, 2, 29, 44628, 60725, 115137, 173617, 185718, 99.32, 260.90},
+    {"Jerusalem", 2024, 6, 21, 25414, 43406, 114058, 184749, 202740, 62.10, 297.89},
+    {"Jerusalem", 2049, 11, 3, 43425, 55710, 112237, 164741, 181024, 107.94, 251.90},
+    {"Times Square", 1905, 12, 22, 53811, 71705, 115433, 163201, 181055, 121.69, 238.31},
+    {"Times Square", 1984, 2, 29, 50015, 63105, 120826, 174625, 191725, 100.31, 259.92},
+    {"Times Square", 2024, 6, 21, 21811, 42451, 115754, 193057, 213735, 58.33, 301.67},
+    {"Times Square", 2049, 11, 3, 45612, 62914, 113930, 164915, 182213, 110.35, 249.47},
+    {"Tokyo", 1905, 12, 22, 51529, 64705, 113918, 163132, 180307, 119.34, 240.66},
+    {"Tokyo", 1984, 2, 29, 44758, 61241, 115336, 173503, 185953, 99.89, 260.33},
+    {"Tokyo", 2024, 6, 21, 23633, 42527, 114250, 190013, 204906, 60.68, 299.32},
+    {"Tokyo", 2049, 11, 3, 43815, 60450, 112433, 164349, 181021, 108.69, 251.14},
+    {"Melbourne", 1905, 12, 22, 25927, 45447, 121834, 194222, 213743, 120.24, 239.75},
+    {"Melbourne", 1984, 2, 29, 43137, 60327, 123253, 190140, 203309, 100.19, 260.07},
+    {"Melbourne", 2024, 6, 21, 60127, 73550, 122206, 170823, 184246, 59.76, 300.24},
+    {"Melbourne", 2049, 11, 3, 33225, 51105, 120349, 185710, 203617, 109.20, 250.57},
+};
+
+TEST(SunEvents, AgreeWithAnEphemeris) {
+    UseElevation = false;
+    for (const Day& row : days) {
+        const LocaleScope scope(PresetLocale(row.place));
+        const FixedDay date = GregorianToFixed(row.year, row.month, row.day);
+        const std::tuple<const char*, Moment, std::int32_t> events[] = {
+            {"dawn", Dawn(date, 18), row.dawn},        {"sunrise", Sunrise(date), row.sunrise},
+            {"midday", SolarMidday(date), row.midday}, {"sunset", Sunset(date), row.sunset},
+            {"dusk", Dusk(date, 18), row.dusk},
+        };
+        SCOPED_TRACE(testing::Message() << row.place << ", " << FixedToGregorianString(date));
+        for (const auto& [name, found, hhmmss] : events) {
+            if (hhmmss == never) {
+                EXPECT_EQ(found, NeverMoment) << name;
+            } else {
+                EXPECT_NEAR((found - date - TimeOfDay(hhmmss)) * 86400, 0, 60) << name << ", seconds";
+            }
+        }
+        EXPECT_NEAR(RiseSetAzimuth(date, true, true), row.riseAzimuth, 0.02);
+        EXPECT_NEAR(RiseSetAzimuth(date, true, false), row.setAzimuth, 0.02);
+        EXPECT_NEAR(RiseSetAzimuth(date, false, true), row.riseAzimuth, 0.02);
+    }
+}
+
+/// The first two times are by the same program, with the dip of 800 m added to the depression.
+TEST(SunEvents, LookDownFromAnElevation) {
+    const LocaleScope jerusalem(PresetLocale("Jerusalem"));
+    const FixedDay date = GregorianToFixed(2024, 6, 21);
+    EXPECT_NEAR((Sunrise(date) - date - TimeOfDay(42913)) / minute, 0, 1);
+    EXPECT_NEAR((Sunset(date) - date - TimeOfDay(185242)) / minute, 0, 1);
+    EXPECT_NEAR(HorizonDip(), 0.908, 0.001);
+    EXPECT_NEAR(SunDepression(), DegMinSec(0, 50, 29) + 0.908, 0.001);
+    UseElevation = false;
+    EXPECT_NEAR((Sunrise(date) - date - TimeOfDay(43406)) / minute, 0, 1);
+    UseElevation = true;
+    for (const double elevation : {0.0, -430.0}) {
+        const LocaleScope shore(PlaceAt(31.7, 35.5, elevation));
+        EXPECT_EQ(HorizonDip(), 0) << elevation;
+        EXPECT_NEAR(SunDepression(), DegMinSec(0, 50, 29), 1e-12) << elevation;
+    }
+}
+
+TEST(SunEvents, DivideTheDay) {
+    const LocaleScope scope(PresetLocale("Jerusalem"));
+    for (FixedDay date = GregorianToFixed(2024, 1, 1); date < GregorianToFixed(2025, 1, 1); date += 17) {
+        const Moment rise = Sunrise(date);
+        const Moment set = Sunset(date);
+        const std::pair<Moment, Moment> equals[] = {
+            {rise + 12 * DayTemporalHour(date), set},
+            {set + 12 * NightTemporalHour(date), Sunrise(date + 1)},
+            {SolarMidnight(date) + 6 * PreDawnTemporalHour(date), rise},
+            {rise + 6 * MorningTemporalHour(date), SolarMidday(date)},
+            {SolarMidday(date) + 6 * AfternoonTemporalHour(date), set},
+            {set + 6 * EveningTemporalHour(date), SolarMidnight(date + 1)},
+            {SundialToStandard(date, 0), (Sunset(date - 1) + rise) / 2},
+            {SundialToStandard(date, 6), rise},
+            {SundialToStandard(date, 12), (rise + set) / 2},
+            {SundialToStandard(date, 18), set},
+            {SundialToStandard(date, 24), SundialToStandard(date + 1, 0)},
+            {Sunrise(date + 0.7), rise},
+        };
+        for (const auto& [a, b] : equals) EXPECT_NEAR(a, b, 1e-8) << FixedToGregorianString(date);
+    }
+}
+
+/// What can be asked of a date, and the bounds of an answer other than `NeverMoment`: days from the date, days, or
+/// degrees. A Sun that passes its depression near midnight may move a search on by two days.
+struct Question {
+    const char* name;
+    double (*ask)(FixedDay);
+    double least, most;
+    bool isMoment = false;
+};
+
+constexpr Question questions[] = {
+    {"sunrise", [](FixedDay d) { return Sunrise(d); }, -2, 1, true},
+    {"sunset", [](FixedDay d) { return Sunset(d); }, 0, 3, true},
+    {"dawn", [](FixedDay d) { return Dawn(d, 18); }, -2, 1, true},
+    {"dusk", [](FixedDay d) { return Dusk(d, 18); }, 0, 3, true},
+    {"midday", [](FixedDay d) { return SolarMidday(d); }, 0.4, 0.6, true},
+    {"midnight", [](FixedDay d) { return SolarMidnight(d); }, -0.1, 0.1, true},
+    {"sundial 3", [](FixedDay d) { return SundialToStandard(d, 3); }, -2, 3, true},
+    {"sundial 12", [](FixedDay d) { return SundialToStandard(d, 12); }, -2, 3, true},
+    {"sundial 21", [](FixedDay d) { return SundialToStandard(d, 21); }, -2, 3, true},
+    {"day hour", DayTemporalHour, 0, 0.5},
+    {"night hour", NightTemporalHour, -0.5, 0.5},
+    {"morning hour", MorningTemporalHour, 0, 0.5},
+    {"afternoon hour", AfternoonTemporalHour, 0, 0.5},
+    {"evening hour", EveningTemporalHour, -0.5, 0.5},
+    {"hour before dawn", PreDawnTemporalHour, -0.5, 0.5},
+    {"rise azimuth", [](FixedDay d) { return RiseSetAzimuth(d, true, true); }, 0, 180},
+    {"set azimuth", [](FixedDay d) { return RiseSetAzimuth(d, true, false); }, 180, 360},
+};
+
+TEST(SunEvents, HappenOrNeverHappenAtThePoles) {
+    for (const double latitude : {65.0, 70.0, 82.0, 90.0, -68.0, -90.0}) {
+        const LocaleScope scope(PlaceAt(latitude, 0));
+        const FixedDay newYear = GregorianToFixed(2024, 1, 1);
+        for (const auto& [name, ask, least, most, isMoment] : questions) {
+            int happens = 0;
+            for (FixedDay date = newYear; date < newYear + 366; ++date) {
+                const double answer = ask(date);
+                if (answer == NeverMoment) continue;
+                ++happens;
+                const double x = isMoment ? answer - date : answer;
+                EXPECT_TRUE(x >= least && x <= most)
+                    << name << " of " << FixedToGregorianString(date) << " at " << latitude << ": " << x;
+            }
+            EXPECT_GT(happens, std::fabs(latitude) == 65 ? 150 : -1) << name;
+        }
+        EXPECT_EQ(Sunrise(GregorianToFixed(2024, 6, 21)) == NeverMoment, std::fabs(latitude) > 66) << latitude;
+    }
+}
+
+/// Refraction lifts the limb over the horizon of a Sun whose centre stays below it: a sunrise without its azimuth.
+TEST(SunEvents, HaveNoAzimuthWhereTheCentreStaysBelow) {
+    const LocaleScope scope(PlaceAt(67, 0));
+    const FixedDay solstice = GregorianToFixed(2024, 12, 21);
+    EXPECT_NEAR(Sunrise(solstice), solstice + 0.47, 0.01);
+    EXPECT_EQ(RiseSetAzimuth(solstice, false, true), NeverMoment);
+}
+
+/// Near the days on which the Sun only grazes a depression, guesses can run to and fro without end.
+TEST(SunEvents, AlwaysComeToAnEnd) {
+    {
+        const LocaleScope alert(PresetLocale("CFS Alert"));
+        const FixedDay date = GregorianToFixed(1963, 10, 15);
+        for (const Moment found : {Sunrise(date), Sunset(date)}) {
+            EXPECT_TRUE(found == NeverMoment || std::fabs(found - date - 0.5) < 1) << found;
+        }
+    }
+    std::mt19937_64 random(19631015);
+    std::uniform_real_distribution<double> latitudes(60, 90);
+    std::uniform_real_distribution<double> dates(MinFixedDay, MaxFixedDay);
+    std::uniform_real_distribution<double> depressions(-20, 20);
+    for (int i = 0; i < 3000; ++i) {
+        const LocaleScope scope(PlaceAt(latitudes(random) * (i % 2 == 0 ? 1 : -1), 0));
+        const FixedDay date = Floor(dates(random));
+        const double depression = depressions(random);
+        for (const bool morning : {true, false}) {
+            const Moment found = MomentOfDepression(date + 0.5, depression, morning);
+            EXPECT_TRUE(found == NeverMoment || std::fabs(found - date - 0.5) < 2)
+                << found - date << " for " << date << ", " << depression << " at " << Locale.Latitude;
+        }
+    }
+}
+
+}  // namespace
+}  // namespace horvanta

@@ -1,0 +1,213 @@
+#include "astro/sun.h"
+
+#include "astro/timescales.h"
+#include "calendars/gregorian.h"
+#include "core/numbering.h"
+#include "locale/locale.h"
+#include "locale/presets.h"
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <random>
+
+namespace horvanta {
+namespace {
+
+/// How far one angle is ahead of another, in [-180, 180).
+double Ahead(double degrees, double of) { return Modulo(degrees - of + 180, 360) - 180; }
+
+Moment TerrestrialDate(std::int32_t year, std::int32_t month, std::int32_t day) {
+    return TerrestrialToUniversal(GregorianToFixed(year, month, day));
+}
+
+/// Meeus, Astronomical Algorithms, examples 22.a and 25.b.
+TEST(Sun, AgreesWithPublishedExamples) {
+    const Moment april = TerrestrialDate(1987, 4, 10);
+    EXPECT_NEAR(Nutation(april) * 3600, -3.788, 0.001);
+    EXPECT_NEAR(Obliquity(april), DegMinSec(23, 26, 27.407), 1e-6);
+    const Moment october = TerrestrialDate(1992, 10, 13);
+    EXPECT_NEAR(SolarLongitude(october), 199.906, 0.001);
+    EXPECT_NEAR(SolarDeclination(october), -7.78382, 0.001);
+}
+
+/// Centuries of Terrestrial Time from J2000, and arc seconds by libnova 0.16 (ln_get_nutation), to which each of the
+/// series' terms counts.
+TEST(Sun, SharesItsNutationWithAnotherProgram) {
+    constexpr std::pair<double, double> rows[] = {
+        {-30, 2.8486}, {-10, -7.4925},    {-3, -3.5313},     {-1.2345, 3.1102}, {-0.4321, 14.1666}, {-0.1273, -3.7772},
+        {0, -13.9232}, {0.1111, 18.3140}, {0.2468, -1.8293}, {0.777, -14.5354}, {2.5, 9.1543},      {9, 1.5454},
+    };
+    for (const auto& [centuries, seconds] : rows) {
+        EXPECT_NEAR(Nutation(centuries, true) * 3600, seconds, 0.0001) << centuries;
+    }
+}
+
+/// Centuries of Terrestrial Time from J2000, and the apparent longitude of date by Astronomy Engine 2.1.19 (npm
+/// astronomy-engine; SunPosition at AstroTime.FromTerrestrialTime). Their precessions part with the square of time.
+TEST(Sun, KeepsItsLongitudeOverMillennia) {
+    constexpr std::pair<double, double> rows[] = {
+        {-50, 244.2333}, {-40, 251.3753},  {-30, 258.5538},   {-20, 265.7719}, {-10, 273.0396},    {-5.5, 276.3399},
+        {-2, 278.8996},  {-1.1, 279.5626}, {-0.31, 280.1473}, {0, 280.3679},   {0.2377, 195.9272}, {1.5, 281.4807},
+        {3, 282.5862},   {8, 286.2996},    {20, 295.3010},    {40, 310.5905},
+    };
+    for (const auto& [centuries, longitude] : rows) {
+        const double tolerance = 0.001 + 0.000015 * centuries * centuries;
+        EXPECT_NEAR(SolarLongitude(centuries, true, true), longitude, tolerance) << centuries;
+        const Moment universal = TerrestrialToUniversal(J2000 + centuries * 36525);
+        EXPECT_NEAR(SolarLongitude(universal), longitude, tolerance + 1e-4) << centuries;
+    }
+    const double revolutions = SolarLongitude(1.25, false, true) - SolarLongitude(0.25, false, true);
+    EXPECT_NEAR(revolutions, 36000.77, 0.2);
+}
+
+/// Day, hour and minute of Universal Time in March, June, September and December, by Astronomy Engine 2.1.19 (npm
+/// astronomy-engine; Seasons).
+TEST(Seasons, AgreeWithAnEphemeris) {
+    struct Row {
+        std::int32_t year;
+        std::int32_t ddhhmm[4];
+    };
+    constexpr Row rows[] = {{2000, {200735, 210148, 221728, 211338}}, {2001, {201331, 210738, 222305, 211922}},
+                            {2002, {201916, 211325, 230456, 220115}}, {2003, {210100, 211911, 231047, 220704}},
+                            {2004, {200648, 210057, 221630, 211242}}, {2005, {201234, 210646, 222223, 211835}},
+                            {2006, {201825, 211226, 230404, 220022}}, {2007, {210007, 211806, 230951, 220608}},
+                            {2008, {200548, 202359, 221545, 211204}}, {2009, {201144, 210546, 222119, 211747}},
+                            {2010, {201732, 211128, 230309, 212338}}, {2011, {202321, 211716, 230905, 220530}},
+                            {2012, {200514, 202308, 221449, 211112}}, {2013, {201102, 210504, 222044, 211711}},
+                            {2014, {201657, 211051, 230229, 212303}}, {2015, {202245, 211638, 230821, 220448}},
+                            {2016, {200430, 202234, 221421, 211044}}, {2017, {201029, 210424, 222002, 211628}},
+                            {2018, {201615, 211007, 230154, 212222}}, {2019, {202158, 211554, 230750, 220420}},
+                            {2020, {200350, 202144, 221331, 211003}}, {2021, {200937, 210332, 221921, 211559}},
+                            {2022, {201533, 210914, 230104, 212148}}, {2023, {202124, 211457, 230650, 220328}},
+                            {2024, {200306, 202051, 221244, 210920}}, {2025, {200901, 210242, 221820, 211503}},
+                            {2026, {201446, 210825, 230006, 212050}}, {2027, {202025, 211411, 230601, 220242}},
+                            {2028, {200217, 202002, 221145, 210820}}, {2029, {200802, 210148, 221738, 211414}},
+                            {2030, {201352, 210731, 222327, 212010}}};
+    for (const auto& [year, seasons] : rows) {
+        for (std::int32_t i = 0; i < 4; ++i) {
+            const std::int32_t t = seasons[i];
+            const Moment expected =
+                GregorianToFixed(year, 3 * i + 3, t / 10000) + t / 100 % 100 / 24.0 + t % 100 / 1440.0;
+            EXPECT_NEAR((SeasonMoment(year, 90 * i) - expected) * 1440, 0, 2)
+                << year << ", minutes at " << 90 * i << " degrees";
+        }
+    }
+}
+
+TEST(Seasons, FollowOneAnotherThroughAllYears) {
+    for (std::int32_t year = -3000; year <= 6000; year += 29) {
+        Moment before = SeasonMoment(year, -90);
+        EXPECT_EQ(before, SeasonMoment(year - 1, 90)) << year;
+        EXPECT_NEAR(SeasonMoment(year, -90, 0.75), before + 0.75, 1e-9) << year;
+        before = SeasonMoment(year, -270);
+        for (const double degrees : {0.0, 45.0, 90.0, 180.0, 270.0, 280.0}) {
+            const Moment season = SeasonMoment(year, degrees);
+            EXPECT_NEAR(Ahead(SolarLongitude(season), degrees), 0, 2e-5) << year << " at " << degrees;
+            EXPECT_GT(season, before) << year << " at " << degrees;
+            EXPECT_LT(season - before, 100) << year << " at " << degrees;
+            if (degrees < 270) {
+                EXPECT_EQ(FixedToGregorianYear(season), year) << degrees;
+            }
+            before = season;
+        }
+        EXPECT_NEAR(SeasonMoment(year + 1, 0) - SeasonMoment(year, 0), 365.2424, 0.03) << year;
+    }
+}
+
+/// The search without short cuts: halve ten days about the mean Sun's arrival, down to 0.00001 days.
+Moment PlainSearch(Moment t, double degrees) {
+    constexpr double daysPerDegree = 365.242189 / 360;
+    const Moment mean = t + daysPerDegree * Modulo(degrees - SolarLongitude(t), 360);
+    Moment a = std::max(t, mean - 5);
+    Moment b = mean + 5;
+    for (;;) {
+        const Moment x = (a + b) / 2;
+        if (b - a < 0.00001) return x;
+        (Modulo(SolarLongitude(x) - degrees, 360) < 180 ? b : a) = x;
+    }
+}
+
+/// Each bit counts: calendars compare such moments with their boundaries.
+TEST(SolarLongitudeAfter, EqualsThePlainSearch) {
+    std::mt19937_64 random(20240321);
+    std::uniform_real_distribution<double> days(MinFixedDay, MaxFixedDay);
+    std::uniform_real_distribution<double> circle(0, 360);
+    std::uniform_real_distribution<double> small(-0.05, 0.05);  // the mean Sun arrives within minutes of the Sun
+    int faults = 0;
+    for (int i = 0; i < 2500 && faults < 10; ++i) {
+        SetDeltaTDisabled(i % 5 == 0);
+        const Moment t = i % 3 == 0 ? std::floor(days(random)) : days(random);
+        const double asked[] = {circle(random), 90.0 * (i % 4), SolarLongitude(t), SolarLongitude(t) + small(random)};
+        const double degrees = asked[i % 4];
+        const Moment plain = PlainSearch(t, degrees);
+        const Moment found = SolarLongitudeAfter(t, degrees);
+        if (plain != found) {
+            ++faults;
+            ADD_FAILURE() << t << " to " << degrees << ": " << plain << " against " << found - plain << " more";
+        }
+    }
+}
+
+TEST(SolarLongitudeAfter, ComesWithinAYear) {
+    const Moment first = GregorianToFixed(-3000, 1, 1);
+    const Moment last = GregorianToFixed(6000, 1, 1);
+    double degrees = 0;
+    for (Moment t = first; t < last; t += 4001.377) {
+        degrees = Degrees(degrees + 77.7);
+        const Moment found = SolarLongitudeAfter(t, degrees);
+        EXPECT_NEAR(Ahead(SolarLongitude(found), degrees), 0, 2e-5) << t << " to " << degrees;
+        EXPECT_GE(found, t) << degrees;
+        EXPECT_LT(found, t + 366.3) << degrees;
+        EXPECT_NEAR(SolarLongitudeAfter(t, SolarLongitude(t)), t, 1e-5);
+
+        const Moment estimate = EstimateSolarLongitudeBefore(t, degrees);
+        EXPECT_NEAR(Ahead(SolarLongitude(estimate), degrees), 0, 0.15) << t << " to " << degrees;
+        EXPECT_LE(estimate, t) << degrees;
+        EXPECT_GT(estimate, t - 367.5) << degrees;
+    }
+}
+
+TEST(SameLongitudeYearsLater, FindsTheLongitudeNearTheTime) {
+    const std::pair<double, double> rows[] = {{1, 0},       {-1, 0},    {19, 0},      {-1000, 0}, {0.25, 90},
+                                              {-0.25, -90}, {2.5, 180}, {-2.5, -180}, {0.1, 36},  {-7.75, -270}};
+    for (Moment t = GregorianToFixed(-2000, 1, 1); t < GregorianToFixed(5000, 1, 1); t += 50023.3) {
+        for (const auto& [years, degrees] : rows) {
+            const Moment found = SameLongitudeYearsLater(t, years);
+            EXPECT_NEAR(Ahead(SolarLongitude(found) - SolarLongitude(t), degrees), 0, 3e-5) << t << ", " << years;
+            const double drift = 0.001 * std::fabs(years) + (years == std::round(years) ? 0.2 : 5);
+            EXPECT_NEAR(found - t, years * 365.2422, drift) << t << ", " << years;
+        }
+    }
+}
+
+/// What is remembered depends on Delta T, on the numbering and on nothing else.
+TEST(Sun, NeverAnswersFromAStaleMemo) {
+    using Question = double (*)(Moment);
+    const std::pair<const char*, Question> angles[] = {
+        {"longitude", [](Moment x) { return SolarLongitude(x); }},
+        {"nutation", [](Moment x) { return Nutation(x); }},
+        {"season", [](Moment x) { return SeasonMoment(FixedToGregorianYear(x), 0) - x; }},
+        {"equation of time", [](Moment x) { return EquationOfTime(x); }},
+    };
+    const double sinceEpoch = 700000.25;
+    const Moment x = GregorianEpoch + sinceEpoch;
+    const double slow = DeltaT(x, 86400);
+    for (const auto& [name, ask] : angles) {
+        const double before = ask(x);
+        SetDeltaTDisabled(true);
+        EXPECT_NE(ask(x), before) << name;
+        EXPECT_NEAR(ask(x + slow), before, 2e-5) << name;
+        SetDeltaTDisabled(false);
+        EXPECT_EQ(ask(x), before) << name;
+        for (const double day : {730487.0, -1721424.0}) {
+            SetFixedDayEpoch(day, 1, "test");
+            EXPECT_NE(ask(x), before) << name << ", " << day;
+            EXPECT_NEAR(ask(GregorianEpoch + sinceEpoch), before, 2e-5) << name << ", " << day;
+        }
+        SetFixedDayEpoch(GregorianEpoch, 1, "rata die");
+    }
+}
+
+}  // namespace
+}  // namespace horvanta
