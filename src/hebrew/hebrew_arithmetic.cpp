@@ -215,7 +215,8 @@ std::string_view HebrewMonthName(std::int32_t year, std::int32_t month) {
     return month == 12 && !isHebrewLeapYear19(year) ? Names().commonAdar : Names().months[month];
 }
 
-std::string_view WeekdayLabel(Moment x) { return Names().weekdays[DayOfWeek(x)]; }
+// Moments too large to tell days apart come to no weekday.
+std::string_view WeekdayLabel(Moment x) { return Names().weekdays[std::clamp(DayOfWeek(x), 0, 6)]; }
 
 std::string HebrewDateString(const HebrewDateRecord& date, bool withWeekday, bool italics, bool withYear) {
     const auto marked = [&](std::string_view name) {

@@ -4,6 +4,7 @@
 #include "core/numerics.h"
 #include "core/text.h"
 
+#include <algorithm>
 #include <cmath>
 #include <utility>
 
@@ -58,10 +59,10 @@ std::string CompassPoint(double degrees) {
     constexpr std::string_view clockwise = "EESSWWNN";
     constexpr std::string_view counterclockwise = "WNNEESSWW";
     const double direction = Degrees(degrees);
-    const auto octant = static_cast<std::size_t>(Round(direction / 45));
+    const auto octant = static_cast<std::size_t>(std::min(8.0, std::max(0.0, Round(direction / 45))));
     const double leftover = RoundToDigits(direction - 45.0 * static_cast<double>(octant), significantDigits);
     if (leftover == 0) return std::string("True ") + points[octant];
-    const char neighbour = leftover > 0 ? clockwise[octant] : counterclockwise[octant];
+    const char neighbour = leftover > 0 ? clockwise[octant % 8] : counterclockwise[octant];
     return GeneralText(std::fabs(leftover)) + "° " + neighbour + " of " + points[octant];
 }
 
