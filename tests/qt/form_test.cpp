@@ -53,10 +53,14 @@ struct Session {
         return frame().findChild<QMdiSubWindow*>(QString::fromStdString(form.name));
     }
 
-    /// A box that was closed leaves no window active for a while.
+    /// A box that was closed leaves no window active for a while, and a window manager that has just been started
+    /// forgets what it is asked.
     void AwaitActive() {
-        if (!frame().isActiveWindow()) frame().activateWindow();
-        if (!QTest::qWaitForWindowActive(&frame())) qWarning("the frame did not become active");
+        constexpr int patience = 100;  // milliseconds
+        for (int tries = 0; tries < 50 && !QTest::qWaitForWindowActive(&frame(), patience); ++tries) {
+            frame().activateWindow();
+        }
+        if (!frame().isActiveWindow()) qWarning("the frame did not become active");
     }
 
     void Press(Qt::Key key, Qt::KeyboardModifiers held = Qt::NoModifier) {
