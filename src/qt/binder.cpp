@@ -182,6 +182,7 @@ void Binder::Connect(const Bound& bound) {
     if (auto* button = qobject_cast<QAbstractButton*>(bound.widget)) {
         connect(button, &QAbstractButton::clicked, this, [this, control] { Clicked(*control); });
     }
+    if (auto* box = qobject_cast<QCheckBox*>(bound.widget)) box->setBackgroundRole(QPalette::Window);
     if (auto* bar = qobject_cast<PanelBar*>(bound.widget)) {
         auto* panels = static_cast<StatusBar*>(control);
         if (panels->PanelClick) bar->setCursor(Qt::PointingHandCursor);
