@@ -33,10 +33,10 @@ widgets() {
 counts=()
 for form in src/qt/forms/*.ui; do counts+=("$(widgets "$form")"); done
 
-# Microseconds that a command takes.
+# Microseconds that a command takes; no number if it fails.
 time_of() {
     local from=$EPOCHREALTIME
-    "$@" >/dev/null 2>&1
+    "$@" >/dev/null || return
     local to=$EPOCHREALTIME
     echo $((${to/[.,]/} - ${from/[.,]/}))
 }

@@ -55,12 +55,12 @@ class TimeFields {
 
     // clang-format off
     Form& form;
-    StatusBar DawnDuskLegends{form, "DawnDuskLegends", Widest("Prior Sunset")};
+    StatusBar DawnDuskLegends{form, "DawnDuskLegends", Tip("What the times below are"), Widest("Prior Sunset")};
     StatusBar DawnDusk{form, "DawnDusk", Tip("Sunrise and sunset of the displayed day"), Widest("Prior Sunset")};
     Button JD_MJD_Toggle{form, "JD_MJD_Toggle", Widest("Mod Jul Day")};
     Label JD_MJD{form, "JD_MJD", Widest("-1721425.12345679")};
     Button Orbital_RAY_Toggle{form, "Orbital_RAY_Toggle", Widest("Orbital Date")};
-    Label Orbital_RAY_Date{form, "Orbital_RAY_Date", Widest("-1721.12345678912")};
+    Label Orbital_RAY_Date{form, "Orbital_RAY_Date", Widest("-0.123456789123456")};
     Label SunDecLabel{form, "SunDecLabel", Caption("Declination")};
     Label SunDeclination{form, "SunDeclination", Tip("Solar declination"), Widest("23.4° N")};
     Label SunLongLabel{form, "SunLongLabel", Caption("Solar Longitude")};
@@ -68,7 +68,7 @@ class TimeFields {
     CheckBox UseDeltaT{form, "UseDeltaT", Caption("DeltaT"), Tip("Take account of the slowing of the Earth's rotation")};
     Label DeltaTdisp{form, "DeltaTdisp", Tip("Delta T = Terrestrial Time – Universal Time, in seconds"), Widest("-195700.5")};
     Label EoT_Label{form, "EoT_Label", Caption("Equation of Time")};
-    Label EoT{form, "EoT", Tip("Equation of Time = apparent – mean solar time, in minutes"), Widest("+16.1234567891234")};
+    Label EoT{form, "EoT", Tip("Equation of Time = apparent – mean solar time, in minutes"), Widest("+0.00123456789123456")};
     CheckBox UseElevation{form, "UseElevation", Caption("Elevation"), Tip("Let the elevation lower the horizon")};
     CheckBox AdjustDST{form, "AdjustDST", Caption("Enable Daylight Saving Time")};
     CheckBox ShowDawnDusk{form, "ShowDawnDusk", Caption("Display Sunrise, Sunset ...")};

@@ -5,14 +5,29 @@
 #include <QColorDialog>
 #include <QDateTime>
 #include <QDesktopServices>
+#include <QFontMetrics>
+#include <QGridLayout>
 #include <QInputDialog>
 #include <QMessageBox>
 #include <QUrl>
+
+#include <algorithm>
 
 namespace horvanta {
 namespace {
 
 std::uint8_t Channel(int value) { return static_cast<std::uint8_t>(value); }
+
+/// Gives a box the width of the lines of its text, up to what the eye can follow; by itself it breaks them early.
+void MakeRoomForLines(QMessageBox& box) {
+    constexpr int readable = 110;  // characters in a line
+    constexpr int icons = 12;      // as many beside the text
+    const QFontMetrics metrics = box.fontMetrics();
+    const int text = std::min(metrics.size(0, box.text()).width(), readable * metrics.averageCharWidth());
+    auto* grid = static_cast<QGridLayout*>(box.layout());
+    grid->addItem(new QSpacerItem(text + icons * metrics.averageCharWidth(), 0), grid->rowCount(), 0, 1,
+                  grid->columnCount());
+}
 
 /// A box with a text that can be selected, as it is, whatever signs it holds.
 int ShowBox(QMessageBox::Icon icon, std::string_view message, std::string_view title,
@@ -21,6 +36,7 @@ int ShowBox(QMessageBox::Icon icon, std::string_view message, std::string_view t
     box.setTextFormat(Qt::PlainText);
     box.setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
     box.setDefaultButton(buttons.testFlag(QMessageBox::Yes) ? QMessageBox::Yes : QMessageBox::Ok);
+    MakeRoomForLines(box);
     return box.exec();
 }
 
