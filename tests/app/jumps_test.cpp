@@ -1,0 +1,158 @@
+#include "app/jumps.h"
+
+#include "app/event_searches.h"
+#include "app/options.h"
+#include "astro/timescales.h"
+#include "core/moment.h"
+#include "core/text.h"
+#include "desk.h"
+
+#include <gtest/gtest.h>
+
+#include <set>
+#include <tuple>
+
+namespace horvanta {
+namespace {
+
+/// Each search is strict, steps from event to event, and comes back the way it went, also from a moment just beside an
+/// event.
+TEST(Events, AreWalkedThereAndBack) {
+    constexpr std::pair<const char*, double> rows[] = {
+        {"Rotation-Adjusted New Year", 365.2425}, {"&Mean Orbital New Year", 365.2422},
+        {"&Besselian New Year", 365.2422},        {"&Solar Event", 91.3},
+        {"Northward Equinox", 365.2424},          {"North Solstice", 365.2416},
+        {"Southward Equinox", 365.242},           {"South Solstice", 365.2427},
+        {"Mean Peri&helion", 365.2596},           {"Mean &Aphelion", 365.2596}};
+    for (const auto& [caption, days] : rows) {
+        const EventSearch& search = *FindEventSearch(caption);
+        for (const Moment start : {-2'000'000.3, 700'000.0, 739'000.0, 4'000'000.7}) {
+            const Moment first = search.after(start);
+            EXPECT_GT(first, start) << caption;
+            EXPECT_NEAR(search.after(first - 0.01), first, 0.002) << caption << start;
+            Moment x = first;
+            for (int i = 0; i < 100; ++i) x = search.after(x);
+            EXPECT_NEAR(x - first, 100 * days, 3) << caption << start;
+            for (int i = 0; i < 100; ++i) x = search.before(x);
+            EXPECT_NEAR(x, first, 0.002) << caption << start;
+            EXPECT_LT(search.before(start), start) << caption;
+        }
+    }
+}
+
+/// Perihelion of the mean orbit, by the Earth's mean longitude of perihelion (Meeus, Astronomical Algorithms, table
+/// 31.A), comes within days of the true one.
+TEST(Events, FindThePerihelion) {
+    const Moment found = FindEventSearch("Mean Peri&helion")->after(GregorianToFixed(2024, 1, 1));
+    EXPECT_NEAR(found, GregorianToFixed(2024, 1, 3), 2);
+    EXPECT_NEAR(ModuloRange(MeanSolarAnomaly(found), -180, 180), 0, 1e-6);
+    EXPECT_NEAR(FindEventSearch("Mean &Aphelion")->after(found) - found, 182.63, 0.01);
+}
+
+TEST(Again, RepeatsTheLastEvent) {
+    Desk desk;
+    EXPECT_EQ(desk.Obey("menu JumpAgain"), "error: not enabled: JumpAgain");
+    desk.Obey("menu NextMenu 24");
+    EXPECT_EQ(desk.program.frame.JumpAgain.caption, "Again (Next Northward Equinox)");
+    const Moment first = DisplayedMoment;
+    EXPECT_EQ(FixedToGregorianString(first), "Wednesday, March 20, 2024");
+    desk.Obey("click TimeAstro.JumpAgainButton");
+    EXPECT_EQ(FixedToGregorianString(DisplayedMoment), "Thursday, March 20, 2025");
+    desk.Obey("menu PrevMenu 24");
+    EXPECT_EQ(desk.program.timeAstro.JumpAgainButton.tooltip,
+              "Again invoke the \"Previous Northward Equinox\" command");
+    EXPECT_NEAR(DisplayedMoment, first, 1e-4);
+    EXPECT_EQ(desk.Obey("menu NextMenu 2"), "error: no such menu item: NextMenu 2");
+}
+
+TEST(Numbering, KeepsEveryDate) {
+    struct Row {
+        std::int32_t index;
+        const char* dayOne;
+        double epochValue;
+    };
+    constexpr Row rows[] = {
+        {1, "Thursday, July 4, 2024", 1},      {2, "Monday, January 1, 1", 1},
+        {3, "Sunday, December 31, 1899", 61},  {4, "Monday, January 1, 2001", 1},
+        {5, "Monday, January 1, 1968", 1},     {6, "Tuesday, November 25, -4713", 0.5},
+        {7, "Thursday, November 18, 1858", 0}, {8, "Saturday, May 25, 1968", 0},
+        {9, "Monday, January 1, 1601", 1},     {10, "Friday, March 22, 622", 1},
+        {11, "Monday, February 18, -2696", 1}, {12, "Monday, September 7, -3760", 1},
+    };
+    for (const auto& [index, dayOne, epochValue] : rows) {
+        Desk desk;
+        desk.Obey("set DisplayedMoment " + ExactText(GregorianToFixed(2024, 7, 4) + 0.375));
+        desk.Obey("menu SetEpochOptMenu " + std::to_string(index));
+        EXPECT_EQ(FixedToGregorianString(1), dayOne);
+        EXPECT_EQ(desk.program.gregorian.GregorianDate.text, "Thursday, July 4, 2024 ");
+        EXPECT_EQ(desk.program.timeAstro.TimeOfDay.text, "09:00:00");
+        EXPECT_EQ(FixedToGregorianString(SavedMoment), "Monday, January 15, 2024");
+        EXPECT_EQ(DayOfWeek(DisplayedMoment), 4);
+        EXPECT_TRUE(desk.program.frame.SetEpochOptMenu[static_cast<std::size_t>(index)].isTicked());
+        EXPECT_EQ(MomentToMJD(DisplayedMoment), 60495.375);
+        const double mjd = MomentToMJD(DisplayedMoment);
+        EXPECT_TRUE(index != 6 || DisplayedMoment == MomentToJD(DisplayedMoment) + 0.5);
+        EXPECT_TRUE(index != 7 || DisplayedMoment == mjd);
+        EXPECT_TRUE(index != 8 || DisplayedMoment == mjd - 40000);
+        desk.Obey("menu SetEpochOptMenu 4");
+        EXPECT_EQ(DisplayedMoment, 8586.375);
+        desk.Obey("menu SetEpochOptMenu " + std::to_string(index));
+        desk.Obey("menu FixedDayEpoch");
+        EXPECT_EQ(DisplayedMoment, epochValue);
+        EXPECT_TRUE(desk.desktop.asked.empty());
+    }
+}
+
+TEST(JumpBy, TakesNumbersAndNothingElse) {
+    constexpr std::tuple<const char*, const char*, double, const char*> rows[] = {
+        {"1", "answer text 2.5", 1002.5, ""},
+        {"2", "answer text —3", 979, ""},
+        {"1", "answer text 1e9", 3652060, "beep"},
+        {"1", "answer text two", 1000, ""},
+        {"1", "answer text", 1000, ""},
+        {"1", "answer cancel", 1000, ""},
+        {"1", "answer text 0", 1000, ""},
+        {"5", "answer text 0.1", 1365.2, ""}};
+    Desk desk;
+    for (const auto& [step, answer, moment, beep] : rows) {
+        desk.Obey(std::string("menu StepMenu ") + step);
+        desk.Obey("set DisplayedMoment 1000");
+        desk.Obey(answer);
+        desk.Obey("click TimeAstro.IncrementDisplay");
+        EXPECT_NEAR(DisplayedMoment, moment, 0.1) << answer;
+        EXPECT_EQ(desk.Obey("asked").find("beep") != std::string::npos, *beep != 0) << answer;
+    }
+    EXPECT_EQ(desk.program.frame.JumpBy.caption, "Jump By Solar Decades...");
+}
+
+TEST(Colors, AreChangedFromTheMenuAndUndone) {
+    Desk desk;
+    const Control& date = desk.program.gregorian.GregorianDate;
+    const ColorPair before = *date.colors;
+    EXPECT_EQ(desk.Obey("menu UndoLastColorChange"), "error: not enabled: UndoLastColorChange");
+    desk.Obey("focus Gregorian.InfoGreg");
+    desk.Obey("answer color 255");
+    desk.Obey("menu PickForeColor");
+    EXPECT_EQ(date.colors->foreground.Number(), 255);
+    EXPECT_EQ(desk.program.timeAstro.TimeOfDay.colors->foreground.Number(), 0);
+    desk.Obey("menu UndoLastColorChange");
+    EXPECT_EQ(date.colors, before);
+    desk.Obey("menu UndoLastColorChange");
+    EXPECT_EQ(date.colors->foreground.Number(), 255);
+}
+
+TEST(Menus, AreReachedByKeysOfTheirOwn) {
+    Desk desk;
+    std::set<char> keys;
+    for (const MenuItem* menu : desk.program.frame.menuBar.items) {
+        if (!menu->isShown()) continue;
+        const std::size_t mark = menu->caption.find('&');
+        ASSERT_NE(mark, std::string::npos) << menu->caption;
+        EXPECT_TRUE(keys.insert(menu->caption[mark + 1] | 0x20).second) << menu->caption;
+    }
+    desk.Obey("menu MenuJumpToNow");
+    EXPECT_EQ(desk.program.timeAstro.TimeOfDay.text, "10:30:00");
+}
+
+}  // namespace
+}  // namespace horvanta
