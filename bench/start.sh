@@ -16,7 +16,8 @@ rounds=${2:-21}
 atMost=1.5
 panelsOfABar=9
 
-settings=$(mktemp -d)
+# Kept in memory, so that what else the disk is busy with does not count.
+settings=$(mktemp -d -p /dev/shm 2>/dev/null || mktemp -d)
 trap 'rm -rf "$settings"' EXIT
 export XDG_CONFIG_HOME=$settings XDG_RUNTIME_DIR=$settings QT_QPA_PLATFORM=xcb HORVANTA_END_AFTER=paint
 

@@ -53,14 +53,13 @@ void PanelBar::Draw(const StatusBar& bar) {
 }
 
 void PanelBar::KeepRoom(const QString& widest) {
-    QLabel sample(widest);
-    sample.setTextFormat(Qt::PlainText);
-    for (QLabel* panel : panels_) {
-        sample.setFont(panel->font());
-        sample.setFrameStyle(panel->frameStyle());
-        sample.setMargin(padding);
-        panel->setMinimumWidth(sample.sizeHint().width());
-    }
+    if (panels_.empty()) return;
+    QLabel& sample = *panels_.front();
+    const QString shown = sample.text();
+    sample.setText(widest);
+    const int width = sample.sizeHint().width();
+    sample.setText(shown);
+    for (QLabel* panel : panels_) panel->setMinimumWidth(width);
     layout()->activate();  // tells the layout around the bar at once
 }
 
