@@ -2,6 +2,7 @@
 
 #include "core/desktop.h"
 #include "core/moment.h"
+#include "core/text.h"
 #include "locale/locale_text.h"
 #include "locale/presets.h"
 
@@ -68,11 +69,12 @@ void Places::UserLoc_Click(std::size_t slot) { SelectLocale(frame_.UserLoc[slot]
 
 void Places::MapLocale_Click() {
     const std::string link = MapLink(Locale, false);
-    if (link.empty()) {
-        CurrentDesktop->Beep();
-    } else {
+    if (!link.empty()) {
         CurrentDesktop->OpenWithShell(link);
+        return;
     }
+    const std::string server = RemoveAmpersands(frame_.MapServer[static_cast<std::size_t>(MapIndex)].caption);
+    CurrentDesktop->Tell("No form of link to " + server + " is known. Choose another map server.", "Map Server");
 }
 
 }  // namespace horvanta

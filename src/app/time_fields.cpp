@@ -1,5 +1,6 @@
 #include "app/time_fields.h"
 
+#include "app/event_searches.h"
 #include "astro/sun.h"
 #include "astro/sun_events.h"
 #include "astro/timescales.h"
@@ -14,6 +15,7 @@
 #include <cmath>
 #include <functional>
 #include <iterator>
+#include <utility>
 
 namespace horvanta {
 namespace {
@@ -39,6 +41,9 @@ constexpr SolarEvent solarEvents[] = {
     {0, "Northward Equinox"}, {90, "North Solstice"},      {180, "Southward Equinox"},
     {270, "South Solstice"},  {280, "Besselian New Year"},
 };
+
+/// The ends of the mean orbit: the search for each, and its word.
+constexpr std::pair<std::string_view, const char*> apsides[] = {{"Mean Peri&helion", "Peri"}, {"Mean &Aphelion", "Ap"}};
 
 constexpr std::string_view deltaTWarning =
     "WARNING:  Delta T corrections switched OFF.\n"
@@ -191,6 +196,11 @@ void TimeFields::PostSolarEvents(Moment universal) {
         const Moment moment = SolarLongitudeAfter(start, event.longitude);
         if (Floor(moment) != Floor(universal)) continue;
         AstronomyEvent(moment, std::string(event.name) + " (Solar Longitude " + GeneralText(event.longitude) + "°)");
+    }
+    for (const auto& [caption, word] : apsides) {
+        const Moment moment = FindEventSearch(caption)->after(Floor(universal) - 1);
+        if (Floor(moment) != Floor(universal)) continue;
+        AstronomyEvent(moment, std::string("Mean ") + word + "helion of Earth-Moon Barycenter");
     }
 }
 

@@ -181,6 +181,7 @@ class Form {
     const std::string name;
     std::string text;  ///< The caption.
     bool visible = false;
+    bool placed = false;             ///< The user chose where it stands; the desktop may fit others into its frame.
     Place place;                     ///< The desktop reports the size, and where the user moved the window.
     std::vector<Control*> controls;  ///< In the order of their construction.
     Control* focusWish = nullptr;    ///< Gets the focus, and its form is raised, when the desktop draws next.

@@ -55,6 +55,7 @@ void SaveWindowPrefs(const Form& window, bool checked) {
 void LoadWindowPrefs(Form& window, bool& check, double top, double left, bool checked) {
     window.place.top = GetDoublePref(ProgramSettings, window.name, "Top", top);
     window.place.left = GetDoublePref(ProgramSettings, window.name, "Left", left);
+    window.placed = window.place.top != top || window.place.left != left;
     check = GetBoolPref(ProgramSettings, window.name, "Chk", checked);
 }
 

@@ -102,18 +102,38 @@ std::string Pair(const LocaleRecord& place, const char* between) {
     return GeneralText(place.Latitude) + between + GeneralText(place.Longitude);
 }
 
-std::string FirstQuery(const LocaleRecord& place) { return "?center=" + Pair(place, ",") + "&zoom=9&q=" + place.Name; }
+/// Text as a part of an address: whatever has a meaning there, or is no plain letter, as its bytes in hexadecimal.
+std::string PercentEncoded(std::string_view text) {
+    constexpr std::string_view digits = "0123456789ABCDEF";
+    constexpr std::string_view plainMarks = "-._~";
+    std::string encoded;
+    for (const char c : text) {
+        const auto byte = static_cast<unsigned char>(c);
+        const bool letter = (byte >= '0' && byte <= '9') || ((byte | 0x20) >= 'a' && (byte | 0x20) <= 'z');
+        if (letter || plainMarks.find(c) != std::string_view::npos) {
+            encoded += c;
+        } else {
+            encoded += {'%', digits[byte >> 4], digits[byte & 15]};
+        }
+    }
+    return encoded;
+}
+
+std::string FirstQuery(const LocaleRecord& place) {
+    return "?center=" + Pair(place, ",") + "&zoom=9&q=" + PercentEncoded(place.Name);
+}
 
 std::string SecondQuery(const LocaleRecord& place) {
     return "?ll=" + Pair(place, ",") + "&spn=10,10&t=k&q=" + Pair(place, ",");
 }
 
 std::string ThirdQuery(const LocaleRecord& place) {
-    return "?v=2&cp=" + Pair(place, "~") + "&lvl=12&style=r&sp=an." + Pair(place, "_") + "_" + place.Name + "_";
+    return "?v=2&cp=" + Pair(place, "~") + "&lvl=12&style=r&sp=an." + Pair(place, "_") + "_" +
+           PercentEncoded(place.Name) + "_";
 }
 
 std::string FourthQuery(const LocaleRecord& place) {
-    return "?pagename=" + place.Name + "&params=" + GeneralText(std::fabs(place.Latitude)) + "_" +
+    return "?pagename=" + PercentEncoded(place.Name) + "&params=" + GeneralText(std::fabs(place.Latitude)) + "_" +
            (place.North ? "N" : "S") + "_" + GeneralText(std::fabs(place.Longitude)) + "_" + (place.East ? "E" : "W");
 }
 
@@ -129,7 +149,7 @@ constexpr WebMap webMaps[] = {
 std::string MapLink(const LocaleRecord& place, bool html) {
     if (MapIndex < 1 || MapIndex > static_cast<std::int32_t>(std::size(webMaps))) return "";
     const WebMap& map = webMaps[MapIndex - 1];
-    const std::string url = ReplaceAll("http://" + std::string(map.host) + map.query(place), " ", "%20");
+    const std::string url = "http://" + std::string(map.host) + map.query(place);
     if (!html) return url;
     const std::string location = ReplaceAll(place.Location, "&", "&amp;");
     return "<a title=\"Click to see &quot;" + std::string(map.caption) + "&quot; map of &quot;" + location +

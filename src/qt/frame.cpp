@@ -150,7 +150,7 @@ void Frame::DrawPlace(Child& child) {
     QRect wished = window.geometry();
     wished.moveTo(Pixels(place.left, reach - window.width(), room.width() - reach),
                   Pixels(place.top, 0, room.height() - reach));
-    if (!child.moved && wished.right() >= room.width()) wished.moveTo(0, FreeTop(child, wished));
+    if (!child.form->placed && wished.right() >= room.width()) wished.moveTo(0, FreeTop(child, wished));
     if (window.pos() != wished.topLeft()) window.move(wished.topLeft());
 }
 
@@ -219,7 +219,7 @@ bool Frame::eventFilter(QObject* watched, QEvent* event) {
             return true;
         case QEvent::Move:
             if (!drawing_) {
-                child->moved = true;
+                child->form->placed = true;
                 child->form->place.left = Twips(child->window->x());
                 child->form->place.top = Twips(child->window->y());
             }

@@ -46,8 +46,7 @@ class Frame final : public QMainWindow, public Acts {
         Form* form;
         QMdiSubWindow* window;
         std::unique_ptr<Binder> binder;
-        int wanted = 0;      ///< The height that its controls asked for when it was drawn last, in pixels.
-        bool moved = false;  ///< By the user.
+        int wanted = 0;  ///< The height that its controls asked for when it was drawn last, in pixels.
     };
 
     void Run(const std::function<void()>& act) override;

@@ -5,6 +5,7 @@
 #include <QColorDialog>
 #include <QDateTime>
 #include <QDesktopServices>
+#include <QDir>
 #include <QFontMetrics>
 #include <QGridLayout>
 #include <QInputDialog>
@@ -75,9 +76,13 @@ void QtDesktop::Tell(std::string_view message, std::string_view title) {
     ShowBox(QMessageBox::Information, message, title, QMessageBox::Ok, frame_.get());
 }
 
-/// What is escaped in an address stays so.
+/// What is escaped in an address stays so. The opener works in the folder that `SystemDrive` names, if it names one.
 void QtDesktop::OpenWithShell(const std::string& path) {
+    const QString before = QDir::currentPath();
+    const QString drive = qEnvironmentVariable("SystemDrive");
+    if (!drive.isEmpty()) QDir::setCurrent(drive);
     if (!QDesktopServices::openUrl(QUrl::fromUserInput(QString::fromStdString(path)))) Beep();
+    QDir::setCurrent(before);
 }
 
 std::optional<Color> QtDesktop::ChooseColor(Color present) {

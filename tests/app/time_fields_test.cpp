@@ -142,6 +142,7 @@ TEST_F(TimeFieldsTest, PostTheSolarEventsOfTheWholeDay) {
         {GregorianToFixed(2024, 9, 22), "12:43 Southward Equinox (Solar Longitude 180°)"},
         {GregorianToFixed(2024, 12, 21), "09:19 South Solstice (Solar Longitude 270°)"},
         {GregorianToFixed(2024, 12, 30), ""},
+        {GregorianToFixed(2024, 1, 4), "05:41 Mean Perihelion of Earth-Moon Barycenter"},
         {GregorianToFixed(2023, 12, 31) + 0.9,
          "22:58 Mean Orbital New Year;23:04:25 UT Besselian New Year (Solar Longitude 280°)"},
     };

@@ -90,6 +90,10 @@ TEST(Locale, IsToldInWords) {
 
 TEST(Locale, IsFoundOnMaps) {
     const LocaleRecord place = MakeLocale("Old Town", "Old Town & Port", -1.5, 2.25, 0);
+    MapIndex = 2;
+    EXPECT_TRUE(MapLink(place, false).ends_with("?ll=-1.5,2.25&spn=10,10&t=k&q=-1.5,2.25"));
+    MapIndex = 3;
+    EXPECT_TRUE(MapLink(MakeLocale("A&B#é", "", 1, 2, 0), false).ends_with("an.1_2_A%26B%23%C3%A9_"));
     MapIndex = 4;
     EXPECT_TRUE(MapLink(place, false).ends_with("?pagename=Old%20Town&params=1.5_S_2.25_E")) << MapLink(place, false);
     MapIndex = 1;
@@ -122,6 +126,10 @@ TEST(LocaleMenu, MovesWithAReport) {
     desk.Obey("asked");
     desk.Obey("menu MapLocale");
     EXPECT_EQ(desk.Obey("asked").substr(0, 13), "open \"http://");
+    desk.Obey("menu MapServer 7");
+    desk.Obey("menu MapLocale");
+    EXPECT_EQ(desk.Obey("asked"),
+              "box \"Map Server\" \"No form of link to GeaBios is known. Choose another map server.\"");
 }
 
 }  // namespace
