@@ -71,11 +71,13 @@ UserLocalesWindow::UserLocalesWindow(HorvantaMDI& frame)
     ShowSlot(1);
 }
 
+/// What no field uses does not go on to the time window: nobody who edits a place means to move the date.
 void UserLocalesWindow::HangHandlers() {
     form.KeyDown = [this](int code, int) {
         if (code == KeyEscape) CancelLoc_Click();
-        return code == KeyEscape;
+        return code == KeyEscape || code == KeyPageUp || code == KeyPageDown;
     };
+    LocName.KeyDown = [](int code, int) { return code == KeyUp || code == KeyCode::KeyDown; };
     LatHemi.Click = [this] { south_ = !south_, ShowHemispheres(); };
     LongHemi.Click = [this] { west_ = !west_, ShowHemispheres(); };
     LatLabel.Click = [this] { AskAngle(LatLabel, LatitudeFields, south_); };

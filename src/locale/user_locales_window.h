@@ -74,7 +74,7 @@ class UserLocalesWindow {
     UpDown LongSecUpDown{form, "LongSecUpDown", Tip(secondKeys), Named("Longitude, seconds")};
     Button LongHemi{form, "LongHemi", Caption("East"), Tip("Click this button to toggle the hemisphere (East or West)"), Widest("North")};
     GroupBox ElevationFrame{form, "ElevationFrame", Caption("Ele&vation"), Tip("Click frame to clear Elevation")};
-    TextField Elevation{form, "Elevation", Tip("Above sea level. Change using up/down arrow or up/down page keys, Ctrl for hundreds"), Widest("-12345.67"), Named("Elevation")};
+    TextField Elevation{form, "Elevation", Tip("Above sea level. Change using up/down arrow or up/down page keys, Ctrl for hundreds"), Widest("-12345.6789"), Named("Elevation")};
     UpDown ElevScroll{form, "ElevScroll", Caption("1"), Tip("Change Elevation by one")};
     UpDown ElevScroll10{form, "ElevScroll10", Caption("10"), Tip("Change Elevation by 10")};
     UpDown ElevScroll100{form, "ElevScroll100", Caption("100"), Tip("Change Elevation by 100")};

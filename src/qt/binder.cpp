@@ -281,6 +281,7 @@ bool Binder::eventFilter(QObject* watched, QEvent* event) {
     Control* control = ControlOf(watched);
     switch (event->type()) {
         case QEvent::KeyPress: return KeyActed(watched, static_cast<QKeyEvent&>(*event));
+        case QEvent::Shortcut: return BoxCalled(watched);
         case QEvent::MouseButtonDblClick:
             if (control) doubleClicked_ = watched;
             return false;
@@ -295,6 +296,14 @@ bool Binder::eventFilter(QObject* watched, QEvent* event) {
             return false;
         default: return false;
     }
+}
+
+/// The access key of a group box leads to its field, where the toolkit would prefer a chosen option.
+bool Binder::BoxCalled(QObject* watched) {
+    const auto* box = qobject_cast<const QGroupBox*>(watched);
+    auto* field = box ? box->findChild<QLineEdit*>() : nullptr;
+    if (field) field->setFocus(Qt::ShortcutFocusReason);
+    return field != nullptr;
 }
 
 /// Labels and group boxes have no signals of their own. The release that ends a double click is not another click.
