@@ -49,21 +49,54 @@ form_tests_on_a_display() {
         build/release/tests/horvanta_form_tests
 }
 
-# What an installation holds, by the tools made for it.
+# Starts an installed program without a display, and on one for its picture, with settings of its own.
+runs() {
+    local home=build/package/home
+    rm -rf "$home" && mkdir -p -m 700 "$home"
+    [[ $(env -u DISPLAY "$1" --version) = 'Horvanta '* ]]
+    env -u DISPLAY "$1" --nonsense 2>/dev/null && return 1 || [ $? -eq 2 ]
+    on_virtual_display env XDG_CONFIG_HOME="$PWD/$home" XDG_RUNTIME_DIR="$PWD/$home" QT_QPA_PLATFORM=xcb \
+        HORVANTA_SCREENSHOT="$home/picture.png" "$1"
+    [ -s "$home/picture.png" ]
+    grep -q '^Launch=OK' "$home/Horvanta/Horvanta.ini"
+}
+
+# The Debian package, and what it holds, by the tools made for it. Where that needs no password, it is also installed
+# and removed, unless the machine has one already.
 packaging_checks() {
     heading 'Packaging'
-    rm -rf build/staged
-    cmake --install build/release --prefix build/staged >/dev/null
-    [ -x build/staged/bin/horvanta ]
-    desktop-file-validate build/staged/share/applications/*.desktop
-    appstreamcli validate --no-net build/staged/share/metainfo/*.xml
+    rm -rf build/package
+    cpack --preset release >/dev/null
+    local deb=$(echo build/package/*.deb) tree=build/package/tree root=() file complaints
+    lintian --allow-root --fail-on error,warning --suppress-tags initial-upload-closes-no-bugs "$deb" # for Debian's own
+    dpkg-deb -x "$deb" "$tree"
+    desktop-file-validate "$tree"/usr/share/applications/*.desktop
+    appstreamcli validate --no-net "$tree"/usr/share/metainfo/*.xml
+    complaints=$(man --warnings -E UTF-8 -l -Tutf8 -Z "$tree"/usr/share/man/man1/horvanta.1.gz 2>&1 >/dev/null)
+    [ -z "$complaints" ] || { echo "$complaints" >&2; return 1; }
+    runs "$tree/usr/bin/horvanta"
+
+    [ "$(id -u)" -eq 0 ] || root=(sudo -n)
+    if ! "${root[@]}" true 2>/dev/null || dpkg-query -W horvanta >/dev/null 2>&1; then
+        echo 'The package is not installed for a test.'
+        return
+    fi
+    trap "${root[*]} apt-get remove -y -qq horvanta >/dev/null" EXIT # whatever fails below
+    "${root[@]}" apt-get install -y -qq --no-install-recommends "./$deb" >/dev/null
+    runs /usr/bin/horvanta
+    "${root[@]}" apt-get remove -y -qq horvanta >/dev/null
+    trap - EXIT
+    for file in $(cd "$tree" && find . -type f); do
+        [ ! -e "/$file" ] || { echo "$file is left" >&2; return 1; }
+    done
 }
 
 need "${build_packages[@]}"
 case "${1:-quick}" in
     quick) quick_tests ;;
     all)
-        need "${display_packages[@]}" appstream clang-format desktop-file-utils locales openbox tzdata
+        need "${display_packages[@]}" appstream clang-format desktop-file-utils dpkg-dev file \
+            lintian locales man-db openbox tzdata
         format_check
         quick_tests
         sanitized_tests

@@ -98,7 +98,7 @@ void Horvanta::SavePreferences_Click() {
 void Horvanta::MenuAbout_Click() {
     CurrentDesktop->Tell("Horvanta " HORVANTA_VERSION
                          "\n\nOne moment, shown in many calendars, with the Sun over any place on Earth.\n\n"
-                         "The arithmetic follows published calendar and astronomy algorithms, among them those of\n"
+                         "The arithmetic follows published calendar and astronomy algorithms, among them those of "
                          "Reingold and Dershowitz, Meeus, Bretagnon and Simon, and Espenak.\n\n"
                          "Free software under the MIT licence.",
                          "About Horvanta");

@@ -46,8 +46,8 @@ Control* Form::Find(std::string_view controlName) const {
     return found == controls.end() ? nullptr : *found;
 }
 
-MenuItem::MenuItem(MenuItem& parent, std::string_view itemName, std::string_view itemCaption)
-    : name(itemName), caption(itemCaption) {
+MenuItem::MenuItem(MenuItem& parent, std::string_view itemName, std::string_view itemCaption, std::string_view keys)
+    : name(itemName), caption(itemCaption), shortcut(keys) {
     parent.items.push_back(this);
 }
 

@@ -261,7 +261,7 @@ enum KeyCode {
 class MenuItem {
   public:
     MenuItem() = default;  ///< The menu bar itself.
-    MenuItem(MenuItem& parent, std::string_view name, std::string_view caption = "");
+    MenuItem(MenuItem& parent, std::string_view name, std::string_view caption = "", std::string_view shortcut = "");
     MenuItem(const MenuItem&) = delete;
     MenuItem& operator=(const MenuItem&) = delete;
 
@@ -280,7 +280,8 @@ class MenuItem {
 
     const std::string name;
     std::string caption;
-    bool enabled = true;  ///< One that is not is shown grey.
+    const std::string shortcut;  ///< The keys that choose it in any window, as "Ctrl+S"; empty for none.
+    bool enabled = true;         ///< One that is not is shown grey.
     std::vector<MenuItem*> items;
     std::function<void()> Click;
 

@@ -97,7 +97,7 @@ class HorvantaMDI {
     // clang-format off
     MenuItem menuBar;
     MenuItem FileMenu{menuBar, "FileMenu", "&File"};
-      MenuItem SavePreferences{FileMenu, "SavePreferences", "Save &Preferences"};
+      MenuItem SavePreferences{FileMenu, "SavePreferences", "Save &Preferences", "Ctrl+S"};
       MenuItem SaveThisMoment{FileMenu, "SaveThisMoment", "Save This &Moment"};
       MenuItem JumpTo{FileMenu, "JumpTo", "&Jump To..."};
         MenuItem JumpToSaved{JumpTo, "JumpToSaved", "&Saved Moment"};
@@ -108,7 +108,7 @@ class HorvantaMDI {
         MenuItem ArbitraryLunation{JumpTo, "ArbitraryLunation", "Lunation #..."};
         MenuItem JumpBy{JumpTo, "JumpBy", "Jump By..."};
       MenuItem QuitSubMenu{FileMenu, "QuitSubMenu", "&Quit"};
-        MenuItem MenuExit{QuitSubMenu, "MenuExit", "and &Save Preferences"};
+        MenuItem MenuExit{QuitSubMenu, "MenuExit", "and &Save Preferences", "Ctrl+Q"};
         MenuItem QuitWithoutSavePrefs{QuitSubMenu, "QuitWithoutSavePrefs", "&without Saving Preferences"};
         MenuItem ResetPrefsAndQuit{QuitSubMenu, "ResetPrefsAndQuit", "but &Reset All Preferences"};
         MenuItem ResetColorsAndQuit{QuitSubMenu, "ResetColorsAndQuit", "but Reset All &Colors"};
@@ -209,7 +209,7 @@ class HorvantaMDI {
       MenuItem PickForeColor{WindowS, "PickForeColor", "Change Foreground Color"};
 
     MenuItem Links{menuBar, "Links", "Lin&ks"};
-      MenuItem MenuAbout{Links, "MenuAbout", "&About Horvanta..."};
+      MenuItem MenuAbout{Links, "MenuAbout", "&About Horvanta...", "F1"};
       MenuItem MapLocale{Links, "MapLocale", "&Map of the Current Locale"};
     // clang-format on
 

@@ -58,6 +58,7 @@ void Frame::AddItem(QMenu& menu, MenuItem& item) {
     const QString caption = QString::fromStdString(item.caption);
     if (item.items.empty()) {
         QAction* action = menu.addAction(caption);
+        action->setShortcut(QString::fromStdString(item.shortcut));
         connect(action, &QAction::triggered, this, [this, &item] { Run(item.Click); });
         actions_.emplace_back(&item, action);
         return;

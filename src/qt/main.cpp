@@ -1,6 +1,10 @@
 #include "app/horvanta.h"
+#include "app/stored_settings.h"
+#include "core/moment.h"
+#include "qt/command_line.h"
 #include "qt/first_paint.h"
 #include "qt/qt_desktop.h"
+#include "qt/session_end.h"
 #include "qt/single_instance.h"
 
 #include <QApplication>
@@ -30,6 +34,7 @@ void EndAfterPaint(horvanta::Horvanta& program, horvanta::Frame& frame) {
 }  // namespace
 
 int main(int argc, char* argv[]) {
+    if (const auto status = horvanta::ObeyArguments(argc, argv)) return *status;
     QApplication application(argc, argv);
     QApplication::setApplicationName(QStringLiteral("horvanta"));
     QApplication::setDesktopFileName(QStringLiteral("org.horvanta.Horvanta"));
@@ -41,6 +46,11 @@ int main(int argc, char* argv[]) {
     horvanta::QtDesktop desktop;
     horvanta::CurrentDesktop = &desktop;
     horvanta::Horvanta program;
+    horvanta::SessionEnd sessionEnd;
+    sessionEnd.Save = [&program] {
+        if (horvanta::BusyCount == 0) SavePrefs(program);
+    };
+    sessionEnd.Close = [&desktop] { return desktop.frame()->close(); };
     program.Start();
     desktop.frame()->Draw();
     instance.ComeForward = [&desktop] { desktop.frame()->ComeForward(); };

@@ -223,6 +223,18 @@ class FormTest final : public QObject {
         QCOMPARE(DisplayedMoment, before + 5);
     }
 
+    void shortcutsWorkFromTheDayNumber() {
+        Session session;
+        QVERIFY(session.Find<QLineEdit>("FixedDayNum")->hasFocus());
+        std::set<QKeySequence> taken;  // keys that two items share choose neither
+        for (const auto* action : session.frame().menuBar()->findChildren<QAction*>()) {
+            if (!action->shortcut().isEmpty()) QVERIFY(taken.insert(action->shortcut()).second);
+        }
+        QVERIFY(!ReadFile(SettingsPath()).contains("[TimeAstro]"));
+        session.Press(Qt::Key_S, Qt::ControlModifier);
+        QVERIFY(ReadFile(SettingsPath()).contains("[TimeAstro]"));
+    }
+
     void repeatsOfAHeldKeyWaitForThePaint() {
         Session session;
         const Moment before = DisplayedMoment;
@@ -449,6 +461,18 @@ class FormTest final : public QObject {
         QVERIFY(!third.waitForFinished(1500));
         third.kill();
         third.waitForFinished();
+    }
+
+    void aProgramThatIsTerminatedSavesItsSettings() {
+        QProcess program;
+        program.start(QStringLiteral(HORVANTA_PROGRAM), {});
+        QTRY_VERIFY_WITH_TIMEOUT(ReadFile(SettingsPath()).contains("Launch=OK"), 20000);
+        QVERIFY(!ReadFile(SettingsPath()).contains("[TimeAstro]"));
+        program.terminate();
+        QVERIFY(program.waitForFinished(10000));
+        QCOMPARE(program.exitStatus(), QProcess::NormalExit);
+        QVERIFY(ReadFile(SettingsPath()).contains("[TimeAstro]"));
+        QVERIFY(ReadFile(SettingsPath()).contains("Launch=OK"));
     }
 
   private:
