@@ -36,6 +36,10 @@ void Horvanta::HangHandlers() {
     frame.GregCal.Shows(gregorian.form.visible);
     frame.GregCal.Click = [this] { GregCal_Click(); };
     gregorian.form.Close = frame.GregCal.Click;
+    frame.CalendarMonth.Shows(monthly.form.visible);
+    frame.CalendarMonth.Click = [this] { CalendarMonth_Click(); };
+    monthly.form.Close = frame.CalendarMonth.Click;
+    OfferCalendars();
     frame.SetUserLoc.Shows(userLocales.form.visible);
     frame.SetUserLoc.Click = [this] { SetUserLoc_Click(); };
     userLocales.form.Close = frame.SetUserLoc.Click;
@@ -73,6 +77,7 @@ void Horvanta::LoadWindows() {
     const StoredPlace stored = LoadPrefs(*this);
     timeAstro.SetYearStepCaptions();
     timeAstro.fields.SetToggles();
+    monthly.InitCalendars();
     places.ChooseFirst(stored.name, stored.userSlot);
     CurrentDesktop->LetEventsRun();
 }
@@ -123,6 +128,15 @@ void Horvanta::ResetColorsAndQuit_Click() {
     DeleteColorPrefs();
     CurrentDesktop->End();
 }
+
+/// The places of the list belong to the calendars, whether they are there yet or not.
+void Horvanta::OfferCalendars() {
+    const auto gregorianShown = [this] { return gregorian.form.visible; };
+    monthly.Offer(1, {&GregorianCalendar, &gregorian.GregorianDate, &frame.GregCal, gregorianShown});
+    monthly.Offer(2, {&ISOCalendar, &gregorian.TheISOdate, &frame.GregCal, gregorianShown});
+}
+
+void Horvanta::CalendarMonth_Click() { ShowOrHide(monthly.form, monthly.Days); }
 
 void Horvanta::GregCal_Click() { ShowOrHide(gregorian.form, gregorian.Dummy); }
 

@@ -7,6 +7,7 @@
 #include "calendars/gregorian_window.h"
 #include "core/shell.h"
 #include "locale/user_locales_window.h"
+#include "views/monthly_window.h"
 
 namespace horvanta {
 
@@ -37,8 +38,9 @@ class Horvanta {
     void ResetPrefsAndQuit_Click();
     void ResetColorsAndQuit_Click();
 
-    /// Shows the Gregorian window, or hides it.
+    // Each shows its window, or hides it.
     void GregCal_Click();
+    void CalendarMonth_Click();
 
     /// Shows the window of the user's own places, or hides it unless the user stops that for the sake of changes.
     void SetUserLoc_Click();
@@ -47,15 +49,17 @@ class Horvanta {
     TimeAstro timeAstro{frame};
     GregorianWindow gregorian{frame};
     UserLocalesWindow userLocales{frame};
+    MonthlyWindow monthly{frame};
     Places places{frame, timeAstro.fields};
     Jumps jumps{frame, timeAstro};
     Options options{frame};
 
     /// In the order in which they are loaded.
-    Form* const forms[3] = {&timeAstro.form, &gregorian.form, &userLocales.form};
+    Form* const forms[4] = {&timeAstro.form, &gregorian.form, &monthly.form, &userLocales.form};
 
   private:
     void HangHandlers();
+    void OfferCalendars();
     void MarkLaunch();
     void LoadWindows();
     void ChooseMoment();

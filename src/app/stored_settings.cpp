@@ -240,6 +240,10 @@ Table ProgramTable(Horvanta& program, StoredPlace& stored) {
     const auto belowTime = [&time] {
         return Place{time.form.place.left, time.form.place.top + time.form.place.height + gap};
     };
+    const auto besideMonth = [&program] {
+        const Place& month = program.monthly.form.place;
+        return Place{month.left + month.width + gap, month.top};
+    };
     const auto literal = [](std::string_view text) { return [text] { return std::string(text); }; };
     const auto shade = [&gregorian](bool isBackground) {
         return [&gregorian, isBackground] {
@@ -259,12 +263,12 @@ Table ProgramTable(Horvanta& program, StoredPlace& stored) {
         LayoutMark(time.form),
 
         Window(time.form, AlwaysToday, true, [] { return Place(); }),
-        Kept("Monthly", "Chk", "True"),
+        Window(program.monthly.form, program.monthly.form.visible, true, belowTime),
         Kept("Quartane", "Chk", "True"),
         Kept("Julian", "Chk", "False"),
         Kept("Events", "Chk", "True"),
         Kept("Hebrew", "Chk", "True"),
-        Window(user.form, user.form.visible, false, belowTime),
+        Window(user.form, user.form.visible, false, besideMonth),
         Window(gregorian.form, gregorian.form.visible, true, besideTime),
         Kept("Lunar", "Chk", "True"),
         Kept("Persian", "Chk", "False"),
@@ -315,8 +319,10 @@ Table ProgramTable(Horvanta& program, StoredPlace& stored) {
         Flag("Item", "ShowDD", ShowsDawnDusk),
         Flag("Item", "Elev", UseElevation),
         Long("Item", "Map", 1, MapIndex, 1, 8),
-        Kept("Item", "AD", "&Across"),
-        Kept("Item", "MC", "0"),
+        {"Item", "AD",
+         [] { MonthLayoutCaption = GetTextPref(ProgramSettings, "Item", "AD", "") == "&Down" ? "&Down" : "&Across"; },
+         [] { SavePref("Item", "AD", MonthLayoutCaption); }},
+        Long("Item", "MC", 0, MonthCalendar, 0, 8),
         Kept("Item", "LunOpt", "1"),
         {"Item", "LOC", [&stored] { stored.name = GetTextPref(ProgramSettings, "Item", "LOC", "Greenwich"); },
          [] { SavePref("Item", "LOC", Locale.Name); }},

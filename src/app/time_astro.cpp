@@ -85,6 +85,7 @@ void TimeAstro::HangHandlers() {
 /// The step by lunar cycles has no handler, and so is not shown, as long as nothing finds lunar phases.
 void TimeAstro::HangMenus() {
     frame_.Form_KeyDown = form.KeyDown;
+    frame_.DayUpDown = [this](double count, double size) { DayUpDown(count, size); };
     frame_.TakeFocus = [this] { TakeFocus(); };
     frame_.ShowClipboardText = [this](const std::string& clip) { ClipBoardStatus.text = clip; };
     for (std::size_t number = 1; number <= std::size(steps); ++number) {

@@ -37,6 +37,14 @@ struct CalendarContract {
     void (*SetMonthNames)(ChoiceList& list, std::int32_t year);
 
     void (*SetDayNames)(DayNames& longNames, DayNames& shortNames);
+
+    /// What the cell of a day of the month shows, where that is not its number.
+    std::string (*CellText)(const GridDate& shown, std::int32_t day) = nullptr;
+
+    bool hasYear0 = true;
+
+    /// The month behind which a leap month moves those that follow; 0 where no month moves.
+    std::int16_t leapMonthAfter = 0;
 };
 
 }  // namespace horvanta

@@ -162,6 +162,11 @@ void GregorianWindow::SetDayNamesAlt(DayNames& longNames, DayNames& shortNames) 
     }
 }
 
+/// The week and its day, as "W13-4".
+std::string GregorianWindow::CellTextAlt(const GridDate& shown, std::int32_t day) {
+    return "W" + std::to_string((day - 1) / 7 + 4 * shown.month - 3) + "-" + std::to_string((day - 1) % 7 + 1);
+}
+
 void GregorianWindow::InfoGreg_Click() {
     frame_.AskCopyToClipboard(std::string(gregorianInformation), "The Gregorian Calendar");
 }

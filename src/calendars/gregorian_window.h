@@ -25,6 +25,7 @@ class GregorianWindow {
     static GridDate GetDateAlt();
     static void SetMonthNamesAlt(ChoiceList& list, std::int32_t year);
     static void SetDayNamesAlt(DayNames& longNames, DayNames& shortNames);
+    static std::string CellTextAlt(const GridDate& shown, std::int32_t day);
 
     // Commands of the controls.
     void InfoGreg_Click();
@@ -58,7 +59,11 @@ class GregorianWindow {
 
 inline constexpr CalendarContract GregorianCalendar{"Gregorian", GregorianWindow::ToFixed, GregorianWindow::GetDate,
                                                     GregorianWindow::SetMonthNames, GregorianWindow::SetDayNames};
-inline constexpr CalendarContract ISOCalendar{"ISO", GregorianWindow::ToFixedAlt, GregorianWindow::GetDateAlt,
-                                              GregorianWindow::SetMonthNamesAlt, GregorianWindow::SetDayNamesAlt};
+inline constexpr CalendarContract ISOCalendar{"ISO",
+                                              GregorianWindow::ToFixedAlt,
+                                              GregorianWindow::GetDateAlt,
+                                              GregorianWindow::SetMonthNamesAlt,
+                                              GregorianWindow::SetDayNamesAlt,
+                                              GregorianWindow::CellTextAlt};
 
 }  // namespace horvanta

@@ -77,6 +77,9 @@ class Control {
     std::function<void()> DblClick;
     std::function<void()> RightClick;
 
+    /// Asked before that of the form for a key that the control does not keep to itself; true if it has been used up.
+    std::function<bool(int code, int shift)> KeyDown;
+
   private:
     void JoinForm();
 };
@@ -115,9 +118,6 @@ class TextField final : public Control {
     using Control::Control;
 
     std::function<void()> LostFocus;  ///< The user left the field or pressed Enter in it.
-
-    /// Asked before that of the form for a key that does not edit the text; true if it has been used up.
-    std::function<bool(int code, int shift)> KeyDown;
 };
 
 /// A pair of arrows that change what another control shows. Its caption, if any, says by how much.
@@ -125,7 +125,7 @@ class UpDown final : public Control {
   public:
     using Control::Control;
 
-    std::function<void(int direction)> Step;  ///< 1 upwards, -1 downwards.
+    std::function<void(int direction, int shift)> Step;  ///< 1 upwards, -1 downwards, with the bits of `KeyShift`.
 };
 
 /// A box around controls that belong together; it is clicked on its caption or its line.
@@ -141,6 +141,34 @@ class ChoiceList final : public Control {
 
     std::vector<std::string> items;
     int selected = -1;
+    std::function<void()> Chosen;  ///< The user selected an item.
+};
+
+/// The days of a month in six weeks: the weekdays stand as seven columns under their headings, or as seven rows.
+class CellGrid final : public Control {
+  public:
+    using Control::Control;
+
+    struct Cell {
+        std::string text;
+        bool blank = true;  ///< Not a day of the month.
+
+        bool operator==(const Cell&) const = default;
+    };
+    struct Heading {
+        std::string text;
+        std::string tooltip;
+
+        bool operator==(const Heading&) const = default;
+    };
+
+    std::array<Cell, 42> cells;
+    std::array<Heading, 7> headings;
+    bool across = false;     ///< The weekdays stand as rows.
+    std::size_t active = 0;  ///< The cell of the displayed day.
+    std::optional<ColorPair> activeColors;
+
+    std::function<void(std::size_t cell)> CellClick;
 };
 
 /// How a check box stands; the numbers are those of the settings.

@@ -89,6 +89,7 @@ class HorvantaMDI {
 
     // Acts of the time window.
     std::function<bool(int code, int shift)> Form_KeyDown;
+    std::function<void(double steps, double size)> DayUpDown;
     std::function<void()> TakeFocus;
     std::function<void(const std::string& clip)> ShowClipboardText;
 

@@ -137,9 +137,9 @@ void UserLocalesWindow::HangArrows() {
         {ZoneUpDown, ZoneField, 1},
     };
     for (const auto& [arrows, index, size] : rows) {
-        arrows.Step = [this, index, size](int direction) { Step(index, direction * size); };
+        arrows.Step = [this, index, size](int direction, int) { Step(index, direction * size); };
     }
-    UDLupDown.Step = [this](int direction) { SelectSlot(static_cast<double>(slot) + direction); };
+    UDLupDown.Step = [this](int direction, int) { SelectSlot(static_cast<double>(slot) + direction); };
 }
 
 // Places as entries.

@@ -1,11 +1,13 @@
 #include "qt/binder.h"
 
 #include "qt/arrow_pair.h"
+#include "qt/month_grid.h"
 #include "qt/panel_bar.h"
 
 #include <QAbstractButton>
 #include <QApplication>
 #include <QCheckBox>
+#include <QComboBox>
 #include <QGroupBox>
 #include <QKeyEvent>
 #include <QLabel>
@@ -62,8 +64,7 @@ int CodeOf(const QKeyEvent& event) {
     return 0;
 }
 
-int ShiftOf(const QKeyEvent& event) {
-    const Qt::KeyboardModifiers held = event.modifiers();
+int ShiftOf(Qt::KeyboardModifiers held) {
     return (held.testFlag(Qt::ShiftModifier) ? ShiftKey : 0) | (held.testFlag(Qt::ControlModifier) ? ControlKey : 0) |
            (held.testFlag(Qt::AltModifier) ? AltKey : 0);
 }
@@ -91,9 +92,17 @@ constexpr QKeySequence::StandardKey editingKeys[] = {
 
 bool isEnter(const QKeyEvent& event) { return event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter; }
 
+/// What moves in a list or opens it.
+bool isListKey(const QKeyEvent& event) {
+    constexpr int keys[] = {Qt::Key_Up,   Qt::Key_Down, Qt::Key_PageUp, Qt::Key_PageDown,
+                            Qt::Key_Home, Qt::Key_End,  Qt::Key_Space};
+    return std::find(std::begin(keys), std::end(keys), event.key()) != std::end(keys);
+}
+
 /// Keys that a focused widget keeps to itself.
 bool isKept(const QObject* focused, const QKeyEvent& event) {
     if (qobject_cast<const QAbstractButton*>(focused)) return event.key() == Qt::Key_Space || isEnter(event);
+    if (qobject_cast<const QComboBox*>(focused)) return isListKey(event);
     if (!qobject_cast<const QLineEdit*>(focused)) return false;
     if (isEnter(event)) return true;
     return std::any_of(std::begin(editingKeys), std::end(editingKeys),
@@ -117,6 +126,13 @@ void SetText(QWidget& widget, const QString& text) {
 
 QColor ToQColor(Color color) { return {color.red, color.green, color.blue}; }
 
+/// What a kind of widget paints its background and its text with.
+std::pair<QPalette::ColorRole, QPalette::ColorRole> RolesOf(const QWidget& widget) {
+    if (qobject_cast<const QLineEdit*>(&widget)) return {QPalette::Base, QPalette::Text};
+    if (qobject_cast<const QComboBox*>(&widget)) return {QPalette::Button, QPalette::ButtonText};
+    return {QPalette::Window, QPalette::WindowText};
+}
+
 /// Without colours the widget goes back to the desktop's.
 void SetColors(QWidget& widget, const std::optional<ColorPair>& colors) {
     if (!colors) {
@@ -125,10 +141,10 @@ void SetColors(QWidget& widget, const std::optional<ColorPair>& colors) {
         widget.setAutoFillBackground(false);
         return;
     }
-    const bool field = qobject_cast<QLineEdit*>(&widget) != nullptr;
+    const auto [background, foreground] = RolesOf(widget);
     QPalette palette = widget.palette();
-    palette.setColor(field ? QPalette::Base : QPalette::Window, ToQColor(colors->background));
-    palette.setColor(field ? QPalette::Text : QPalette::WindowText, ToQColor(colors->foreground));
+    palette.setColor(background, ToQColor(colors->background));
+    palette.setColor(foreground, ToQColor(colors->foreground));
     if (palette == widget.palette()) return;
     widget.setPalette(palette);
     widget.setAutoFillBackground(true);
@@ -153,6 +169,19 @@ bool isHit(const QWidget& widget, const QPoint& where) {
     return box->rect().contains(where) && !contents.contains(where);
 }
 
+void DrawList(const ChoiceList& choices, QComboBox& list) {
+    const int count = static_cast<int>(choices.items.size());
+    bool same = list.count() == count;
+    for (int i = 0; same && i < count; ++i) {
+        same = list.itemText(i) == QString::fromStdString(choices.items[static_cast<std::size_t>(i)]);
+    }
+    if (!same) {
+        list.clear();
+        for (const std::string& item : choices.items) list.addItem(QString::fromStdString(item));
+    }
+    if (list.currentIndex() != choices.selected) list.setCurrentIndex(choices.selected);
+}
+
 void DrawControl(const Control& control, QWidget& widget) {
     const auto differs = [](const QString& shown, const std::string& text) {
         return shown != QString::fromStdString(text);
@@ -174,6 +203,8 @@ void DrawControl(const Control& control, QWidget& widget) {
     }
     if (auto* bar = qobject_cast<PanelBar*>(&widget)) bar->Draw(static_cast<const StatusBar&>(control));
     if (auto* arrows = qobject_cast<ArrowPair*>(&widget)) arrows->Draw(static_cast<const UpDown&>(control));
+    if (auto* list = qobject_cast<QComboBox*>(&widget)) DrawList(static_cast<const ChoiceList&>(control), *list);
+    if (auto* grid = qobject_cast<MonthGrid*>(&widget)) grid->Draw(static_cast<const CellGrid&>(control));
 }
 
 void EnlargeFont(QWidget& widget) {
@@ -184,7 +215,7 @@ void EnlargeFont(QWidget& widget) {
 
 }  // namespace
 
-KeyPress KeyPressOf(const QKeyEvent& event) { return {CodeOf(event), ShiftOf(event)}; }
+KeyPress KeyPressOf(const QKeyEvent& event) { return {CodeOf(event), ShiftOf(event.modifiers())}; }
 
 Binder::Binder(Form& form, QWidget& root, Acts& acts) : form_(form), root_(root), acts_(acts) {
     for (Control* control : form_.controls) {
@@ -219,8 +250,21 @@ void Binder::Connect(const Bound& bound) {
     if (auto* arrows = qobject_cast<ArrowPair*>(bound.widget)) {
         auto* pair = static_cast<UpDown*>(control);
         connect(arrows, &ArrowPair::stepped, this, [this, pair](int direction) {
-            if (pair->Step) acts_.Run([pair, direction] { pair->Step(direction); });
+            const int shift = ShiftOf(QGuiApplication::keyboardModifiers());
+            if (pair->Step) acts_.Run([pair, direction, shift] { pair->Step(direction, shift); });
         });
+    }
+    if (auto* list = qobject_cast<QComboBox*>(bound.widget)) {
+        auto* choices = static_cast<ChoiceList*>(control);
+        connect(list, &QComboBox::activated, this, [this, choices](int index) {
+            choices->selected = index;
+            acts_.Run(choices->Chosen);
+        });
+    }
+    if (auto* grid = qobject_cast<MonthGrid*>(bound.widget)) {
+        auto* cells = static_cast<CellGrid*>(control);
+        connect(grid, &MonthGrid::cellClicked, this,
+                [this, cells](std::size_t cell) { acts_.Run([cells, cell] { cells->CellClick(cell); }); });
     }
     if (auto* field = qobject_cast<QLineEdit*>(bound.widget)) {
         auto* text = static_cast<TextField*>(control);
@@ -255,6 +299,10 @@ void Binder::KeepRoom(const Bound& bound) {
     if (auto* bar = qobject_cast<PanelBar*>(&widget)) {
         bar->Draw(static_cast<const StatusBar&>(*bound.control));
         bar->KeepRoom(widest);
+        return;
+    }
+    if (auto* grid = qobject_cast<MonthGrid*>(&widget)) {
+        grid->KeepRoom(widest);
         return;
     }
     const QString shown = TextOf(widget);
@@ -324,13 +372,13 @@ bool Binder::KeyActed(QObject* watched, const QKeyEvent& event) {
         return true;
     }
     const KeyPress key = KeyPressOf(event);
-    const auto* field = dynamic_cast<const TextField*>(ControlOf(watched));
-    const bool isAsked = form_.KeyDown || (field && field->KeyDown);
+    const Control* control = ControlOf(watched);
+    const bool isAsked = form_.KeyDown || (control && control->KeyDown);
     if (key.code == 0 || !isAsked || isKept(watched, event)) return false;
     if (event.isAutoRepeat() && acts_.isPaintPending()) return true;
     bool used = false;
     acts_.Run([&] {
-        used = (field && field->KeyDown && field->KeyDown(key.code, key.shift)) ||
+        used = (control && control->KeyDown && control->KeyDown(key.code, key.shift)) ||
                (form_.KeyDown && form_.KeyDown(key.code, key.shift));
     });
     return used;

@@ -3,11 +3,13 @@
 #include "core/moment.h"
 #include "locale/zone_time.h"
 #include "qt/arrow_pair.h"
+#include "qt/month_grid.h"
 #include "qt/panel_bar.h"
 #include "qt/qt_desktop.h"
 
 #include <QApplication>
 #include <QCheckBox>
+#include <QComboBox>
 #include <QClipboard>
 #include <QColorDialog>
 #include <QDesktopServices>
@@ -103,6 +105,8 @@ class Browser final : public QObject {
 bool isFor(const QWidget& widget, const Control& control) {
     if (dynamic_cast<const CheckBox*>(&control)) return qobject_cast<const QCheckBox*>(&widget);
     if (dynamic_cast<const StatusBar*>(&control)) return qobject_cast<const PanelBar*>(&widget);
+    if (dynamic_cast<const ChoiceList*>(&control)) return qobject_cast<const QComboBox*>(&widget);
+    if (dynamic_cast<const CellGrid*>(&control)) return qobject_cast<const MonthGrid*>(&widget);
     if (dynamic_cast<const UpDown*>(&control)) return qobject_cast<const ArrowPair*>(&widget);
     if (dynamic_cast<const GroupBox*>(&control)) return qobject_cast<const QGroupBox*>(&widget);
     if (dynamic_cast<const OptionButton*>(&control)) return qobject_cast<const QRadioButton*>(&widget);

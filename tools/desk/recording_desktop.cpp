@@ -93,7 +93,7 @@ bool RecordingDesktop::Press(int code, int shift) {
         focused->Click();
     } else if (field && code == KeyEnter) {
         LeaveField();
-    } else if (field && field->KeyDown && field->KeyDown(code, shift)) {
+    } else if (focused->KeyDown && focused->KeyDown(code, shift)) {
         return true;
     } else if (focused->form.KeyDown) {
         focused->form.KeyDown(code, shift);

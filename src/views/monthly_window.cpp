@@ -1,0 +1,240 @@
+#include "views/monthly_window.h"
+
+#include "core/desktop.h"
+#include "core/moment.h"
+#include "core/text.h"
+
+#include <algorithm>
+#include <cmath>
+#include <span>
+
+namespace horvanta {
+namespace {
+
+/// Years to a step with the modifiers of a key or a click: Shift for decades, Ctrl for centuries, both for millennia.
+std::int32_t YearsToAStep(int shift) { return ((shift & ShiftKey) ? 10 : 1) * ((shift & ControlKey) ? 100 : 1); }
+
+/// A key that steps by days, in the layout with the weekdays as rows and in that with the weekdays as columns.
+struct DayKey {
+    int code;
+    int across;
+    int down;
+};
+
+constexpr DayKey dayKeys[] = {
+    {KeyBackspace, -1, -1}, {KeyNumericMinus, -1, -1}, {KeyNumericPlus, 1, 1}, {KeyLeft, -7, -1},
+    {KeyUp, -1, -7},        {KeyRight, 7, 1},          {KeyDown, 1, 7},
+};
+
+}  // namespace
+
+MonthlyWindow::MonthlyWindow(HorvantaMDI& frame) : frame_(frame) {
+    HangHandlers();
+    Days.across = isAcross();
+}
+
+void MonthlyWindow::HangHandlers() {
+    Calendars.Chosen = [this] {
+        current_ = listed_[static_cast<std::size_t>(Calendars.selected)];
+        MonthCalendar = static_cast<std::int32_t>(current_);
+        Calendars_Click();
+    };
+    MonthNames.Chosen = [this] { MonthNames_Click(); };
+    PrevMonth.Click = [this] { PrevMonth_Click(); };
+    NextMonth.Click = [this] { NextMonth_Click(); };
+    Layout.Click = [this] { Layout_Click(); };
+    Days.CellClick = [this](std::size_t cell) { SelectCell(cell); };
+    Days.KeyDown = [this](int code, int shift) { return ObeyCellKey(code, shift); };
+    ThisYear.KeyDown = [this](int code, int shift) { return ObeyYearKey(code, shift); };
+    ThisYear.LostFocus = [this] { TakeYear(); };
+    ChangeByYear.Step = [this](int direction, int shift) { ChangeYear(shown_.year + direction * YearsToAStep(shift)); };
+    form.KeyDown = [this](int code, int shift) { return frame_.Form_KeyDown(code, shift); };
+}
+
+void MonthlyWindow::Offer(std::size_t place, const GridCalendar& calendar) { calendars_[place] = calendar; }
+
+void MonthlyWindow::InitCalendars() {
+    Calendars.items.clear();
+    for (std::size_t place = 0; place < CalendarCount; ++place) {
+        if (!calendars_[place].contract) continue;
+        listed_[Calendars.items.size()] = place;
+        Calendars.items.emplace_back(calendars_[place].contract->name);
+    }
+    const auto listed = std::span(listed_).first(Calendars.items.size());
+    const auto chosen = std::ranges::find(listed, static_cast<std::size_t>(MonthCalendar));
+    Calendars.selected = chosen == listed.end() ? 0 : static_cast<int>(chosen - listed.begin());
+    current_ = listed_[static_cast<std::size_t>(Calendars.selected)];
+    Layout.text = MonthLayoutCaption;
+    Days.across = isAcross();
+    Calendars_Click();
+}
+
+/// The window of a calendar is up together with its grid.
+void MonthlyWindow::Calendars_Click() {
+    const GridCalendar& calendar = Current();
+    ShowHeadings();
+    if (BusyCount == 0 && calendar.window && !calendar.isOpen()) calendar.window->Click();
+    Update();
+}
+
+void MonthlyWindow::ShowHeadings() {
+    DayNames longNames;
+    DayNames shortNames;
+    Current().contract->SetDayNames(longNames, shortNames);
+    for (std::size_t i = 0; i < longNames.size(); ++i) {
+        const bool cut = !isAcross() && shortNames[i] != longNames[i];
+        Days.headings[i] = {isAcross() ? longNames[i] : shortNames[i], cut ? longNames[i] : ""};
+    }
+}
+
+void MonthlyWindow::Update() {
+    if (BusyCount > 0) return;
+    const GridDate date = Current().contract->GetDate();
+    if (date.month == 0) return;
+    shown_ = date;
+    ThisYear.text = std::to_string(date.year);
+    MonthNames.items.clear();
+    Current().contract->SetMonthNames(MonthNames, date.year);
+    MonthNames.selected = date.month - 1;
+    WearColors();
+    ShowCells(date);
+}
+
+void MonthlyWindow::WearColors() {
+    ThisYear.colors = MonthNames.colors = Calendars.colors = Days.activeColors = Current().colorSource->colors;
+}
+
+void MonthlyWindow::ShowCells(const GridDate& date) {
+    const auto textOf = Current().contract->CellText;
+    for (int cell = 0; cell < static_cast<int>(Days.cells.size()); ++cell) {
+        const int day = cell - date.firstWeekday + 1;
+        const bool blank = day < 1 || day > date.monthLength;
+        Days.cells[static_cast<std::size_t>(cell)] = {blank    ? ""
+                                                      : textOf ? textOf(date, day)
+                                                               : std::to_string(day),
+                                                      blank};
+    }
+    Days.active = static_cast<std::size_t>(date.day - 1 + date.firstWeekday);
+}
+
+void MonthlyWindow::MoveTo(std::int32_t year, std::int32_t month, std::int32_t day, bool keepTime) {
+    const double timeOfDay = keepTime ? DisplayedMoment - Floor(DisplayedMoment) : 0;
+    DisplayedMoment = Current().contract->ToFixed(year, month, day) + timeOfDay;
+    UpdateStatus();
+}
+
+void MonthlyWindow::SelectCell(std::size_t cell) {
+    if (!Days.cells[cell].blank) {
+        MoveTo(shown_.year, shown_.month, static_cast<std::int32_t>(cell) - shown_.firstWeekday + 1, true);
+    }
+    TakeFocus();
+}
+
+/// A day that the month does not have becomes its last one, or the last one of the same weekday where the month is all
+/// weeks.
+void MonthlyWindow::ShowMonth(std::int32_t year, std::int32_t month, bool keepTime) {
+    const Moment before = DisplayedMoment;
+    const CalendarContract& calendar = *Current().contract;
+    DisplayedMoment = calendar.ToFixed(year, month, 1);
+    const std::int32_t length = calendar.GetDate().monthLength;
+    DisplayedMoment = before;
+    std::int32_t day = shown_.day;
+    if (day > length) day = length % 7 == 0 ? day - (day - length + 6) / 7 * 7 : length;
+    MoveTo(year, month, day, keepTime);
+}
+
+void MonthlyWindow::MonthNames_Click() { ShowMonth(shown_.year, MonthNames.selected + 1, false); }
+
+void MonthlyWindow::PrevMonth_Click() {
+    if (shown_.month > 1) {
+        ShowMonth(shown_.year, shown_.month - 1, true);
+    } else {
+        const std::int32_t year = YearBeside(shown_.year, -1);
+        ShowMonth(year, MonthsIn(year), true);
+    }
+}
+
+void MonthlyWindow::NextMonth_Click() {
+    if (shown_.month < MonthsIn(shown_.year)) {
+        ShowMonth(shown_.year, shown_.month + 1, true);
+    } else {
+        ShowMonth(YearBeside(shown_.year, 1), 1, true);
+    }
+}
+
+std::int32_t MonthlyWindow::MonthsIn(std::int32_t year) const {
+    Form scratch("", "");
+    ChoiceList months(scratch, "");
+    Current().contract->SetMonthNames(months, year);
+    return static_cast<std::int32_t>(months.items.size());
+}
+
+std::int32_t MonthlyWindow::YearBeside(std::int32_t year, std::int32_t direction) const {
+    const std::int32_t beside = year + direction;
+    return beside == 0 && !Current().contract->hasYear0 ? direction : beside;
+}
+
+/// The day stays, and where the calendar's months move by a leap month, so does the month.
+void MonthlyWindow::ChangeYear(std::int32_t year) {
+    const CalendarContract& calendar = *Current().contract;
+    if (year == 0 && !calendar.hasYear0) year = shown_.year < 1 ? 1 : -1;
+    if (year == shown_.year) return;
+    std::int32_t month = shown_.month;
+    if (calendar.leapMonthAfter > 0 && month > calendar.leapMonthAfter) month += MonthsIn(year) - MonthsIn(shown_.year);
+    MoveTo(year, month, shown_.day, false);
+}
+
+void MonthlyWindow::TakeYear() {
+    const auto year = ParseNumber(ThisYear.text);
+    const bool whole = year && *year == Floor(*year) && std::fabs(*year) < 1e6;
+    if (whole) {
+        ChangeYear(WholeNumber(*year));
+    } else {
+        CurrentDesktop->Beep();
+    }
+    ThisYear.text = std::to_string(shown_.year);
+}
+
+void MonthlyWindow::Layout_Click() {
+    MonthLayoutCaption = isAcross() ? "&Down" : "&Across";
+    Layout.text = MonthLayoutCaption;
+    Days.across = isAcross();
+    ShowHeadings();
+}
+
+bool MonthlyWindow::ObeyCellKey(int code, int shift) {
+    const auto* dayKey = std::ranges::find(dayKeys, code, &DayKey::code);
+    if (dayKey != std::end(dayKeys)) {
+        frame_.DayUpDown(isAcross() ? dayKey->across : dayKey->down, 1);
+    } else if (code == KeyPageUp) {
+        PrevMonth_Click();
+    } else if (code == KeyPageDown) {
+        NextMonth_Click();
+    } else if (code == KeyHome) {
+        SelectCell(0);
+    } else if (code == KeyEnd) {
+        SelectCell(static_cast<std::size_t>(shown_.firstWeekday + shown_.monthLength - 1));
+    } else if (code == KeyEscape) {
+        frame_.TakeFocus();
+        return true;
+    } else {
+        return frame_.Form_KeyDown(code, shift);
+    }
+    TakeFocus();
+    return true;
+}
+
+bool MonthlyWindow::ObeyYearKey(int code, int shift) {
+    const std::int32_t step = YearsToAStep(shift);
+    switch (code) {
+        case KeyUp:
+        case KeyNumericPlus: ChangeYear(shown_.year + step); return true;
+        case KeyDown:
+        case KeyNumericMinus: ChangeYear(shown_.year - step); return true;
+        case KeyPageUp: ChangeYear(shown_.year + std::max(10, step)); return true;
+        case KeyPageDown: ChangeYear(shown_.year - std::max(10, step)); return true;
+        default: return false;
+    }
+}
+
+}  // namespace horvanta

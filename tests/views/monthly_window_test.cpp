@@ -1,0 +1,117 @@
+#include "views/monthly_window.h"
+
+#include "core/moment.h"
+#include "core/text.h"
+#include "desk.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+
+namespace horvanta {
+namespace {
+
+/// Whatever the calendar and the day: each day of the month stands in one cell, under its weekday, and a click on a
+/// cell goes there at the same time of day.
+TEST(Monthly, ShowsEachDayOnceUnderItsWeekday) {
+    Desk desk;
+    MonthlyWindow& month = desk.program.monthly;
+    for (std::size_t calendar = 0; calendar < month.Calendars.items.size(); ++calendar) {
+        desk.Obey("choose Monthly.Calendars " + std::to_string(calendar));
+        for (double day = -730'000; day < 730'000; day += 9973) {
+            desk.Obey("set DisplayedMoment " + GeneralText(day + 0.25));
+            const auto& cells = month.Days.cells;
+            const auto blank = [](const CellGrid::Cell& cell) { return cell.blank; };
+            const auto first = std::find_if_not(cells.begin(), cells.end(), blank);
+            const auto end = std::find_if(first, cells.end(), blank);
+            ASSERT_TRUE(std::all_of(end, cells.end(), blank)) << month.Calendars.items[calendar] << day;
+            ASSERT_GE(end - first, 28) << month.Calendars.items[calendar] << day;
+            const auto clicked = static_cast<std::size_t>(first - cells.begin()) + 16;
+            const auto active = static_cast<double>(month.Days.active);
+            desk.Obey("click Monthly.Days " + std::to_string(clicked));
+            ASSERT_EQ(DisplayedMoment, day + 0.25 + static_cast<double>(clicked) - active);
+            const std::size_t weekday = static_cast<std::size_t>(DayOfWeek(DisplayedMoment));
+            DayNames longNames;
+            DayNames shortNames;
+            GregorianWindow::SetDayNames(longNames, shortNames);
+            ASSERT_EQ(month.Days.headings[clicked % 7].text, longNames[weekday]) << month.Calendars.items[calendar];
+        }
+    }
+}
+
+TEST(Monthly, MovesByMonthsAndYears) {
+    struct Row {
+        const char* line;
+        const char* from;
+        const char* to;
+    };
+    constexpr Row rows[] = {
+        {"click Monthly.NextMonth", "2024-01-31", "Thursday, February 29, 2024"},
+        {"click Monthly.PrevMonth", "2024-01-31", "Sunday, December 31, 2023"},
+        {"press PageDown", "2024-12-05", "Sunday, January 5, 2025"},
+        {"press PageUp", "2024-03-31", "Thursday, February 29, 2024"},
+        {"choose Monthly.MonthNames 5", "2024-01-31", "Sunday, June 30, 2024"},
+        {"click Monthly.ChangeByYear up", "2024-02-29", "Saturday, March 1, 2025"},
+        {"type Monthly.ThisYear -3", "2024-07-04", "Friday, July 4, -3"},
+        {"type Monthly.ThisYear x", "2024-07-04", "Thursday, July 4, 2024"},
+        {"press Left", "2024-07-14", "Sunday, July 7, 2024"},
+        {"press Down", "2024-07-14", "Monday, July 15, 2024"},
+        {"press Backspace", "2024-07-01", "Sunday, June 30, 2024"},
+        {"press End", "2024-07-01", "Wednesday, July 31, 2024"},
+        {"press Home", "2024-07-05", "Friday, July 5, 2024"},
+        {"press Home", "2024-09-05", "Sunday, September 1, 2024"},
+    };
+    Desk desk;
+    for (const auto& [line, from, to] : rows) {
+        const auto number = [&](std::size_t at, std::size_t digits) {
+            return std::atoi(std::string(from).substr(at, digits).c_str());
+        };
+        desk.Obey("set DisplayedMoment " +
+                  GeneralText(GregorianToFixed(number(0, 4), number(5, 2), number(8, 2)) + 0.5));
+        desk.Obey("focus Monthly.Days");
+        EXPECT_EQ(desk.Obey(line), "ok") << line;
+        EXPECT_EQ(FixedToGregorianString(DisplayedMoment), to) << line << " from " << from;
+    }
+    desk.Obey("set DisplayedMoment 8415.5");
+    desk.Obey("click Monthly.NextMonth");
+    EXPECT_EQ(DisplayedMoment, 8446.5);
+    desk.Obey("choose Monthly.MonthNames 2");
+    EXPECT_EQ(DisplayedMoment, 8475);
+    EXPECT_EQ(desk.Obey("press Escape"), "ok");
+    EXPECT_EQ(desk.desktop.focused, &desk.program.timeAstro.FixedDayNum);
+}
+
+/// A day that four weeks don't have keeps its weekday; the thirteenth month follows the twelfth.
+TEST(Monthly, WalksTheMonthsOfWeeks) {
+    Desk desk;
+    desk.Obey("choose Monthly.Calendars 1");
+    desk.Obey("set DisplayedMoment " + GeneralText(ISOToFixed(2020, 53, 3)));
+    EXPECT_EQ(desk.program.monthly.Days.cells[desk.program.monthly.Days.active].text, "W53-3");
+    desk.Obey("click Monthly.PrevMonth");
+    EXPECT_EQ(ISODateString(FixedToISODate(DisplayedMoment)), "2020-W48-3");
+    for (int i = 0; i < 13; ++i) desk.Obey("click Monthly.NextMonth");
+    EXPECT_EQ(ISODateString(FixedToISODate(DisplayedMoment)), "2021-W48-3");
+    for (int i = 0; i < 26; ++i) desk.Obey("click Monthly.PrevMonth");
+    EXPECT_EQ(ISODateString(FixedToISODate(DisplayedMoment)), "2019-W48-3");
+}
+
+TEST(Monthly, BringsTheWindowOfItsCalendar) {
+    Desk desk;
+    desk.Obey("close Gregorian");
+    desk.Obey("choose Monthly.Calendars 1");
+    EXPECT_TRUE(desk.program.gregorian.form.visible);
+    EXPECT_EQ(desk.program.monthly.ThisYear.colors, desk.program.gregorian.TheISOdate.colors);
+    desk.Obey("click Monthly.Layout");
+    EXPECT_EQ(desk.program.monthly.Days.headings[0].text, "Mon");
+    desk.Obey("focus Monthly.Days");
+    const Moment before = DisplayedMoment;
+    desk.Obey("press Left");
+    EXPECT_EQ(DisplayedMoment, before - 1);
+    desk.Obey("menu MenuExit");
+    Desk again(desk.desktop.settings.flushed);
+    EXPECT_EQ(again.program.monthly.Layout.text, "&Down");
+    EXPECT_EQ(again.program.monthly.Calendars.selected, 1);
+}
+
+}  // namespace
+}  // namespace horvanta
