@@ -76,8 +76,7 @@ TEST_F(UserLocalesWindowTest, DoubtAZoneFarFromItsLongitude) {
     }
     Enter("TimeZone", "6.25");
     Obey({"click User.LongHemi", "answer yes", "click User.ApplyLoc", "asked"});
-    EXPECT_EQ(answer.substr(0, 95),
-              "box \"Check Time Zone\" \"Time Zone differs by 6.25 hours from ideal 0 based on Longitude.\\n\\nCheck");
+    EXPECT_NE(answer.find("differs by 6.25 hours from ideal 0 based on Longitude.\\n"), std::string::npos);
     EXPECT_EQ(Locale.Zone, 6.25);
     Enter("LongDeg", "30");
     Obey({"click User.LongHemi", "click User.GuessZone"});
