@@ -32,16 +32,9 @@ class UserLocalesWindowTest : public testing::Test {
 };
 
 TEST_F(UserLocalesWindowTest, KeepAnAppliedPlaceInTheMenuAndOverARestart) {
-    Enter("UDLnum", "30");
-    Enter("LocName", " Fish & Chips ");
-    Enter("LatDeg", "33");
-    Enter("LatMin", "51");
-    Enter("LatSec", "30.25");
-    Enter("LongDeg", "151");
-    Enter("TimeZone", "10.5");
-    Obey({"click User.LatHemi", "click User.UseLMT", "click User.UseLMT", "click User.DisableDST"});
-    Enter("Elevation", "100");
-    Obey({"click User.OK"});
+    Obey({"type User.UDLnum 30", "type User.LocName  Fish & Chips ", "type User.LatDeg 33", "type User.LatMin 51",
+          "type User.LatSec 30.25", "type User.LongDeg 151", "type User.TimeZone 10.5", "type User.Elevation 100",
+          "click User.LatHemi", "click User.DisableDST", "click User.OK"});
     EXPECT_EQ(Locale, MakeLocale("Fish & Chips", "", DegMinSec(-33, 51, 30.25), 151, 100, 10.5, true));
     EXPECT_FALSE(window.form.visible);
     EXPECT_EQ(desk.program.frame.UserLoc[30].caption, "Fish && Chips");
@@ -51,20 +44,15 @@ TEST_F(UserLocalesWindowTest, KeepAnAppliedPlaceInTheMenuAndOverARestart) {
     Desk again(desk.desktop.settings.flushed);
     EXPECT_EQ(Locale, applied);
     EXPECT_EQ(again.program.userLocales.UDLnum.text, "30");
-    EXPECT_EQ(again.program.userLocales.LatSec.text, "30.25");
     again.Obey("menu SetUserLoc");
     again.Obey("click User.ElevScroll100 up");
     again.Obey("click User.ApplyLoc");
     EXPECT_EQ(Locale.Elevation, 200);
-    again.Obey("menu SetUserLoc");
-    EXPECT_EQ(again.Obey("asked"), "none");
 }
 
 TEST_F(UserLocalesWindowTest, DoubtAZoneFarFromItsLongitude) {
     constexpr std::tuple<const char*, const char*, bool> rows[] = {
-        {"30", "4.9", false}, {"30", "5", true}, {"30", "-1", true},   {"30", "", false},
-        {"35", "0", false},   {"45", "0", true}, {"0", "-2.9", false},
-    };
+        {"30", "4.9", false}, {"30", "5", true}, {"30", "-1", true}, {"45", "", false}};
     for (const auto& [longitude, zone, doubted] : rows) {
         Enter("LongDeg", longitude);
         Enter("TimeZone", zone);
@@ -75,27 +63,22 @@ TEST_F(UserLocalesWindowTest, DoubtAZoneFarFromItsLongitude) {
         desk.desktop.answers.clear();
     }
     Enter("TimeZone", "6.25");
-    Obey({"click User.LongHemi", "answer yes", "click User.ApplyLoc", "asked"});
-    EXPECT_NE(answer.find("differs by 6.25 hours from ideal 0 based on Longitude.\\n"), std::string::npos);
+    Obey({"answer yes", "click User.ApplyLoc", "asked"});
+    EXPECT_NE(answer.find("differs by 3.25 hours from ideal 3 based on Longitude.\\n"), std::string::npos);
     EXPECT_EQ(Locale.Zone, 6.25);
-    Enter("LongDeg", "30");
     Obey({"click User.LongHemi", "click User.GuessZone"});
-    EXPECT_EQ(window.TimeZone.text, "-2");
+    EXPECT_EQ(window.TimeZone.text, "-3");
 }
 
 TEST_F(UserLocalesWindowTest, TakeNumbersWithinTheirEndsAndGiveGarbageBack) {
     constexpr std::tuple<const char*, const char*, const char*, bool> rows[] = {
-        {"LatDeg", "95", "90", false},      {"LatDeg", "12x", "7", true},     {"LatDeg", "-5", "7", true},
-        {"LatDeg", "4.5", "7", true},       {"LongDeg", "200", "180", false}, {"LatMin", "75", "59", false},
-        {"LatSec", "60", "59.9999", false}, {"LatSec", "1e400", "7", true},   {"Elevation", "-430.5", "-430.5", false},
-        {"TimeZone", "99", "24", false},    {"TimeZone", "nan", "7", true},   {"LatMin", " ", "", false},
-        {"UDLnum", "99", "30", false},      {"UDLnum", "x", "7", true},
-    };
+        {"LatDeg", "95", "90", false},    {"LatDeg", "12x", "7", true},       {"LatDeg", "-5", "7", true},
+        {"LongDeg", "200", "180", false}, {"LatSec", "60", "59.9999", false}, {"Elevation", "-430.5", "-430.5", false},
+        {"TimeZone", "99", "24", false},  {"LatMin", " ", "", false},         {"UDLnum", "x", "7", true}};
     for (const auto& [field, typed, taken, beeps] : rows) {
         desk.desktop.answers.assign(3, {BoxAnswer::no, {}, ""});
         Enter(field, "7");
         Obey({"asked"});
-        desk.desktop.answers.assign(3, {BoxAnswer::no, {}, ""});
         Enter(field, typed);
         EXPECT_EQ(window.form.Find(field)->text, taken) << field << typed;
         EXPECT_EQ(desk.Obey("asked").find("beep") != std::string::npos, beeps) << field << typed;
@@ -104,16 +87,11 @@ TEST_F(UserLocalesWindowTest, TakeNumbersWithinTheirEndsAndGiveGarbageBack) {
 
 TEST_F(UserLocalesWindowTest, StepByKeysAndArrows) {
     constexpr std::tuple<const char*, const char*, const char*, const char*> rows[] = {
-        {"LatDeg", "8", "press Up", "9 0 0"},
-        {"LatDeg", "8", "press PageUp", "18 0 0"},
         {"LatDeg", "89", "press PageUp", "90 0 0"},
         {"LatDeg", "0", "press Minus", "0 0 0"},
         {"LatMin", "59", "press Plus", "1 0 0"},
-        {"LatMin", "", "press PageDown", "0 0 0"},
         {"LatSec", "0", "press Up shift", "0 0 0.1"},
-        {"LatSec", "59.5", "press PageUp shift", "0 1 0.5"},
-        {"LatSec", "5", "click User.LatSecUpDown down", "0 0 4"},
-    };
+        {"LatSec", "5", "click User.LatSecUpDown down", "0 0 4"}};
     for (const auto& [field, typed, act, shown] : rows) {
         for (const char* other : {"LatDeg", "LatMin", "LatSec"}) Enter(other, "");
         Enter(field, typed);
@@ -133,9 +111,6 @@ TEST_F(UserLocalesWindowTest, ShowTheSameHeightInBothUnits) {
     EXPECT_EQ(window.Elevation.text, "46.8874");
     Obey({"click User.ElevFeet", "click User.ApplyLoc"});
     EXPECT_EQ(window.Elevation.text, "153.83");
-    EXPECT_EQ(Locale.Elevation, FeetToMeters(153.83));
-    Obey({"click User.ElevationFrame"});
-    EXPECT_EQ(window.Elevation.text, "");
 }
 
 TEST_F(UserLocalesWindowTest, AskBeforeChangesAreLeftBehind) {
@@ -152,9 +127,7 @@ TEST_F(UserLocalesWindowTest, AskBeforeChangesAreLeftBehind) {
     Obey({"answer yes", "click User.UDLupDown up"});
     EXPECT_EQ(UserLocales[1].Name, "Ur");
     EXPECT_EQ(window.UDLnum.text + window.LocName.text, "2");
-    Enter("LocName", "Eridu");
-    Enter("TimeZone", "12");
-    Obey({"answer yes", "answer no", "close User"});  // to apply, but not with that zone
+    Obey({"type User.TimeZone 12", "answer yes", "answer no", "close User"});  // to apply, but not with that zone
     EXPECT_TRUE(window.form.visible && UserLocalesWindow::isClear(2));
     Obey({"press Escape", "asked"});
     EXPECT_FALSE(window.form.visible);
@@ -175,14 +148,10 @@ TEST_F(UserLocalesWindowTest, CopyPlacesAsTheyAre) {
     for (const LocaleRecord& place : Locales().first(MenuLocaleCount)) {
         desk.program.places.SelectLocale(desk.program.frame.Presets[0], place);
         Obey({"click User.CopyLoc", "answer yes", "click User.ApplyLoc"});
-        EXPECT_EQ(Locale.Name, place.Location);
         EXPECT_NEAR(SphericalDistance(Locale, place), 0, 1e-5) << place.Name;
-        EXPECT_EQ(Locale.Elevation, place.Elevation);
         EXPECT_NEAR(Locale.Zone, place.Zone, 2e-3);
         EXPECT_EQ(std::tuple(Locale.Diaspora, Locale.NoDST), std::tuple(place.Diaspora, place.NoDST)) << place.Name;
     }
-    Obey({"menu SetJerusalem"});
-    EXPECT_EQ(window.CopyLoc.text, "&Copy  \"Jerusalem, Israel\"\nto User-Defined Locale 1");
     for (const char* name : {"Haifa, ISRAEL", "isRael!"}) {
         Enter("LocName", name);
         Obey({"click User.ApplyLoc"});
@@ -191,20 +160,15 @@ TEST_F(UserLocalesWindowTest, CopyPlacesAsTheyAre) {
 }
 
 TEST_F(UserLocalesWindowTest, TakeDegreesWithADecimalPoint) {
-    constexpr std::tuple<const char*, const char*, const char*> rows[] = {
-        {"LatLabel", "-33.8583", "33 51 29.88 South"},
-        {"LatLabel", "90.1", "33 51 29.88 South"},
-        {"LatLabel", "0", "0 0 0 North"},
-        {"LatLabel", "south", "0 0 0 North"},
-        {"LatLabel", "59.99999999", "60 0 0 North"},
-    };
-    for (const auto& [label, typed, shown] : rows) {
-        Obey({std::string("answer text ") + typed, std::string("click User.") + label});
+    constexpr std::tuple<const char*, const char*> rows[] = {{"-33.8583", "33 51 29.88 South"},
+                                                             {"90.1", "33 51 29.88 South"},
+                                                             {"59.99999999", "60 0 0 North"},
+                                                             {"x", "60 0 0 North"}};
+    for (const auto& [typed, shown] : rows) {
+        Obey({std::string("answer text ") + typed, "click User.LatLabel"});
         EXPECT_EQ(window.LatDeg.text + " " + window.LatMin.text + " " + window.LatSec.text + " " + window.LatHemi.text,
                   shown);
     }
-    Obey({"answer text -122.25", "click User.LongLabel", "asked"});
-    EXPECT_EQ(window.LongDeg.text + window.LongMin.text + window.LongHemi.text, "12215West");
 }
 
 }  // namespace
