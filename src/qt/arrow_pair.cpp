@@ -17,6 +17,7 @@ ArrowPair::ArrowPair(QWidget* parent)
     grid->addWidget(up_, 0, 1);
     grid->addWidget(down_, 1, 1);
     caption_->setTextFormat(Qt::PlainText);
+    caption_->hide();
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
 }
 
@@ -37,8 +38,10 @@ void ArrowPair::Draw(const UpDown& arrows) {
     const QString caption = QString::fromStdString(arrows.text);
     const QString tooltip = QString::fromStdString(arrows.tooltip);
     const QString spoken = QString::fromStdString(AccessibleName(arrows));
-    if (caption_->text() != caption) caption_->setText(caption);
-    caption_->setVisible(!caption.isEmpty());
+    if (caption_->text() != caption) {
+        caption_->setText(caption);
+        caption_->show();
+    }
     caption_->setAccessibleName(spoken);
     up_->setAccessibleName(spoken + QStringLiteral(", up"));
     down_->setAccessibleName(spoken + QStringLiteral(", down"));

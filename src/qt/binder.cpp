@@ -11,6 +11,7 @@
 #include <QGroupBox>
 #include <QKeyEvent>
 #include <QLabel>
+#include <QLayout>
 #include <QLineEdit>
 #include <QMouseEvent>
 #include <QRadioButton>
@@ -18,6 +19,7 @@
 
 #include <algorithm>
 #include <optional>
+#include <ranges>
 #include <utility>
 
 namespace horvanta {
@@ -311,8 +313,14 @@ void Binder::KeepRoom(const Bound& bound) {
     SetText(widget, shown);
 }
 
+/// What has changed within a widget is told to the layout around it at once, inner ones first: the window is given its
+/// size next.
 void Binder::Draw() {
     for (const auto& [control, widget] : bound_) DrawControl(*control, *widget);
+    for (const Bound& bound : bound_ | std::views::reverse) {
+        QLayout* inside = bound.widget->layout();
+        if (inside && inside->activate()) bound.widget->updateGeometry();
+    }
 }
 
 QWidget* Binder::WidgetOf(const Control& control) const {

@@ -342,6 +342,34 @@ class FormTest final : public QObject {
         QCOMPARE(window->size(), before);
     }
 
+    void fieldsAndBoxesTakeTheirOwnKeysAndClicks() {
+        Session session;
+        session.program.frame.SetUserLoc.Click();
+        session.frame().Draw();
+        const Moment before = DisplayedMoment;
+        auto* name = session.Find<QLineEdit>("LocName");
+        QTest::keyClicks(name, QStringLiteral("Ur - of = the +"));
+        QCOMPARE(name->text(), QStringLiteral("Ur - of = the +"));
+        auto* degrees = session.Find<QLineEdit>("LatDeg");
+        degrees->setFocus();
+        for (const Qt::Key key : {Qt::Key_Plus, Qt::Key_Equal, Qt::Key_PageUp, Qt::Key_Up, Qt::Key_Minus}) {
+            session.Press(key);
+        }
+        QCOMPARE(degrees->text(), QStringLiteral("12"));
+        auto* elevation = session.Find<QLineEdit>("Elevation");
+        session.Press(Qt::Key_V, Qt::AltModifier);
+        QVERIFY(elevation->hasFocus());
+        QTest::keyClicks(elevation, QStringLiteral("-400"));
+        session.Find<QRadioButton>("ElevFeet")->click();
+        QCOMPARE(elevation->text(), QStringLiteral("-1312.336"));
+        auto* box = session.Find<QGroupBox>("ElevationFrame");
+        QTest::mouseClick(box, Qt::LeftButton, {}, QPoint(box->width() / 2, elevation->geometry().bottom() + 2));
+        QVERIFY(!elevation->text().isEmpty());
+        QTest::mouseClick(box, Qt::LeftButton, {}, QPoint(12, 4));
+        QVERIFY(elevation->text().isEmpty());
+        QCOMPARE(DisplayedMoment, before);
+    }
+
     void aMapOpensWithItsAddressAsItIs() {
         Session session;
         Browser browser;
@@ -406,6 +434,9 @@ class FormTest final : public QObject {
                 QCoreApplication::processEvents();
                 checkWindows(session);
             }
+            session.program.SetUserLoc_Click();
+            session.frame().Draw();
+            checkTexts(*session.Window(session.program.userLocales.form));
         }
         QApplication::setFont(standard);
     }
@@ -484,13 +515,18 @@ class FormTest final : public QObject {
         QRegion together;
         for (Form* form : session.program.forms) {
             const QMdiSubWindow* window = session.Window(*form);
-            QVERIFY(window->parentWidget()->rect().contains(window->geometry()));
-            QVERIFY(!form->visible || !together.intersects(window->geometry()));
-            if (form->visible) together += window->geometry();
-            for (const auto* label : window->findChildren<QLabel*>()) {
-                const bool fits = label->size().expandedTo(label->sizeHint()) == label->size();
-                QVERIFY2(fits, qPrintable(label->objectName() + u' ' + label->text()));
-            }
+            if (!form->visible) continue;
+            QVERIFY(!together.intersects(window->geometry()));
+            together += window->geometry();
+            checkTexts(*window);
+        }
+    }
+
+    static void checkTexts(const QMdiSubWindow& window) {
+        QVERIFY(window.parentWidget()->rect().contains(window.geometry()));
+        for (const auto* label : window.findChildren<QLabel*>()) {
+            const bool fits = label->size().expandedTo(label->sizeHint()) == label->size();
+            QVERIFY2(fits, qPrintable(label->objectName() + u' ' + label->text()));
         }
     }
 

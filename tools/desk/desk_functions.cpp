@@ -235,6 +235,16 @@ DeskFunction TimeRow(std::string_view name, void (TimeAstro::*command)(Arguments
             }};
 }
 
+/// Whether a slot of the user's places was never filled.
+DeskFunction ClearRow() {
+    return {"isClear", [](Horvanta&, std::span<const std::string> words) {
+                return CallWith<std::size_t>(words, [](std::size_t slot) {
+                    if (slot < 1 || slot >= UserLocales.size()) throw BadLine("no such slot");
+                    return UserLocalesWindow::isClear(slot);
+                });
+            }};
+}
+
 DeskFunction MonthNamesRow(std::string_view name, const CalendarContract& calendar) {
     return {name, [&calendar](Horvanta&, std::span<const std::string>) {
                 Form form("Desk", "");
@@ -347,6 +357,7 @@ const std::vector<DeskFunction> functions{
     TimeRow("DayUpDown", &TimeAstro::DayUpDown),
     TimeRow("StepMenu_Click", &TimeAstro::StepMenu_Click),
 
+    ClearRow(),
     Row("MakeLocale", MakeLocale),
     Row(
         "PresetLocale", +[](const LocaleRecord& place) { return place; }),
