@@ -16,6 +16,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <set>
 
 namespace horvanta {
 namespace {
@@ -151,25 +152,39 @@ void Frame::DrawPlace(Child& child) {
     QRect wished = window.geometry();
     wished.moveTo(Pixels(place.left, reach - window.width(), room.width() - reach),
                   Pixels(place.top, 0, room.height() - reach));
-    if (!child.form->placed) {
-        if (wished.right() >= room.width()) wished.moveLeft(0);
-        wished.moveTop(FreeTop(child, wished));
-    }
+    if (!child.form->placed) wished.moveTo(FreePlace(child, wished));
     if (window.pos() != wished.topLeft()) window.move(wished.topLeft());
 }
 
-/// How far down a window has to stand so as not to cover those drawn before it.
-int Frame::FreeTop(const Child& child, QRect wished) const {
+/// Where a window that no one has placed may stand: as it wishes, or at the highest place, to the left, beside or below
+/// those drawn before it at which it fits into the frame and covers none of them. Where there is none it stays within
+/// the frame.
+QPoint Frame::FreePlace(const Child& child, QRect wished) const {
     constexpr int gap = 1;  // pixels
-    const auto covered = [&](const Child& other) {
-        return other.form->visible && wished.intersects(other.window->geometry());
-    };
-    const auto end = std::find_if(children_.begin(), children_.end(), [&](const Child& c) { return &c == &child; });
-    for (auto other = std::find_if(children_.begin(), end, covered); other != end;
-         other = std::find_if(children_.begin(), end, covered)) {
-        wished.moveTop(other->window->geometry().bottom() + 1 + gap);
+    std::vector<QRect> taken;
+    std::set<int> tops{0, wished.top()};
+    std::set<int> lefts{0};
+    for (const Child& other : children_) {
+        if (&other == &child) break;
+        if (!other.form->visible) continue;
+        taken.push_back(other.window->geometry());
+        tops.insert(taken.back().bottom() + 1 + gap);
+        lefts.insert(taken.back().right() + 1 + gap);
     }
-    return wished.top();
+    const auto fits = [&](const QRect& place) {
+        return area_->viewport()->rect().contains(place) &&
+               std::none_of(taken.begin(), taken.end(), [&](const QRect& t) { return t.intersects(place); });
+    };
+    if (fits(wished)) return wished.topLeft();
+    const QPoint within(std::max(0, std::min(wished.left(), area_->viewport()->width() - wished.width())),
+                        std::max(0, std::min(wished.top(), area_->viewport()->height() - wished.height())));
+    for (const int top : tops) {
+        for (const int left : lefts) {
+            wished.moveTo(left, top);
+            if (fits(wished)) return wished.topLeft();
+        }
+    }
+    return within;
 }
 
 void Frame::PlaceAll() {

@@ -59,7 +59,7 @@ class Frame final : public QMainWindow, public Acts {
     void DrawChild(Child& child);
     void DrawSize(Child& child);
     void DrawPlace(Child& child);
-    int FreeTop(const Child& child, QRect wished) const;
+    QPoint FreePlace(const Child& child, QRect wished) const;
     void PlaceAll();
     void GrantFocus(Child& child);
     void ShowFirst();

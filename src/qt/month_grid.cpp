@@ -61,6 +61,7 @@ void MonthGrid::Draw(const CellGrid& grid) {
     Arrange(grid.across);
     for (std::size_t i = 0; i < headings_.size(); ++i) {
         SetText(*headings_[i], grid.headings[i].text);
+        headings_[i]->setAccessibleName(QString::fromStdString(grid.headings[i].text));
         headings_[i]->setToolTip(QString::fromStdString(grid.headings[i].tooltip));
     }
     for (std::size_t i = 0; i < cells_.size(); ++i) DrawCell(grid, i);
@@ -71,6 +72,8 @@ void MonthGrid::DrawCell(const CellGrid& grid, std::size_t index) {
     const CellGrid::Cell& cell = grid.cells[index];
     const bool active = index == grid.active && !cell.blank;
     SetText(label, cell.text);
+    const std::string& heading = grid.headings[index % grid.headings.size()].text;
+    label.setAccessibleName(QString::fromStdString(cell.blank ? "no day" : heading + " " + cell.text));
     QPalette colors = palette();
     colors.setColor(QPalette::Window, palette().color(cell.blank ? QPalette::Button : QPalette::Base));
     colors.setColor(QPalette::WindowText, palette().color(QPalette::Text));

@@ -9,9 +9,9 @@
 
 #include <QApplication>
 #include <QCheckBox>
-#include <QComboBox>
 #include <QClipboard>
 #include <QColorDialog>
+#include <QComboBox>
 #include <QDesktopServices>
 #include <QFile>
 #include <QGroupBox>
@@ -135,7 +135,9 @@ QByteArray ReadFile(const QString& path) {
 bool isReader(const QWidget& widget) {
     const QWidget* parent = widget.parentWidget();
     if (qobject_cast<const PanelBar*>(parent) || qobject_cast<const ArrowPair*>(parent)) return false;
+    if (qobject_cast<const MonthGrid*>(parent)) return false;
     return qobject_cast<const PanelBar*>(&widget) || qobject_cast<const ArrowPair*>(&widget) ||
+           qobject_cast<const MonthGrid*>(&widget) || qobject_cast<const QComboBox*>(&widget) ||
            qobject_cast<const QGroupBox*>(&widget) || qobject_cast<const QLabel*>(&widget) ||
            qobject_cast<const QAbstractButton*>(&widget) ||
            (qobject_cast<const QLineEdit*>(&widget) && !widget.objectName().isEmpty());

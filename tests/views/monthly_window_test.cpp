@@ -77,6 +77,7 @@ TEST(Monthly, MovesByMonthsAndYears) {
     EXPECT_EQ(DisplayedMoment, 8446.5);
     desk.Obey("choose Monthly.MonthNames 2");
     EXPECT_EQ(DisplayedMoment, 8475);
+    desk.Obey("focus Monthly.Days");
     EXPECT_EQ(desk.Obey("press Escape"), "ok");
     EXPECT_EQ(desk.desktop.focused, &desk.program.timeAstro.FixedDayNum);
 }
