@@ -5,6 +5,7 @@
 #include "app/places.h"
 #include "app/time_astro.h"
 #include "calendars/gregorian_window.h"
+#include "calendars/persian_window.h"
 #include "core/shell.h"
 
 namespace horvanta {
@@ -39,15 +40,19 @@ class Horvanta {
     /// Shows the Gregorian window, or hides it.
     void GregCal_Click();
 
+    /// Shows the Persian window, or hides it.
+    void PersianCal_Click();
+
     HorvantaMDI frame;
     TimeAstro timeAstro{frame};
     GregorianWindow gregorian{frame};
+    PersianWindow persian{frame};
     Places places{frame, timeAstro.fields};
     Jumps jumps{frame, timeAstro};
     Options options{frame};
 
     /// In the order in which they are loaded.
-    Form* const forms[2] = {&timeAstro.form, &gregorian.form};
+    Form* const forms[3] = {&timeAstro.form, &gregorian.form, &persian.form};
 
   private:
     void HangHandlers();

@@ -113,12 +113,12 @@ Setting StoredColor(std::string_view key, std::int32_t otherwise, Window& window
 }
 
 /// Where a window stands, if it has not been moved, is told when it is loaded: it may hang on another.
-Setting Window(Form& form, bool& check, std::function<Place()> standard) {
+Setting Window(Form& form, bool& check, std::function<Place()> standard, bool shown = true) {
     return {form.name, "Top Left Chk",
             [=, &form, &check] {
                 constexpr double farthest = 1e6;  // twips
                 const Place place = standard();
-                LoadWindowPrefs(form, check, place.top, place.left, true);
+                LoadWindowPrefs(form, check, place.top, place.left, shown);
                 if (std::fabs(form.place.top) > farthest) form.place.top = place.top;
                 if (std::fabs(form.place.left) > farthest) form.place.left = place.left;
             },
@@ -233,8 +233,12 @@ Table ProgramTable(Horvanta& program, StoredPlace& stored) {
     TimeAstro& time = program.timeAstro;
     TimeFields& fields = time.fields;
     GregorianWindow& gregorian = program.gregorian;
+    PersianWindow& persian = program.persian;
     const auto besideTime = [&time] {
         return Place{time.form.place.left + time.form.place.width + gap, time.form.place.top};
+    };
+    const auto belowGregorian = [&gregorian] {
+        return Place{gregorian.form.place.left, gregorian.form.place.top + gregorian.form.place.height + gap};
     };
     const auto literal = [](std::string_view text) { return [text] { return std::string(text); }; };
     const auto shade = [&gregorian](bool isBackground) {
@@ -263,7 +267,7 @@ Table ProgramTable(Horvanta& program, StoredPlace& stored) {
         Kept("User", "Chk", "False"),
         Window(gregorian.form, gregorian.form.visible, besideTime),
         Kept("Lunar", "Chk", "True"),
-        Kept("Persian", "Chk", "False"),
+        Window(persian.form, persian.form.visible, belowGregorian, false),
         Kept("Chinese", "Chk", "False"),
         Kept("Item", "EW", "9360"),
 
@@ -278,7 +282,8 @@ Table ProgramTable(Horvanta& program, StoredPlace& stored) {
         Written("Color", "IBC", shade(true)), Written("Color", "IFC", shade(false)),
         Kept("Color", "SBC", "16706033"),     Kept("Color", "SFC", "0"),
         Kept("Color", "HBC", "16777152"),     Kept("Color", "HFC", "0"),
-        Kept("Color", "PBC", "10220253"),     Kept("Color", "PFC", "0"),
+        StoredColor("PBC", 10220253, persian, persian.ThePersianDate, true),
+        StoredColor("PFC", 0, persian, persian.ThePersianDate, false),
         Kept("Color", "JBC", "14680063"),     Kept("Color", "JFC", "0"),
         Kept("Color", "ChinBC", "255"),       Kept("Color", "ChinFC", "65535"),
         Kept("Color", "JapBC", "16777215"),   Kept("Color", "JapFC", "217"),
