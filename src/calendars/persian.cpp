@@ -27,12 +27,12 @@ double DegreesPastAtNoon(FixedDay day) {
     return longitude > 300 ? longitude - 360 : longitude;
 }
 
-/// The first day with the equinox behind its noon. From one noon to the next the Sun goes on by 0.953° to 1.019°, less
-/// or more with the season and the millennium: where the days back by a slower and by a faster Sun are the same, they
-/// need no second look.
+/// The first day with the equinox behind its noon. At the equinox the Sun goes on by 0.948° to 1.026° from noon to
+/// noon, as the millennium is: where the days back by a slower and by a faster Sun are the same, they need no second
+/// look.
 FixedDay FindNorouz(YearIndex index) {
-    constexpr double slowest = 0.945;  // degrees
-    constexpr double fastest = 1.025;
+    constexpr double slowest = 0.94;  // degrees
+    constexpr double fastest = 1.035;
     constexpr int patience = 50;
     const LocaleScope tehran(TehranMeridian());
     FixedDay day = Floor(static_cast<double>(index) * meanYear + PersianEpoch);
