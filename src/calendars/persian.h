@@ -58,7 +58,7 @@ FixedDay PersianToFixed(std::int32_t year, std::int32_t month, std::int32_t day)
 /// The date of a moment.
 PersianDate FixedToPersianDate(Moment x);
 
-/// The date as "1 Farvardin 1403 PE"; a year before 1 as "29 Esfand -1 BPE".
+/// The date as "1 Farvardin 1403 PE"; a year before 1 as "30 Esfand -1 BPE".
 std::string PersianDateString(const PersianDate& date);
 
 /// The moment of the equinox in Iran's standard time if it falls on `day`, the first or the last of a Persian year;

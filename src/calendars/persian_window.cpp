@@ -1,5 +1,6 @@
 #include "calendars/persian_window.h"
 
+#include "calendars/calendar_text.h"
 #include "core/day_events.h"
 #include "core/moment.h"
 #include "core/text.h"
@@ -80,7 +81,7 @@ PersianDate DisplayedPersianDate() { return FixedToPersianDate(DisplayedMoment);
 
 PersianWindow::PersianWindow(HorvantaMDI& frame) : frame_(frame) {
     ThePersianDate.colors = defaultColors;
-    ThePersianDate.Click = [this] { frame_.SetClipboardText(ThePersianDate.text); };
+    CopyOnClick(frame_, ThePersianDate);
     ThePersianDate.DblClick = [this] { PickBackgroundColor(); };
     ThePersianDate.RightClick = [this] { PickForegroundColor(); };
     LeapCheckbox.Shows(isLeap_);
