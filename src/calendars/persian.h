@@ -61,8 +61,7 @@ PersianDate FixedToPersianDate(Moment x);
 /// The date as "1 Farvardin 1403 PE"; a year before 1 as "30 Esfand -1 BPE".
 std::string PersianDateString(const PersianDate& date);
 
-/// The moment of the equinox in Iran's standard time if it falls on `day`, the first or the last of a Persian year;
-/// otherwise `NeverMoment`.
+/// The moment of the northward equinox in Iran's standard time if it falls on `day` there; otherwise `NeverMoment`.
 Moment PersianEquinoxOn(FixedDay day);
 
 }  // namespace horvanta
