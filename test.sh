@@ -4,6 +4,7 @@
 # ./test.sh bench  the benchmarks and the start of the program, as ratios within one run
 # ./test.sh long   a million random acts under the sanitizers
 # ./test.sh cycle  the Hebrew new years of the whole cycle of 689,472 years
+# ./test.sh walk   every day of the Persian years -100 to 1600
 source "$(dirname "$0")/tools/setup.sh"
 
 heading() { printf '\n== %s\n' "$1"; }
@@ -119,8 +120,12 @@ case "${1:-quick}" in
         build release
         HORVANTA_WHOLE_CYCLE=1 build/release/tests/horvanta_tests --gtest_filter='Hebrew.LengthsOfYears*'
         ;;
+    walk)
+        build release
+        HORVANTA_EVERY_DAY=1 build/release/tests/horvanta_tests --gtest_filter='Persian.DaysFollow*'
+        ;;
     *)
-        sed -n '2,6s/^# //p' test.sh
+        sed -n '2,7s/^# //p' test.sh
         exit 2
         ;;
 esac

@@ -47,6 +47,9 @@ void Horvanta::HangHandlers() {
         places.SetUserLocale(slot, place);
         places.UserLoc_Click(slot);
     };
+    frame.PersianCal.Shows(persian.form.visible);
+    frame.PersianCal.Click = [this] { PersianCal_Click(); };
+    persian.form.Close = frame.PersianCal.Click;
 }
 
 void Horvanta::Start() {
@@ -134,11 +137,14 @@ void Horvanta::OfferCalendars() {
     const auto gregorianShown = [this] { return gregorian.form.visible; };
     monthly.Offer(1, {&GregorianCalendar, &gregorian.GregorianDate, &frame.GregCal, gregorianShown});
     monthly.Offer(2, {&ISOCalendar, &gregorian.TheISOdate, &frame.GregCal, gregorianShown});
+    monthly.Offer(
+        5, {&PersianCalendar, &persian.ThePersianDate, &frame.PersianCal, [this] { return persian.form.visible; }});
 }
 
 void Horvanta::CalendarMonth_Click() { ShowOrHide(monthly.form, monthly.Days); }
 
 void Horvanta::GregCal_Click() { ShowOrHide(gregorian.form, gregorian.Dummy); }
+void Horvanta::PersianCal_Click() { ShowOrHide(persian.form, persian.Dummy); }
 
 void Horvanta::SetUserLoc_Click() {
     if (userLocales.isDirty() != YesNoCancel::Cancel) ShowOrHide(userLocales.form, userLocales.LocName);

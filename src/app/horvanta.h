@@ -5,6 +5,7 @@
 #include "app/places.h"
 #include "app/time_astro.h"
 #include "calendars/gregorian_window.h"
+#include "calendars/persian_window.h"
 #include "core/shell.h"
 #include "locale/user_locales_window.h"
 #include "views/monthly_window.h"
@@ -40,6 +41,7 @@ class Horvanta {
 
     // Each shows its window, or hides it.
     void GregCal_Click();
+    void PersianCal_Click();
     void CalendarMonth_Click();
 
     /// Shows the window of the user's own places, or hides it unless the user stops that for the sake of changes.
@@ -48,6 +50,7 @@ class Horvanta {
     HorvantaMDI frame;
     TimeAstro timeAstro{frame};
     GregorianWindow gregorian{frame};
+    PersianWindow persian{frame};
     UserLocalesWindow userLocales{frame};
     MonthlyWindow monthly{frame};
     Places places{frame, timeAstro.fields};
@@ -55,7 +58,7 @@ class Horvanta {
     Options options{frame};
 
     /// In the order in which they are loaded.
-    Form* const forms[4] = {&timeAstro.form, &gregorian.form, &monthly.form, &userLocales.form};
+    Form* const forms[5] = {&timeAstro.form, &gregorian.form, &persian.form, &monthly.form, &userLocales.form};
 
   private:
     void HangHandlers();

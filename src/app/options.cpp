@@ -18,7 +18,6 @@ struct Numbering {
 };
 
 constexpr Epoch pickEpoch{718431};      // January 1, 1968
-constexpr Epoch persianEpoch{226895};   // March 22, 622
 constexpr Epoch chineseEpoch{-985012};  // February 18, -2696
 
 constexpr Numbering numberings[] = {
@@ -31,7 +30,7 @@ constexpr Numbering numberings[] = {
     {[] { return MJDEpoch + 1; }, 0},
     {[] { return TJDEpoch + 1; }, 0},
     {[] { return GregorianToFixed(1601, 1, 1); }, 1},
-    {[] { return Moment{persianEpoch}; }, 1},
+    {[] { return Moment{PersianEpoch}; }, 1},
     {[] { return Moment{chineseEpoch}; }, 1},
     {[] { return Moment{HebrewEpoch}; }, 1},
 };

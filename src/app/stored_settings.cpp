@@ -233,16 +233,13 @@ Table ProgramTable(Horvanta& program, StoredPlace& stored) {
     TimeAstro& time = program.timeAstro;
     TimeFields& fields = time.fields;
     GregorianWindow& gregorian = program.gregorian;
+    PersianWindow& persian = program.persian;
     UserLocalesWindow& user = program.userLocales;
-    const auto besideTime = [&time] {
-        return Place{time.form.place.left + time.form.place.width + gap, time.form.place.top};
+    const auto beside = [](const Form& form) {
+        return [&form] { return Place{form.place.left + form.place.width + gap, form.place.top}; };
     };
-    const auto belowTime = [&time] {
-        return Place{time.form.place.left, time.form.place.top + time.form.place.height + gap};
-    };
-    const auto besideMonth = [&program] {
-        const Place& month = program.monthly.form.place;
-        return Place{month.left + month.width + gap, month.top};
+    const auto below = [](const Form& form) {
+        return [&form] { return Place{form.place.left, form.place.top + form.place.height + gap}; };
     };
     const auto literal = [](std::string_view text) { return [text] { return std::string(text); }; };
     const auto shade = [&gregorian](bool isBackground) {
@@ -263,15 +260,15 @@ Table ProgramTable(Horvanta& program, StoredPlace& stored) {
         LayoutMark(time.form),
 
         Window(time.form, AlwaysToday, true, [] { return Place(); }),
-        Window(program.monthly.form, program.monthly.form.visible, true, belowTime),
+        Window(program.monthly.form, program.monthly.form.visible, true, below(time.form)),
         Kept("Quartane", "Chk", "True"),
         Kept("Julian", "Chk", "False"),
         Kept("Events", "Chk", "True"),
         Kept("Hebrew", "Chk", "True"),
-        Window(user.form, user.form.visible, false, besideMonth),
-        Window(gregorian.form, gregorian.form.visible, true, besideTime),
+        Window(user.form, user.form.visible, false, beside(program.monthly.form)),
+        Window(gregorian.form, gregorian.form.visible, true, beside(time.form)),
         Kept("Lunar", "Chk", "True"),
-        Kept("Persian", "Chk", "False"),
+        Window(persian.form, persian.form.visible, false, below(gregorian.form)),
         Kept("Chinese", "Chk", "False"),
         Kept("Item", "EW", "9360"),
 
@@ -292,7 +289,8 @@ Table ProgramTable(Horvanta& program, StoredPlace& stored) {
         Written("Color", "IBC", shade(true)), Written("Color", "IFC", shade(false)),
         Kept("Color", "SBC", "16706033"),     Kept("Color", "SFC", "0"),
         Kept("Color", "HBC", "16777152"),     Kept("Color", "HFC", "0"),
-        Kept("Color", "PBC", "10220253"),     Kept("Color", "PFC", "0"),
+        StoredColor("PBC", 10220253, persian, persian.ThePersianDate, true),
+        StoredColor("PFC", 0, persian, persian.ThePersianDate, false),
         Kept("Color", "JBC", "14680063"),     Kept("Color", "JFC", "0"),
         Kept("Color", "ChinBC", "255"),       Kept("Color", "ChinFC", "65535"),
         Kept("Color", "JapBC", "16777215"),   Kept("Color", "JapFC", "217"),

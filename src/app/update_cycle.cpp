@@ -21,6 +21,7 @@ void RunUpdatePass(Horvanta& program) {
     if (isLastPass() && ShowsDawnDusk) time.fields.ShowDay();
     program.userLocales.SetCopyLocToolText();
     if (program.gregorian.form.visible) program.gregorian.Update();
+    if (program.persian.form.visible) program.persian.Update();
     if (isLastPass()) time.fields.ShowAstronomy();
     if (program.monthly.form.visible) program.monthly.Update();
 }

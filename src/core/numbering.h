@@ -27,6 +27,7 @@ inline constexpr Epoch JulianEpoch{-2};                  ///< January 1 of Julia
 inline constexpr Epoch MinFixedDay{-2533804};            ///< The first day that can be displayed.
 inline constexpr Epoch MaxFixedDay{-2533804 + 6916348};  ///< The last day that can be displayed.
 inline constexpr Epoch HebrewEpoch{-1373428};            ///< First day of the Hebrew count.
+inline constexpr Epoch PersianEpoch{226895};             ///< March 22, 622; March 19 by the Julian calendar.
 inline constexpr Epoch J2000{730119.5};                  ///< January 1, 2000 at noon.
 inline constexpr Epoch Epoch2001{730485};                ///< January 1, 2001.
 inline constexpr Epoch UnixEpoch{719162};                ///< January 1, 1970.

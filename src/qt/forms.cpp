@@ -2,6 +2,7 @@
 
 #include "forms/ui_gregorian.h"
 #include "forms/ui_monthly.h"
+#include "forms/ui_persian.h"
 #include "forms/ui_time_astro.h"
 #include "forms/ui_user.h"
 
@@ -23,6 +24,7 @@ constexpr DesignerForm designerForms[] = {
     {"Gregorian", SetUp<Ui::Gregorian>},
     {"Monthly", SetUp<Ui::Monthly>},
     {"User", SetUp<Ui::User>},
+    {"Persian", SetUp<Ui::Persian>},
 };
 
 }  // namespace

@@ -6,6 +6,8 @@
 #include "astro/timescales.h"
 #include "calendars/gregorian.h"
 #include "calendars/gregorian_window.h"
+#include "calendars/persian.h"
+#include "calendars/persian_window.h"
 #include "core/moment.h"
 #include "core/text.h"
 #include "hebrew/hebrew_arithmetic.h"
@@ -127,6 +129,23 @@ std::string AnswerOf(const ISODate& d) {
         .Add("weekday", d.weekday)
         .Add("ordinalDay", d.ordinalDay)
         .Add("isLeap", d.isLeap)
+        .Text();
+}
+
+std::string AnswerOf(const PersianDate& d) {
+    return Fields()
+        .Add("fixed", d.fixed)
+        .Add("newYear", d.newYear)
+        .Add("nextNewYear", d.nextNewYear)
+        .Add("isLeap", d.isLeap)
+        .Add("yearDay", d.yearDay)
+        .Add("weekOfYear", d.weekOfYear)
+        .Add("year", d.year)
+        .Add("month", d.month)
+        .Add("day", d.day)
+        .Add("daysBeforeMonth", d.daysBeforeMonth)
+        .Add("monthLength", d.monthLength)
+        .Add("weekday", d.weekday)
         .Text();
 }
 
@@ -460,6 +479,20 @@ const std::vector<DeskFunction> functions{
     MonthNamesRow("Gregorian.SetMonthNamesAlt", ISOCalendar),
     DayNamesRow("Gregorian.SetDayNamesAlt", ISOCalendar),
 
+    Row("persian::Norouz", persian::Norouz),
+    Row("persian::isLeapYear", persian::isLeapYear),
+    Row("FixedToPersianYear", FixedToPersianYear),
+    Row("PersianWeekdayNum", PersianWeekdayNum),
+    Row("PersianToFixed", PersianToFixed),
+    Row("FixedToPersianDate", FixedToPersianDate),
+    Row(
+        "PersianDateString", +[](Moment x) { return PersianDateString(FixedToPersianDate(x)); }),
+    Row("PersianEquinoxOn", PersianEquinoxOn),
+    Row("Persian.ToFixed", PersianWindow::ToFixed),
+    Row("Persian.GetDate", PersianWindow::GetDate),
+    MonthNamesRow("Persian.SetMonthNames", PersianCalendar),
+    DayNamesRow("Persian.SetDayNames", PersianCalendar),
+
     Row("ElapsedDays", ElapsedDays),
     Row("HebrewNewYear", HebrewNewYear),
     Row("DaysInHebrewYear", DaysInHebrewYear),
@@ -544,6 +577,7 @@ const std::vector<DeskVariable> variables{
     Constant("MinFixedDay", MinFixedDay),
     Constant("MaxFixedDay", MaxFixedDay),
     Constant("HebrewEpoch", HebrewEpoch),
+    Constant("PersianEpoch", PersianEpoch),
     Constant("J2000", J2000),
     Constant("Epoch2001", Epoch2001),
     Constant("JDEpoch", JDEpoch),

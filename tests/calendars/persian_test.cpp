@@ -1,0 +1,110 @@
+#include "calendars/persian.h"
+
+#include "astro/sun.h"
+#include "astro/sun_events.h"
+#include "astro/timescales.h"
+#include "calendars/gregorian.h"
+#include "calendars/persian_window.h"
+#include "core/day_events.h"
+#include "core/moment.h"
+#include "desk.h"
+#include "locale/presets.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cstdlib>
+
+namespace horvanta {
+namespace {
+
+/// The official leap years follow the cycle of 33 years for as long as it agrees with the Sun.
+TEST(Persian, LeapYearsAreTheOfficialOnes) {
+    constexpr int inCycle[] = {1, 5, 9, 13, 17, 22, 26, 30};
+    for (int year = 1304; year <= 1468; ++year) {
+        const bool leap = std::ranges::find(inCycle, year % 33) != std::end(inCycle);
+        EXPECT_EQ(persian::isLeapYear(year), leap) << year;
+    }
+}
+
+TEST(Persian, TheSunPassesTheEquinoxBeforeTheNoonOfTheNewYear) {
+    const LocaleScope tehran(TehranMeridian());
+    const auto longitude = [](FixedDay day) { return SolarLongitude(StandardToUniversal(SolarMidday(day))); };
+    for (int year = -7500; year <= 11'300; year += 7) {
+        const FixedDay day = persian::Norouz(year);
+        EXPECT_LT(longitude(day), 2) << year;
+        EXPECT_GT(longitude(day - 1), 358) << year;
+    }
+}
+
+/// Each day has the date after that of the day before, and every date leads back to its day.
+TEST(Persian, DaysFollowOneAnotherFromYearToYear) {
+    const Desk desk;
+    const bool everyDay = std::getenv("HORVANTA_EVERY_DAY") != nullptr;
+    for (FixedDay day = persian::Norouz(-100); day < persian::Norouz(1601); day += everyDay ? 1 : 5) {
+        DisplayedMoment = day + 1;
+        const GridDate next = PersianWindow::GetDate();
+        DisplayedMoment = day;
+        const auto [year, month, dayOfMonth, length, firstWeekday] = PersianWindow::GetDate();
+        const bool ends = dayOfMonth == length;
+        const int years = !ends || month < 12 ? 0 : year == -1 ? 2 : 1;
+        ASSERT_EQ(next.day, ends ? 1 : dayOfMonth + 1) << day;
+        ASSERT_EQ(next.month, ends ? month % 12 + 1 : month) << day;
+        ASSERT_EQ(next.year, year + years) << day;
+        ASSERT_EQ(PersianToFixed(year, month, dayOfMonth), day);
+        ASSERT_EQ((firstWeekday + dayOfMonth + 5) % 7, DayOfWeek(day)) << day;
+    }
+}
+
+TEST(Persian, RememberedYearsFollowTheNumberingAndDeltaT) {
+    const Desk desk;
+    const double before = persian::Norouz(1403) - GregorianEpoch;
+    SetFixedDayEpoch(GregorianEpoch + 1000, 1, "another");
+    EXPECT_EQ(persian::Norouz(1403) - GregorianEpoch, before);
+    EXPECT_EQ(PersianDateString(FixedToPersianDate(UnixEpoch)), "11 Dey 1348 PE");
+    EXPECT_EQ(PersianDateString(FixedToPersianDate(PersianEpoch - 1.0)), "30 Esfand -1 BPE");
+    EXPECT_EQ(persian::Norouz(0), persian::Norouz(1));
+    const FixedDay slowed = persian::Norouz(5);
+    SetDeltaTDisabled(true);
+    EXPECT_EQ(persian::Norouz(5), slowed + 1);
+    SetDeltaTDisabled(false);
+}
+
+std::string Events() {
+    std::string texts;
+    for (const day_events::Event& event : day_events::List()) {
+        if (event.calendar == "Persian") texts += event.text + ";";
+    }
+    return texts;
+}
+
+/// The equinoxes as Iran's almanacs give them.
+TEST(Persian, TheWindowShowsTheDateAndPostsTheEventsOfItsDay) {
+    struct Row {
+        int year, month, day;
+        const char *date, *events;
+    };
+    constexpr Row rows[] = {
+        {2024, 3, 12, " Se-shanbeh, 22 Esfand 1402 PE", "Eve of Charshanbe Suri;"},
+        {2024, 3, 19, " Se-shanbeh, 29 Esfand 1402 PE", ""},
+        {2024, 3, 20, " Char-shanbeh, 1 Farvardin 1403 PE",
+         "Norouz (new year);Tahvil-e sâl (spring equinox) at 06:36 Iran Standard Time;"},
+        {2024, 7, 22, " Do-shanbeh, 1 Mordâd 1403 PE", "First day of Mordâd;"},
+        {2024, 12, 20, " Jom'eh, 30 Âzar 1403 PE", "Yalda (winter solstice, longest night);"},
+        {2025, 3, 21, " Jom'eh, 1 Farvardin 1404 PE", "Norouz (new year);"},
+        {2025, 3, 20, " Panj-shanbeh, 30 Esfand 1403 PE", "Tahvil-e sâl (spring equinox) at 12:31 Iran Standard Time;"},
+    };
+    Desk desk;
+    desk.Obey("menu PersianCal");
+    for (const Row& row : rows) {
+        DisplayedMoment = GregorianToFixed(row.year, row.month, row.day) + 0.5;
+        UpdateStatus();
+        EXPECT_EQ(desk.program.persian.ThePersianDate.text, row.date);
+        EXPECT_EQ(Events(), row.events) << row.date;
+    }
+    desk.Obey("click Persian.LeapCheckbox");
+    EXPECT_EQ(desk.program.persian.LeapCheckbox.State(), Checked);
+}
+
+}  // namespace
+}  // namespace horvanta
