@@ -42,8 +42,12 @@ class PersianWindow {
     bool isLeap_ = false;  ///< The displayed year is one.
 };
 
-inline constexpr CalendarContract PersianCalendar{"Persian", PersianWindow::ToFixed, PersianWindow::GetDate,
-                                                  PersianWindow::SetMonthNames, PersianWindow::SetDayNames,
-                                                 nullptr, false};
+inline constexpr CalendarContract PersianCalendar{"Persian",
+                                                  PersianWindow::ToFixed,
+                                                  PersianWindow::GetDate,
+                                                  PersianWindow::SetMonthNames,
+                                                  PersianWindow::SetDayNames,
+                                                  nullptr,
+                                                  false};
 
 }  // namespace horvanta

@@ -18,6 +18,7 @@ TEST(Monthly, ShowsEachDayOnceUnderItsWeekday) {
     MonthlyWindow& month = desk.program.monthly;
     for (std::size_t calendar = 0; calendar < month.Calendars.items.size(); ++calendar) {
         desk.Obey("choose Monthly.Calendars " + std::to_string(calendar));
+        std::array<std::string, 7> headings;  // of the weekdays
         for (double day = -730'000; day < 730'000; day += 9973) {
             desk.Obey("set DisplayedMoment " + GeneralText(day + 0.25));
             const auto& cells = month.Days.cells;
@@ -30,11 +31,10 @@ TEST(Monthly, ShowsEachDayOnceUnderItsWeekday) {
             const auto active = static_cast<double>(month.Days.active);
             desk.Obey("click Monthly.Days " + std::to_string(clicked));
             ASSERT_EQ(DisplayedMoment, day + 0.25 + static_cast<double>(clicked) - active);
-            const std::size_t weekday = static_cast<std::size_t>(DayOfWeek(DisplayedMoment));
-            DayNames longNames;
-            DayNames shortNames;
-            GregorianWindow::SetDayNames(longNames, shortNames);
-            ASSERT_EQ(month.Days.headings[clicked % 7].text, longNames[weekday]) << month.Calendars.items[calendar];
+            const auto weekday = static_cast<std::size_t>(DayOfWeek(DisplayedMoment));
+            std::string& heading = headings[weekday];
+            if (heading.empty()) heading = month.Days.headings[clicked % 7].text;
+            ASSERT_EQ(month.Days.headings[clicked % 7].text, heading) << month.Calendars.items[calendar] << day;
         }
     }
 }
