@@ -36,6 +36,9 @@ void Horvanta::HangHandlers() {
     frame.GregCal.Shows(gregorian.form.visible);
     frame.GregCal.Click = [this] { GregCal_Click(); };
     gregorian.form.Close = frame.GregCal.Click;
+    frame.JulianCal.Shows(julian.form.visible);
+    frame.JulianCal.Click = [this] { JulianCal_Click(); };
+    julian.form.Close = frame.JulianCal.Click;
 }
 
 void Horvanta::Start() {
@@ -117,6 +120,7 @@ void Horvanta::ResetColorsAndQuit_Click() {
 }
 
 void Horvanta::GregCal_Click() { ShowOrHide(gregorian.form, gregorian.Dummy); }
+void Horvanta::JulianCal_Click() { ShowOrHide(julian.form, julian.Dummy); }
 
 /// A window that is shown gets the focus; one that is hidden gives it to the time window.
 void Horvanta::ShowOrHide(Form& form, Control& first) {

@@ -5,6 +5,7 @@
 #include "app/places.h"
 #include "app/time_astro.h"
 #include "calendars/gregorian_window.h"
+#include "calendars/julian_window.h"
 #include "core/shell.h"
 
 namespace horvanta {
@@ -36,18 +37,20 @@ class Horvanta {
     void ResetPrefsAndQuit_Click();
     void ResetColorsAndQuit_Click();
 
-    /// Shows the Gregorian window, or hides it.
+    // Show a window, or hide it.
     void GregCal_Click();
+    void JulianCal_Click();
 
     HorvantaMDI frame;
     TimeAstro timeAstro{frame};
     GregorianWindow gregorian{frame};
+    JulianWindow julian{frame};
     Places places{frame, timeAstro.fields};
     Jumps jumps{frame, timeAstro};
     Options options{frame};
 
     /// In the order in which they are loaded.
-    Form* const forms[2] = {&timeAstro.form, &gregorian.form};
+    Form* const forms[3] = {&timeAstro.form, &gregorian.form, &julian.form};
 
   private:
     void HangHandlers();

@@ -20,6 +20,7 @@ void RunUpdatePass(Horvanta& program) {
     time.ShowMoment();
     if (isLastPass() && ShowsDawnDusk) time.fields.ShowDay();
     if (program.gregorian.form.visible) program.gregorian.Update();
+    if (program.julian.form.visible) program.julian.Update();
     if (isLastPass()) time.fields.ShowAstronomy();
 }
 

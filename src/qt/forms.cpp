@@ -1,6 +1,7 @@
 #include "qt/forms.h"
 
 #include "forms/ui_gregorian.h"
+#include "forms/ui_julian.h"
 #include "forms/ui_time_astro.h"
 
 namespace horvanta {
@@ -19,6 +20,7 @@ struct DesignerForm {
 constexpr DesignerForm designerForms[] = {
     {"TimeAstro", SetUp<Ui::TimeAstro>},
     {"Gregorian", SetUp<Ui::Gregorian>},
+    {"Julian", SetUp<Ui::Julian>},
 };
 
 }  // namespace

@@ -6,6 +6,9 @@
 #include "astro/timescales.h"
 #include "calendars/gregorian.h"
 #include "calendars/gregorian_window.h"
+#include "calendars/julian.h"
+#include "calendars/julian_window.h"
+#include "calendars/roman.h"
 #include "core/moment.h"
 #include "core/text.h"
 #include "hebrew/hebrew_arithmetic.h"
@@ -129,6 +132,23 @@ std::string AnswerOf(const ISODate& d) {
         .Add("isLeap", d.isLeap)
         .Text();
 }
+
+std::string AnswerOf(const JulianDate& d) {
+    return Fields().Add("fixed", d.fixed).Add("year", d.year).Add("month", d.month).Add("day", d.day).Text();
+}
+
+std::string AnswerOf(const RomanDate& d) {
+    return Fields()
+        .Add("fixed", d.fixed)
+        .Add("year", d.year)
+        .Add("month", d.month)
+        .Add("event", d.event)
+        .Add("count", d.count)
+        .Add("leap", d.leap)
+        .Text();
+}
+
+std::string AnswerOf(const Olympiad& o) { return Fields().Add("cycle", o.cycle).Add("year", o.year).Text(); }
 
 std::string AnswerOf(const HebrewDateRecord& d) {
     return Fields()
@@ -449,6 +469,42 @@ const std::vector<DeskFunction> functions{
     MonthNamesRow("Gregorian.SetMonthNamesAlt", ISOCalendar),
     DayNamesRow("Gregorian.SetDayNamesAlt", ISOCalendar),
 
+    Row("isJulianLeapYear", isJulianLeapYear),
+    Row("JulianToFixed", JulianToFixed),
+    Row("FixedToJulianDate", FixedToJulianDate),
+    Row("JulianMonthLength", JulianMonthLength),
+    Row("JulianGregDiff", JulianGregDiff),
+    Row("JulianDominicalLetters", JulianDominicalLetters),
+    Row("JulianYearString", JulianYearString),
+    Row("FixedToJulianShortDate", FixedToJulianShortDate),
+    Row("FixedToJulianMonthDay", FixedToJulianMonthDay),
+    Row("RomanIdes", RomanIdes),
+    Row("RomanNones", RomanNones),
+    Row("RomanToFixed", RomanToFixed),
+    Row("FixedToRomanDate", FixedToRomanDate),
+    Row(
+        "RomanDateString", +[](Moment x) { return RomanDateString(FixedToRomanDate(x)); }),
+    Row(
+        "RomanEventString", +[](Moment x) { return RomanEventString(FixedToRomanDate(x)); }),
+    Row("DecimalToRoman", DecimalToRoman),
+    Row("RomanToDecimal", RomanToDecimal),
+    Row("JulianToAUC", JulianToAUC),
+    Row("AUCToJulian", AUCToJulian),
+    Row("OlympiadStart", OlympiadStart),
+    Row("JulianToOlympiad", JulianToOlympiad),
+    Row("OlympiadToJulian", OlympiadToJulian),
+    Row("hasOlympiads", hasOlympiads),
+    Row("YearToOlympiadString", YearToOlympiadString),
+    Row("Julian.CalendarName", JulianWindow::CalendarName),
+    Row("Julian.ToFixed", JulianWindow::ToFixed),
+    Row("Julian.GetDate", JulianWindow::GetDate),
+    MonthNamesRow("Julian.SetMonthNames", JulianCalendar),
+    DayNamesRow("Julian.SetDayNames", JulianCalendar),
+    Row("Julian.ToFixedAlt", JulianWindow::ToFixedAlt),
+    Row("Julian.GetDateAlt", JulianWindow::GetDateAlt),
+    MonthNamesRow("Julian.SetMonthNamesAlt", RomanCalendar),
+    DayNamesRow("Julian.SetDayNamesAlt", RomanCalendar),
+
     Row("ElapsedDays", ElapsedDays),
     Row("HebrewNewYear", HebrewNewYear),
     Row("DaysInHebrewYear", DaysInHebrewYear),
@@ -520,6 +576,10 @@ const std::vector<DeskVariable> variables{
     Variable("UseElevation", UseElevation),
     Variable("MapIndex", MapIndex),
     Variable("CycleShift", CycleShift),
+    Variable("Revise", julian::Revise),
+    Variable("UseAUC", julian::UseAUC),
+    Variable("YRF", julian::YRF),
+    Variable("OSY", julian::OSY),
     Variable("UseHebrewFont", UseHebrewFont),
     Constant("StepIndex", StepIndex),
     Constant("Locale", Locale),

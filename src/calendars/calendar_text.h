@@ -1,0 +1,22 @@
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <string>
+#include <string_view>
+
+/// Texts that several calendars share.
+namespace horvanta {
+
+/// The letter of the Sundays of a year, where A is January 1, and in a leap year behind it the letter of its Sundays
+/// from March on. The weekday is that of the last day of the year before, 0 = Sunday.
+inline std::string DominicalLetters(std::int32_t weekdayBefore, bool leap) {
+    constexpr std::string_view fromJanuary = "ABCDEFG";
+    constexpr std::string_view fromMarch = "GABCDEF";
+    const auto i = static_cast<std::size_t>(6 - weekdayBefore);
+    std::string letters{fromJanuary[i]};
+    if (leap) letters += fromMarch[i];
+    return letters;
+}
+
+}  // namespace horvanta
