@@ -103,16 +103,20 @@ bool isISOLeapYear(std::int32_t year) {
     return DayOfWeek(YearEndOf(year)) == thursday || DayOfWeek(YearEndOf(Days{year} - 1)) == wednesday;
 }
 
+/// A week belongs to the year of its Thursday, and a year whose first Thursday is January 1, or in a leap year January
+/// 2, has a fifty-third at its end.
 ISODate FixedToISODate(Moment x) {
-    ISODate date;
-    date.fixed = Floor(x);
-    const std::int32_t approx = FixedToGregorianYear(date.fixed - 3);
-    date.year = date.fixed >= ISOToFixed(approx + 1, 1, 1) ? approx + 1 : approx;
-    date.isLeap = isISOLeapYear(date.year);
-    date.week = WholeNumber<std::int16_t>(Floor((date.fixed - ISOToFixed(date.year, 1, 1)) / 7) + 1);
-    date.weekday = WholeNumber<std::int16_t>(AdjustedModulo(date.fixed - WeekdayOffset, 7));
-    date.ordinalDay = static_cast<std::int16_t>(7 * date.week - 7 + date.weekday);
-    return date;
+    const Days days = DaysSinceEpoch(x);
+    const Days sinceMonday = FloorModulo(days, 7);
+    const DayOfYear thursday = DayOfYearOf(days - sinceMonday + 3);
+    const std::uint32_t week = thursday.prior / 7 + 1;
+    const std::uint32_t beforeFirst = thursday.prior % 7;
+    return {.fixed = GregorianEpoch + static_cast<double>(days),
+            .year = static_cast<std::int32_t>(thursday.year),
+            .week = static_cast<std::int16_t>(week),
+            .weekday = static_cast<std::int16_t>(sinceMonday + 1),
+            .ordinalDay = static_cast<std::int16_t>(7 * week - 6 + sinceMonday),
+            .isLeap = beforeFirst == 0 || (beforeFirst == 1 && thursday.leap)};
 }
 
 std::string ISODateString(const ISODate& date) {

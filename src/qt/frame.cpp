@@ -150,18 +150,21 @@ void Frame::DrawPlace(Child& child) {
     QRect wished = window.geometry();
     wished.moveTo(Pixels(place.left, reach - window.width(), room.width() - reach),
                   Pixels(place.top, 0, room.height() - reach));
-    if (!child.form->placed && wished.right() >= room.width()) wished.moveTo(0, FreeTop(child, wished));
+    if (!child.form->placed) {
+        if (wished.right() >= room.width()) wished.moveLeft(0);
+        wished.moveTop(FreeTop(child, wished));
+    }
     if (window.pos() != wished.topLeft()) window.move(wished.topLeft());
 }
 
-/// How far down a window has to stand at the left edge of the frame so as not to cover those drawn before it.
+/// How far down a window has to stand so as not to cover those drawn before it that the user has not moved either.
 int Frame::FreeTop(const Child& child, QRect wished) const {
     constexpr int gap = 1;  // pixels
-    wished.moveLeft(0);
     for (const Child& other : children_) {
         if (&other == &child) break;
         const QRect taken = other.window->geometry();
-        if (other.form->visible && wished.intersects(taken)) wished.moveTop(taken.bottom() + 1 + gap);
+        const bool isInTheWay = other.form->visible && !other.form->placed && wished.intersects(taken);
+        if (isInTheWay) wished.moveTop(taken.bottom() + 1 + gap);
     }
     return wished.top();
 }
