@@ -56,7 +56,7 @@ class JulianWindow {
     Form form{"Julian", "Julian and Roman"};
     Label Dummy{form, "Dummy"};  ///< Shows nothing; holds the focus while no button should.
     Label TheJulianDate{form, "TheJulianDate", Tip("Julian date"), Widest("Wednesday, September 30, 10000 AD ")};
-    Label TheRomanDate{form, "TheRomanDate", Tip("Roman date"), Widest(" Mercurii dies, ante diem XVIII kalendas September MMXXVIII AD")};
+    Label TheRomanDate{form, "TheRomanDate", Tip("Roman date"), Widest(" Mercurii dies, ante diem XVIII kalendas September MMDCCLXXXVIII AUC")};
     Label Dominical{form, "Dominical", Tip("Dominical Letter(s) for this Julian Year"), Widest("DC")};
     CheckBox Revise{form, "Revise", Caption("Revise"), Tip("Use Revised Julian leap rule (leap 2nd and 6th century years per 900 years)")};
     CheckBox UseAUC{form, "UseAUC", Caption("AUC")};
