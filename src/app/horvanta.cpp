@@ -50,6 +50,9 @@ void Horvanta::HangHandlers() {
     frame.PersianCal.Shows(persian.form.visible);
     frame.PersianCal.Click = [this] { PersianCal_Click(); };
     persian.form.Close = frame.PersianCal.Click;
+    frame.JulianCal.Shows(julian.form.visible);
+    frame.JulianCal.Click = [this] { JulianCal_Click(); };
+    julian.form.Close = frame.JulianCal.Click;
 }
 
 void Horvanta::Start() {
@@ -134,11 +137,16 @@ void Horvanta::ResetColorsAndQuit_Click() {
 
 /// The places of the list belong to the calendars, whether they are there yet or not.
 void Horvanta::OfferCalendars() {
-    const auto gregorianShown = [this] { return gregorian.form.visible; };
-    monthly.Offer(1, {&GregorianCalendar, &gregorian.GregorianDate, &frame.GregCal, gregorianShown});
-    monthly.Offer(2, {&ISOCalendar, &gregorian.TheISOdate, &frame.GregCal, gregorianShown});
-    monthly.Offer(
-        5, {&PersianCalendar, &persian.ThePersianDate, &frame.PersianCal, [this] { return persian.form.visible; }});
+    const auto offer = [this](std::size_t place, const CalendarContract& contract, const Control& mainDate,
+                              MenuItem& window) {
+        const Form& form = mainDate.form;
+        monthly.Offer(place, {&contract, &mainDate, &window, [&form] { return form.visible; }});
+    };
+    offer(1, GregorianCalendar, gregorian.GregorianDate, frame.GregCal);
+    offer(2, ISOCalendar, gregorian.TheISOdate, frame.GregCal);
+    offer(3, JulianCalendar, julian.TheJulianDate, frame.JulianCal);
+    offer(4, RomanCalendar, julian.TheRomanDate, frame.JulianCal);
+    offer(5, PersianCalendar, persian.ThePersianDate, frame.PersianCal);
 }
 
 void Horvanta::CalendarMonth_Click() { ShowOrHide(monthly.form, monthly.Days); }
@@ -149,6 +157,7 @@ void Horvanta::PersianCal_Click() { ShowOrHide(persian.form, persian.Dummy); }
 void Horvanta::SetUserLoc_Click() {
     if (userLocales.isDirty() != YesNoCancel::Cancel) ShowOrHide(userLocales.form, userLocales.LocName);
 }
+void Horvanta::JulianCal_Click() { ShowOrHide(julian.form, julian.Dummy); }
 
 /// A window that is shown gets the focus; one that is hidden gives it to the time window.
 void Horvanta::ShowOrHide(Form& form, Control& first) {

@@ -5,6 +5,7 @@
 #include "app/places.h"
 #include "app/time_astro.h"
 #include "calendars/gregorian_window.h"
+#include "calendars/julian_window.h"
 #include "calendars/persian_window.h"
 #include "core/shell.h"
 #include "locale/user_locales_window.h"
@@ -41,6 +42,7 @@ class Horvanta {
 
     // Each shows its window, or hides it.
     void GregCal_Click();
+    void JulianCal_Click();
     void PersianCal_Click();
     void CalendarMonth_Click();
 
@@ -50,6 +52,7 @@ class Horvanta {
     HorvantaMDI frame;
     TimeAstro timeAstro{frame};
     GregorianWindow gregorian{frame};
+    JulianWindow julian{frame};
     PersianWindow persian{frame};
     UserLocalesWindow userLocales{frame};
     MonthlyWindow monthly{frame};
@@ -58,7 +61,8 @@ class Horvanta {
     Options options{frame};
 
     /// In the order in which they are loaded.
-    Form* const forms[5] = {&timeAstro.form, &gregorian.form, &persian.form, &monthly.form, &userLocales.form};
+    Form* const forms[6] = {&timeAstro.form, &gregorian.form, &julian.form,
+                            &persian.form,   &monthly.form,   &userLocales.form};
 
   private:
     void HangHandlers();

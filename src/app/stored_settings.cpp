@@ -13,6 +13,7 @@
 #include "locale/locale_text.h"
 #include "locale/zone_time.h"
 
+#include <algorithm>
 #include <functional>
 #include <string_view>
 #include <utility>
@@ -62,14 +63,19 @@ Setting Bool(std::string_view section, std::string_view key, bool otherwise, boo
 }
 
 /// A truth that is kept as 1 or 0.
-Setting Flag(std::string_view section, std::string_view key, std::function<void(bool)> set, std::function<bool()> get) {
-    return {section, key, [=] { set(StoredLong(section, key, 1, 0, 1) == 1); },
+Setting Flag(std::string_view section, std::string_view key, std::function<void(bool)> set, std::function<bool()> get,
+             bool otherwise = true) {
+    return {section, key, [=] { set(StoredLong(section, key, otherwise ? 1 : 0, 0, 1) == 1); },
             [=] { SaveLongPref(section, key, get() ? 1 : 0); }};
 }
 
-Setting Flag(std::string_view section, std::string_view key, bool& variable) {
+Setting Flag(std::string_view section, std::string_view key, bool& variable, bool otherwise = true) {
     return Flag(
-        section, key, [&variable](bool value) { variable = value; }, [&variable] { return variable; });
+        section, key, [&variable](bool value) { variable = value; }, [&variable] { return variable; }, otherwise);
+}
+
+Setting Year(std::string_view key, const YearChoice& choice, std::int32_t& year) {
+    return Long("Item", key, choice.usual, year, choice.earliest, choice.latest);
 }
 
 /// A choice between two that is kept as the caption of its toggle.
@@ -233,6 +239,7 @@ Table ProgramTable(Horvanta& program, StoredPlace& stored) {
     TimeAstro& time = program.timeAstro;
     TimeFields& fields = time.fields;
     GregorianWindow& gregorian = program.gregorian;
+    JulianWindow& julianWindow = program.julian;
     PersianWindow& persian = program.persian;
     UserLocalesWindow& user = program.userLocales;
     const auto beside = [](const Form& form) {
@@ -242,9 +249,9 @@ Table ProgramTable(Horvanta& program, StoredPlace& stored) {
         return [&form] { return Place{form.place.left, form.place.top + form.place.height + gap}; };
     };
     const auto literal = [](std::string_view text) { return [text] { return std::string(text); }; };
-    const auto shade = [&gregorian](bool isBackground) {
-        return [&gregorian, isBackground] {
-            ColorPair shown = *gregorian.TheISOdate.colors;
+    const auto shade = [](const Label& label, bool isBackground) {
+        return [&label, isBackground] {
+            ColorPair shown = *label.colors;
             return std::to_string(shown.Part(isBackground).Number());
         };
     };
@@ -262,11 +269,11 @@ Table ProgramTable(Horvanta& program, StoredPlace& stored) {
         Window(time.form, AlwaysToday, true, [] { return Place(); }),
         Window(program.monthly.form, program.monthly.form.visible, true, below(time.form)),
         Kept("Quartane", "Chk", "True"),
-        Kept("Julian", "Chk", "False"),
         Kept("Events", "Chk", "True"),
         Kept("Hebrew", "Chk", "True"),
         Window(user.form, user.form.visible, false, beside(program.monthly.form)),
         Window(gregorian.form, gregorian.form.visible, true, beside(time.form)),
+        Window(julianWindow.form, julianWindow.form.visible, false, below(program.monthly.form)),
         Kept("Lunar", "Chk", "True"),
         Window(persian.form, persian.form.visible, false, below(gregorian.form)),
         Kept("Chinese", "Chk", "False"),
@@ -286,12 +293,14 @@ Table ProgramTable(Horvanta& program, StoredPlace& stored) {
         StoredColor("AFC", 0, time, time.TimeOfDay, false),
         StoredColor("GBC", 12642289, gregorian, gregorian.GregorianDate, true),
         StoredColor("GFC", 0, gregorian, gregorian.GregorianDate, false),
-        Written("Color", "IBC", shade(true)), Written("Color", "IFC", shade(false)),
+        Written("Color", "IBC", shade(gregorian.TheISOdate, true)), Written("Color", "IFC", shade(gregorian.TheISOdate, false)),
         Kept("Color", "SBC", "16706033"),     Kept("Color", "SFC", "0"),
         Kept("Color", "HBC", "16777152"),     Kept("Color", "HFC", "0"),
         StoredColor("PBC", 10220253, persian, persian.ThePersianDate, true),
         StoredColor("PFC", 0, persian, persian.ThePersianDate, false),
-        Kept("Color", "JBC", "14680063"),     Kept("Color", "JFC", "0"),
+        StoredColor("JBC", 14680063, julianWindow, julianWindow.TheJulianDate, true),
+        StoredColor("JFC", 0, julianWindow, julianWindow.TheJulianDate, false),
+        Written("Color", "RBC", shade(julianWindow.TheRomanDate, true)), Written("Color", "RFC", shade(julianWindow.TheRomanDate, false)),
         Kept("Color", "ChinBC", "255"),       Kept("Color", "ChinFC", "65535"),
         Kept("Color", "JapBC", "16777215"),   Kept("Color", "JapFC", "217"),
         Kept("Color", "KorBC", "16777215"),   Kept("Color", "KorFC", "16711680"),
@@ -327,10 +336,10 @@ Table ProgramTable(Horvanta& program, StoredPlace& stored) {
         Long("Item", "THC", 1, TempHourFormat, 1, 3),
         {"Item", "MTF", [] { MoladTimeFormat = GetLongPref(ProgramSettings, "Item", "MTF", 7) == 5 ? 5 : 7; },
          [] { SaveLongPref("Item", "MTF", MoladTimeFormat); }},
-        Kept("Item", "UseAUC", "0"),
-        Kept("Item", "Rectify", "0"),
-        Kept("Item", "YRF", "-753"),
-        Kept("Item", "OSY", "-776"),
+        Flag("Item", "UseAUC", julian::UseAUC, false),
+        Flag("Item", "Rectify", julian::Revise, false),
+        Year("YRF", RomeFoundedChoice, julian::YRF),
+        Year("OSY", OlympiadStartChoice, julian::OSY),
         Kept("Item", "JCY1", "-2697"),
         Kept("Item", "LP", "False"),
         Kept("Item", "WCC", "False"),

@@ -22,6 +22,7 @@ void RunUpdatePass(Horvanta& program) {
     program.userLocales.SetCopyLocToolText();
     if (program.gregorian.form.visible) program.gregorian.Update();
     if (program.persian.form.visible) program.persian.Update();
+    if (program.julian.form.visible) program.julian.Update();
     if (isLastPass()) time.fields.ShowAstronomy();
     if (program.monthly.form.visible) program.monthly.Update();
 }

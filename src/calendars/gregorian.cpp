@@ -1,18 +1,16 @@
 #include "calendars/gregorian.h"
 
+#include "calendars/calendar_text.h"
+#include "calendars/twelve_months.h"
 #include "core/moment.h"
 #include "core/text.h"
 
-#include <algorithm>
 #include <concepts>
 
 namespace horvanta {
 namespace {
 
-using Days = std::int64_t;
-
-// Whole days and years need no doubles: their quotients lie on an integer or at least 1/146097 beside it, so that
-// integer division gives the dates of `Floor`, faster.
+using twelve_months::Days;
 
 constexpr Days daysInCycle = 146097;
 constexpr Days yearsInCycle = 400;
@@ -26,19 +24,8 @@ constexpr Days DaysThroughYear(Days year) {
     return 365 * year + (year >> 2) - centuries + (centuries >> 2);
 }
 
-/// The days of a year before the first of a month.
-constexpr Days DaysBeforeMonth(Days month, bool leap) {
-    const Days correction = month <= 2 ? 0 : leap ? -1 : -2;
-    return FloorDivide(367 * month - 362, 12) + correction;
-}
-
-/// Days since January 1 of year 1, held within the years of 32 bits.
-Days DaysSinceEpoch(Moment x) {
-    constexpr double limit = 784'000'000'000;
-    const double days = Floor(x) - GregorianEpoch;
-    if (!(days < limit)) return static_cast<Days>(limit);
-    return days > -limit ? static_cast<Days>(days) : static_cast<Days>(-limit);
-}
+/// Days since January 1 of year 1.
+Days DaysSinceEpoch(Moment x) { return twelve_months::DaysSince(x, GregorianEpoch); }
 
 struct DayOfYear {
     Days year;
@@ -47,23 +34,20 @@ struct DayOfYear {
     std::uint32_t weekday;
 };
 
-/// In quarters of a day, centuries and years are 146097 and 1461 long on the average, and the odd day falls at the end
-/// of the last of four, where the calendar has it (Neri and Schneider, Euclidean affine functions and their
-/// application to calendar algorithms). A cycle is a whole number of weeks and begins on a Monday.
+/// In quarters of a day, centuries are 146097 long on the average, with the odd day at the end of the last of four. A
+/// cycle is a whole number of weeks and begins on a Monday.
 inline DayOfYear DayOfYearOf(Days daysSinceEpoch) {
     const Days cycle = FloorDivide(daysSinceEpoch, daysInCycle);
     const auto day = static_cast<std::uint32_t>(daysSinceEpoch - cycle * daysInCycle);  // [0, 146096]
     const std::uint32_t century = (4 * day + 3) / 146097;                               // [0, 3]
-    const std::uint32_t dayOfCentury = (4 * day + 3) % 146097 / 4;                      // [0, 36524]
-    const std::uint32_t year = (4 * dayOfCentury + 3) / 1461;                           // [0, 99]
-    const std::uint32_t prior = (4 * dayOfCentury + 3) % 1461 / 4;                      // [0, 365]
+    const auto [year, prior] = twelve_months::YearDayOf((4 * day + 3) % 146097 / 4);    // [0, 99]
     const bool leap = year % 4 == 3 && (year != 99 || century == 3);
     return {yearsInCycle * cycle + 100 * century + year + 1, prior, leap, (day + 1) % 7};
 }
 
 // With years of 64 bits, so that the year before the first and after the last of 32 bits has its days too.
 FixedDay FixedOf(Days year, Days month, Days day, bool leap) {
-    const Days days = DaysThroughYear(year - 1) + DaysBeforeMonth(month, leap) + day;
+    const Days days = DaysThroughYear(year - 1) + twelve_months::DaysBeforeMonth(month, leap) + day;
     return GregorianEpoch - 1 + static_cast<double>(days);
 }
 
@@ -84,23 +68,18 @@ std::int32_t FixedToGregorianYear(Moment x) { return static_cast<std::int32_t>(D
 GregorianDate FixedToGregorianDate(Moment x) {
     const Days days = DaysSinceEpoch(x);
     const auto [year, prior, leap, weekday] = DayOfYearOf(days);
-    const bool beforeMarch = prior < (leap ? 60U : 59U);
-    const std::uint32_t correction = beforeMarch ? 0 : leap ? 1 : 2;
-    const std::uint32_t month = (12 * (prior + correction) + 373) / 367;       // [1, 12]
-    const std::uint32_t firstOfMonth = (367 * month - 362) / 12 - correction;  // [0, 335]
-
+    const auto [month, day] = twelve_months::MonthDayOf(prior, leap);
     return {.fixed = GregorianEpoch + static_cast<double>(days),
             .yearDay = static_cast<std::int16_t>(prior + 1),
             .year = static_cast<std::int32_t>(year),
             .month = static_cast<std::int32_t>(month),
-            .day = static_cast<std::int16_t>(prior - firstOfMonth + 1),
+            .day = static_cast<std::int16_t>(day),
             .weekday = static_cast<std::int32_t>(weekday),
             .weekdayName = WeekdayNames[weekday]};
 }
 
 std::int16_t GregorianMonthLength(std::int32_t year, std::int32_t month) {
-    if (month == 2) return isLeap(year) ? 29 : 28;
-    return static_cast<std::int16_t>(30 + FloorModulo(month + FloorDivide(month, 8), 2));
+    return twelve_months::MonthLength(month, isLeap(year));
 }
 
 std::string GregorianDateString(const GregorianDate& date) {
@@ -111,12 +90,7 @@ std::string GregorianDateString(const GregorianDate& date) {
 std::string FixedToGregorianString(Moment x) { return GregorianDateString(FixedToGregorianDate(x)); }
 
 std::string GregorianDominicalLetters(std::int32_t year) {
-    constexpr std::string_view fromJanuary = "ABCDEFG";
-    constexpr std::string_view fromMarch = "GABCDEF";
-    const auto i = static_cast<std::size_t>(6 - DayOfWeek(YearEndOf(Days{year} - 1)));
-    std::string letters{fromJanuary[i]};
-    if (isLeap(year)) letters += fromMarch[i];
-    return letters;
+    return DominicalLetters(DayOfWeek(YearEndOf(Days{year} - 1)), isLeap(year));
 }
 
 FixedDay ISOToFixed(std::int32_t year, std::int32_t week, std::int32_t weekday) {
@@ -129,16 +103,20 @@ bool isISOLeapYear(std::int32_t year) {
     return DayOfWeek(YearEndOf(year)) == thursday || DayOfWeek(YearEndOf(Days{year} - 1)) == wednesday;
 }
 
+/// A week belongs to the year of its Thursday, and a year whose first Thursday is January 1, or in a leap year January
+/// 2, has a fifty-third at its end.
 ISODate FixedToISODate(Moment x) {
-    ISODate date;
-    date.fixed = Floor(x);
-    const std::int32_t approx = FixedToGregorianYear(date.fixed - 3);
-    date.year = date.fixed >= ISOToFixed(approx + 1, 1, 1) ? approx + 1 : approx;
-    date.isLeap = isISOLeapYear(date.year);
-    date.week = WholeNumber<std::int16_t>(Floor((date.fixed - ISOToFixed(date.year, 1, 1)) / 7) + 1);
-    date.weekday = WholeNumber<std::int16_t>(AdjustedModulo(date.fixed - WeekdayOffset, 7));
-    date.ordinalDay = static_cast<std::int16_t>(7 * date.week - 7 + date.weekday);
-    return date;
+    const Days days = DaysSinceEpoch(x);
+    const Days sinceMonday = FloorModulo(days, 7);
+    const DayOfYear thursday = DayOfYearOf(days - sinceMonday + 3);
+    const std::uint32_t week = thursday.prior / 7 + 1;
+    const std::uint32_t beforeFirst = thursday.prior % 7;
+    return {.fixed = GregorianEpoch + static_cast<double>(days),
+            .year = static_cast<std::int32_t>(thursday.year),
+            .week = static_cast<std::int16_t>(week),
+            .weekday = static_cast<std::int16_t>(sinceMonday + 1),
+            .ordinalDay = static_cast<std::int16_t>(7 * week - 6 + sinceMonday),
+            .isLeap = beforeFirst == 0 || (beforeFirst == 1 && thursday.leap)};
 }
 
 std::string ISODateString(const ISODate& date) {

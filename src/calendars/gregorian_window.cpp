@@ -70,9 +70,7 @@ GregorianWindow::GregorianWindow(HorvantaMDI& frame) : frame_(frame) {
     SetColor(defaultColors.background, true);
     SetColor(defaultColors.foreground, false);
 
-    for (Label* label : {&GregorianDate, &TheISOdate, &Dominical}) {
-        label->Click = [this, label] { frame_.SetClipboardText(label->text); };
-    }
+    for (Label* label : {&GregorianDate, &TheISOdate, &Dominical}) frame_.CopyOnClick(*label);
     DayNumInGregYear.Click = [this] { frame_.SetClipboardText(std::string(FromCharacter(DayNumInGregYear.text, 15))); };
     isoOrdinalDay.Click = [this] { frame_.SetClipboardText(std::string(FromCharacter(isoOrdinalDay.text, 9))); };
     GregCycleInfo.Click = [this] { GregCycleInfo_Click(); };

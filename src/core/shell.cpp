@@ -12,6 +12,10 @@ void HorvantaMDI::SetClipboardText(const std::string& clip) {
 
 void HorvantaMDI::CopyToClipboard(const Control& control) { SetClipboardText(control.tooltip + ": " + control.text); }
 
+void HorvantaMDI::CopyOnClick(Label& label) {
+    label.Click = [this, &label] { SetClipboardText(label.text); };
+}
+
 void HorvantaMDI::AskCopyToClipboard(const std::string& message, const std::string& title) {
     if (CurrentDesktop->AskYesNo(message + "\n\n\nCopy to Clipboard?", title)) {
         SetClipboardText(message + ":" + title);

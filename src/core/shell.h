@@ -64,6 +64,9 @@ class HorvantaMDI {
     /// Copies what a control shows, behind its tooltip.
     void CopyToClipboard(const Control& control);
 
+    /// Makes a click on a label copy what it shows.
+    void CopyOnClick(Label& label);
+
     /// Shows a text in a box that offers to copy it. The copy has the title behind the text.
     void AskCopyToClipboard(const std::string& message, const std::string& title);
 

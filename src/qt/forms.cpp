@@ -3,6 +3,7 @@
 #include "forms/ui_gregorian.h"
 #include "forms/ui_monthly.h"
 #include "forms/ui_persian.h"
+#include "forms/ui_julian.h"
 #include "forms/ui_time_astro.h"
 #include "forms/ui_user.h"
 
@@ -25,6 +26,7 @@ constexpr DesignerForm designerForms[] = {
     {"Monthly", SetUp<Ui::Monthly>},
     {"User", SetUp<Ui::User>},
     {"Persian", SetUp<Ui::Persian>},
+    {"Julian", SetUp<Ui::Julian>},
 };
 
 }  // namespace

@@ -38,7 +38,7 @@ constexpr Row rows[] = {
     {"Item", "LOC", "Tehran"}, {"Item", "Map", "4"}, {"Item", "MC", "3"}, {"Item", "AD", "&Down"},
     {"Item", "LunOpt", "2"}, {"Item", "LunOff", "17037"}, {"Item", "LunCap", "Brown"}, {"Item", "Candles", "40"},
     {"Color", "ABC", "1"}, {"Color", "AFC", "2"}, {"Color", "GBC", "3"}, {"Color", "GFC", "4"}, {"Color", "LBC", "5"},
-    {"Color", "ChinFC", "6"}, {"Color", "RBC", "7"}, {"Color", "PBC", "9"}, {"Color", "CFC", "8"},
+    {"Color", "ChinFC", "6"}, {"Color", "JBC", "7"}, {"Color", "PBC", "9"}, {"Color", "CFC", "8"},
     {"Later", "Key", "kept"},
 };
 // clang-format on

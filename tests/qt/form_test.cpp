@@ -429,6 +429,7 @@ class FormTest final : public QObject {
             scaled.setPointSizeF(standard.pointSizeF() * fontScale);
             QApplication::setFont(scaled);
             Session session;
+            session.program.frame.JulianCal.Click();
             for (const double moment : {MinFixedDay + 0.123456789, MaxFixedDay + 0.0, 8030.0}) {
                 DisplayedMoment = moment;
                 UpdateStatus();

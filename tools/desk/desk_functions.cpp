@@ -8,6 +8,9 @@
 #include "calendars/gregorian_window.h"
 #include "calendars/persian.h"
 #include "calendars/persian_window.h"
+#include "calendars/julian.h"
+#include "calendars/julian_window.h"
+#include "calendars/roman.h"
 #include "core/moment.h"
 #include "core/text.h"
 #include "hebrew/hebrew_arithmetic.h"
@@ -148,6 +151,23 @@ std::string AnswerOf(const PersianDate& d) {
         .Add("weekday", d.weekday)
         .Text();
 }
+
+std::string AnswerOf(const JulianDate& d) {
+    return Fields().Add("fixed", d.fixed).Add("year", d.year).Add("month", d.month).Add("day", d.day).Text();
+}
+
+std::string AnswerOf(const RomanDate& d) {
+    return Fields()
+        .Add("fixed", d.fixed)
+        .Add("year", d.year)
+        .Add("month", d.month)
+        .Add("event", d.event)
+        .Add("count", d.count)
+        .Add("leap", d.leap)
+        .Text();
+}
+
+std::string AnswerOf(const Olympiad& o) { return Fields().Add("cycle", o.cycle).Add("year", o.year).Text(); }
 
 std::string AnswerOf(const HebrewDateRecord& d) {
     return Fields()
@@ -492,6 +512,41 @@ const std::vector<DeskFunction> functions{
     Row("Persian.GetDate", PersianWindow::GetDate),
     MonthNamesRow("Persian.SetMonthNames", PersianCalendar),
     DayNamesRow("Persian.SetDayNames", PersianCalendar),
+    Row("isJulianLeapYear", isJulianLeapYear),
+    Row("JulianToFixed", JulianToFixed),
+    Row("FixedToJulianDate", FixedToJulianDate),
+    Row("JulianMonthLength", JulianMonthLength),
+    Row("JulianGregDiff", JulianGregDiff),
+    Row("JulianDominicalLetters", JulianDominicalLetters),
+    Row("JulianYearString", JulianYearString),
+    Row("FixedToJulianShortDate", FixedToJulianShortDate),
+    Row("FixedToJulianMonthDay", FixedToJulianMonthDay),
+    Row("RomanIdes", RomanIdes),
+    Row("RomanNones", RomanNones),
+    Row("RomanToFixed", RomanToFixed),
+    Row("FixedToRomanDate", FixedToRomanDate),
+    Row(
+        "RomanDateString", +[](Moment x) { return RomanDateString(FixedToRomanDate(x)); }),
+    Row(
+        "RomanEventString", +[](Moment x) { return RomanEventString(FixedToRomanDate(x)); }),
+    Row("DecimalToRoman", DecimalToRoman),
+    Row("RomanToDecimal", RomanToDecimal),
+    Row("JulianToAUC", JulianToAUC),
+    Row("AUCToJulian", AUCToJulian),
+    Row("OlympiadStart", OlympiadStart),
+    Row("JulianToOlympiad", JulianToOlympiad),
+    Row("OlympiadToJulian", OlympiadToJulian),
+    Row("hasOlympiads", hasOlympiads),
+    Row("YearToOlympiadString", YearToOlympiadString),
+    Row("Julian.CalendarName", JulianWindow::CalendarName),
+    Row("Julian.ToFixed", JulianWindow::ToFixed),
+    Row("Julian.GetDate", JulianWindow::GetDate),
+    MonthNamesRow("Julian.SetMonthNames", JulianCalendar),
+    DayNamesRow("Julian.SetDayNames", JulianCalendar),
+    Row("Julian.ToFixedAlt", JulianWindow::ToFixedAlt),
+    Row("Julian.GetDateAlt", JulianWindow::GetDateAlt),
+    MonthNamesRow("Julian.SetMonthNamesAlt", RomanCalendar),
+    DayNamesRow("Julian.SetDayNamesAlt", RomanCalendar),
 
     Row("ElapsedDays", ElapsedDays),
     Row("HebrewNewYear", HebrewNewYear),
@@ -564,6 +619,10 @@ const std::vector<DeskVariable> variables{
     Variable("UseElevation", UseElevation),
     Variable("MapIndex", MapIndex),
     Variable("CycleShift", CycleShift),
+    Variable("Revise", julian::Revise),
+    Variable("UseAUC", julian::UseAUC),
+    Variable("YRF", julian::YRF),
+    Variable("OSY", julian::OSY),
     Variable("UseHebrewFont", UseHebrewFont),
     Constant("StepIndex", StepIndex),
     Constant("Locale", Locale),

@@ -1,0 +1,49 @@
+#pragma once
+
+#include "core/numbering.h"
+
+#include <cstdint>
+#include <string>
+
+/// The Julian calendar and the Revised Julian calendar of 1923. They have no year 0: year -1 (1 BC) precedes year 1.
+/// The conversions follow Reingold and Dershowitz, Calendrical Calculations; they take any year of 32 bits and any
+/// month from 1 to 12, and validate nothing.
+///
+/// Where a year or a date may be a revised one, `allowRevised` says so, and `julian::Revise` decides. With `noYearZero`
+/// a negative year counts from 1 BC = -1 backwards, without from 1 BC = 0.
+namespace horvanta {
+
+namespace julian {
+
+/// The Revised Julian leap rule: of the century years, only those whose century leaves 2 or 6 by division by 9 are
+/// leap.
+inline bool Revise = false;
+
+}  // namespace julian
+
+struct JulianDate {
+    FixedDay fixed = 0;
+    std::int32_t year = 0;
+    std::int16_t month = 0;  ///< 1 to 12.
+    std::int16_t day = 0;    ///< 1 to 31.
+};
+
+bool isJulianLeapYear(std::int32_t year, bool allowRevised, bool noYearZero = true);
+
+/// The fixed day of a date.
+FixedDay JulianToFixed(std::int32_t year, std::int32_t month, std::int32_t day, bool allowRevised,
+                       bool noYearZero = true);
+
+/// The date of a moment.
+JulianDate FixedToJulianDate(Moment x, bool allowRevised);
+
+/// Days of a month, 28 to 31.
+std::int16_t JulianMonthLength(std::int32_t year, std::int32_t month, bool allowRevised);
+
+/// How many days the unrevised Julian date of a moment is behind the Gregorian date; negative where it is ahead.
+std::int16_t JulianGregDiff(Moment x);
+
+/// The dominical letters of a year, which may be a revised one.
+std::string JulianDominicalLetters(std::int32_t year);
+
+}  // namespace horvanta
