@@ -21,20 +21,46 @@ struct Numeral {
     std::string_view letters;
 };
 
+// clang-format off
 constexpr Numeral numerals[] = {
-    {1000, "M"}, {900, "CM"}, {500, "D"}, {400, "CD"}, {100, "C"}, {90, "XC"}, {50, "L"},
-    {40, "XL"},  {10, "X"},   {9, "IX"},  {5, "V"},    {4, "IV"},  {1, "I"},
+    {1000, "M"},
+    {900, "CM"},
+    {500, "D"},
+    {400, "CD"},
+    {100, "C"},
+    {90, "XC"},
+    {50, "L"},
+    {40, "XL"},
+    {10, "X"},
+    {9, "IX"},
+    {5, "V"},
+    {4, "IV"},
+    {1, "I"},
 };
+// clang-format on
 
 struct LetterValue {
     char letter;
     std::int32_t value;
 };
 
+// clang-format off
 constexpr LetterValue letterValues[] = {
-    {'I', 1},    {'V', 5},     {'X', 10},    {'L', 50},     {'C', 100},     {'D', 500},     {'M', 1000},
-    {'v', 5000}, {'x', 10000}, {'l', 50000}, {'c', 100000}, {'d', 5000000}, {'m', 1000000},
+    {'I', 1},
+    {'V', 5},
+    {'X', 10},
+    {'L', 50},
+    {'C', 100},
+    {'D', 500},
+    {'M', 1000},
+    {'v', 5000},
+    {'x', 10000},
+    {'l', 50000},
+    {'c', 100000},
+    {'d', 5000000},
+    {'m', 1000000},
 };
+// clang-format on
 
 std::int32_t ValueOf(char letter) {
     const auto found = std::ranges::find(letterValues, letter, &LetterValue::letter);

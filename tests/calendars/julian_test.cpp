@@ -177,7 +177,7 @@ TEST_F(JulianWindowTest, ShowsTheDateInEveryCount) {
     desk_.Obey("click Julian.Revise");
     EXPECT_EQ(window_.form.text, "Revised Julian and Roman");
     EXPECT_EQ(desk_.Obey("events"), R"("Roman" "kalendas Ianuarius 1 PUC" "Kalends")");
-    desk_.Obey("press PageUp");
+    desk_.Obey("press PageDown");
     EXPECT_EQ(desk_.Obey("events"), "none");
 }
 
