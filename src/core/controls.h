@@ -278,6 +278,13 @@ enum KeyCode {
     KeyUp = 38,
     KeyRight = 39,
     KeyDown = 40,
+    KeyNumeric0 = 96,
+    KeyNumeric2 = 98,
+    KeyNumeric4 = 100,
+    KeyNumeric5 = 101,
+    KeyNumeric6 = 102,
+    KeyNumeric8 = 104,
+    KeyNumericPoint = 110,
     KeyNumericPlus = 107,
     KeyNumericMinus = 109,
     KeyPlus = 187,  // among the letters, with or without Shift

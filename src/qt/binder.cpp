@@ -49,6 +49,14 @@ constexpr KeyRow keyRows[] = {
     {Qt::Key_Up, false, KeyUp},
     {Qt::Key_Right, false, KeyRight},
     {Qt::Key_Down, false, KeyDown},
+    {Qt::Key_0, true, KeyNumeric0},
+    {Qt::Key_2, true, KeyNumeric2},
+    {Qt::Key_4, true, KeyNumeric4},
+    {Qt::Key_5, true, KeyNumeric5},
+    {Qt::Key_6, true, KeyNumeric6},
+    {Qt::Key_8, true, KeyNumeric8},
+    {Qt::Key_Period, true, KeyNumericPoint},
+    {Qt::Key_Comma, true, KeyNumericPoint},
     {Qt::Key_Plus, true, KeyNumericPlus},
     {Qt::Key_Minus, true, KeyNumericMinus},
     {Qt::Key_Plus, false, KeyPlus},
@@ -99,6 +107,13 @@ bool isListKey(const QKeyEvent& event) {
     constexpr int keys[] = {Qt::Key_Up,   Qt::Key_Down, Qt::Key_PageUp, Qt::Key_PageDown,
                             Qt::Key_Home, Qt::Key_End,  Qt::Key_Space};
     return std::find(std::begin(keys), std::end(keys), event.key()) != std::end(keys);
+}
+
+/// What is typed behind the untouched text of a window's main field takes its place.
+void SelectUntouched(QLineEdit& field, const QKeyEvent& event) {
+    const bool typed = !event.text().isEmpty() && event.text().front().isPrint() && !event.text().front().isSpace();
+    const bool untouched = !field.isModified() && field.cursorPosition() == field.text().size();
+    if (typed && untouched && field.property("main").toBool()) field.selectAll();
 }
 
 /// Keys that a focused widget keeps to itself.
@@ -379,6 +394,7 @@ bool Binder::KeyActed(QObject* watched, const QKeyEvent& event) {
         if (!event.isAutoRepeat()) button->click();
         return true;
     }
+    if (auto* field = qobject_cast<QLineEdit*>(watched)) SelectUntouched(*field, event);
     const KeyPress key = KeyPressOf(event);
     const Control* control = ControlOf(watched);
     const bool isAsked = form_.KeyDown || (control && control->KeyDown);

@@ -23,7 +23,8 @@ struct DayKey {
 
 constexpr DayKey dayKeys[] = {
     {KeyBackspace, -1, -1}, {KeyNumericMinus, -1, -1}, {KeyNumericPlus, 1, 1}, {KeyLeft, -7, -1},
-    {KeyUp, -1, -7},        {KeyRight, 7, 1},          {KeyDown, 1, 7},
+    {KeyNumeric4, -7, -1},  {KeyUp, -1, -7},           {KeyNumeric8, -1, -7},  {KeyRight, 7, 1},
+    {KeyNumeric6, 7, 1},    {KeyDown, 1, 7},           {KeyNumeric2, 1, 7},
 };
 
 }  // namespace
@@ -210,10 +211,12 @@ bool MonthlyWindow::ObeyCellKey(int code, int shift) {
         PrevMonth_Click();
     } else if (code == KeyPageDown) {
         NextMonth_Click();
-    } else if (code == KeyHome) {
+    } else if (code == KeyHome || code == KeyNumeric0) {
         SelectCell(0);
-    } else if (code == KeyEnd) {
+    } else if (code == KeyEnd || code == KeyNumericPoint) {
         SelectCell(static_cast<std::size_t>(shown_.firstWeekday + shown_.monthLength - 1));
+    } else if (code == KeyNumeric5) {
+        SelectCell(static_cast<std::size_t>((shown_.monthLength + 1) / 2 - 1 + shown_.firstWeekday));
     } else if (code == KeyEscape) {
         frame_.TakeFocus();
         return true;

@@ -58,6 +58,7 @@ TEST(Monthly, MovesByMonthsAndYears) {
         {"press Down", "2024-07-14", "Monday, July 15, 2024"},
         {"press Backspace", "2024-07-01", "Sunday, June 30, 2024"},
         {"press End", "2024-07-01", "Wednesday, July 31, 2024"},
+        {"press Numeric5", "2024-07-01", "Tuesday, July 16, 2024"},
         {"press Home", "2024-07-05", "Friday, July 5, 2024"},
         {"press Home", "2024-09-05", "Sunday, September 1, 2024"},
     };

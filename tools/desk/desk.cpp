@@ -32,6 +32,13 @@ constexpr NamedKey namedKeys[] = {
     {"Up", KeyUp},
     {"Right", KeyRight},
     {"Down", KeyDown},
+    {"Numeric0", KeyNumeric0},
+    {"Numeric2", KeyNumeric2},
+    {"Numeric4", KeyNumeric4},
+    {"Numeric5", KeyNumeric5},
+    {"Numeric6", KeyNumeric6},
+    {"Numeric8", KeyNumeric8},
+    {"Point", KeyNumericPoint},
     {"Plus", KeyNumericPlus},
     {"Minus", KeyNumericMinus},
 };
