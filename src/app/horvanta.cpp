@@ -36,6 +36,13 @@ void Horvanta::HangHandlers() {
     frame.GregCal.Shows(gregorian.form.visible);
     frame.GregCal.Click = [this] { GregCal_Click(); };
     gregorian.form.Close = frame.GregCal.Click;
+    frame.SetUserLoc.Shows(userLocales.form.visible);
+    frame.SetUserLoc.Click = [this] { SetUserLoc_Click(); };
+    userLocales.form.Close = frame.SetUserLoc.Click;
+    userLocales.Choose = [this](std::size_t slot, const LocaleRecord& place) {
+        places.SetUserLocale(slot, place);
+        places.UserLoc_Click(slot);
+    };
 }
 
 void Horvanta::Start() {
@@ -98,6 +105,7 @@ void Horvanta::MenuAbout_Click() {
 }
 
 void Horvanta::MenuExit_Click() {
+    if (userLocales.isDirty() == YesNoCancel::Cancel) return;
     Form_Unload();
     CurrentDesktop->End();
 }
@@ -117,6 +125,10 @@ void Horvanta::ResetColorsAndQuit_Click() {
 }
 
 void Horvanta::GregCal_Click() { ShowOrHide(gregorian.form, gregorian.Dummy); }
+
+void Horvanta::SetUserLoc_Click() {
+    if (userLocales.isDirty() != YesNoCancel::Cancel) ShowOrHide(userLocales.form, userLocales.LocName);
+}
 
 /// A window that is shown gets the focus; one that is hidden gives it to the time window.
 void Horvanta::ShowOrHide(Form& form, Control& first) {

@@ -6,6 +6,7 @@
 #include "app/time_astro.h"
 #include "calendars/gregorian_window.h"
 #include "core/shell.h"
+#include "locale/user_locales_window.h"
 
 namespace horvanta {
 
@@ -39,15 +40,19 @@ class Horvanta {
     /// Shows the Gregorian window, or hides it.
     void GregCal_Click();
 
+    /// Shows the window of the user's own places, or hides it unless the user stops that for the sake of changes.
+    void SetUserLoc_Click();
+
     HorvantaMDI frame;
     TimeAstro timeAstro{frame};
     GregorianWindow gregorian{frame};
+    UserLocalesWindow userLocales{frame};
     Places places{frame, timeAstro.fields};
     Jumps jumps{frame, timeAstro};
     Options options{frame};
 
     /// In the order in which they are loaded.
-    Form* const forms[2] = {&timeAstro.form, &gregorian.form};
+    Form* const forms[3] = {&timeAstro.form, &gregorian.form, &userLocales.form};
 
   private:
     void HangHandlers();

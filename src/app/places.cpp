@@ -28,8 +28,9 @@ Places::Places(HorvantaMDI& frame, TimeFields& fields) : frame_(frame), fields_(
 }
 
 void Places::SelectLocale(const MenuItem& item, const LocaleRecord& place) {
-    if (place.Name != Locale.Name) {
-        if (!Locale.Location.empty()) ReportMove(place);
+    if (place != Locale) {
+        const bool moves = place.Name != Locale.Name && !Locale.Location.empty();
+        if (moves) ReportMove(place);
         Locale = place;
         fields_.SetDSTinfo();
         fields_.UpdateLocaleCaption();
@@ -60,7 +61,7 @@ void Places::ChooseFirst(const std::string& name, std::size_t userSlot) {
 void Places::SetUserLocale(std::size_t slot, const LocaleRecord& place) {
     UserLocales[slot] = place;
     MenuItem& item = frame_.UserLoc[slot];
-    item.caption = place.Name;
+    item.caption = ReplaceAll(place.Name, "&", "&&");
     item.ShowsWhen([this, &item] { return chosen_ == &item; });
     item.Click = [this, slot] { UserLoc_Click(slot); };
 }

@@ -14,8 +14,8 @@ class Places {
   public:
     Places(HorvantaMDI& frame, TimeFields& fields);
 
-    /// Makes the place of a menu item current and updates. A move from another place is reported first, with an offer
-    /// to copy the report.
+    /// Makes the place of a menu item current and updates. A move from a place of another name is reported first, with
+    /// an offer to copy the report.
     void SelectLocale(const MenuItem& item, const LocaleRecord& place);
 
     /// Chooses the place of a start without any question: the user's own one that was ticked, else the preset of that

@@ -113,12 +113,12 @@ Setting StoredColor(std::string_view key, std::int32_t otherwise, Window& window
 }
 
 /// Where a window stands, if it has not been moved, is told when it is loaded: it may hang on another.
-Setting Window(Form& form, bool& check, std::function<Place()> standard) {
+Setting Window(Form& form, bool& check, bool checked, std::function<Place()> standard) {
     return {form.name, "Top Left Chk",
             [=, &form, &check] {
                 constexpr double farthest = 1e6;  // twips
                 const Place place = standard();
-                LoadWindowPrefs(form, check, place.top, place.left, true);
+                LoadWindowPrefs(form, check, place.top, place.left, checked);
                 if (std::fabs(form.place.top) > farthest) form.place.top = place.top;
                 if (std::fabs(form.place.left) > farthest) form.place.left = place.left;
             },
@@ -233,8 +233,12 @@ Table ProgramTable(Horvanta& program, StoredPlace& stored) {
     TimeAstro& time = program.timeAstro;
     TimeFields& fields = time.fields;
     GregorianWindow& gregorian = program.gregorian;
+    UserLocalesWindow& user = program.userLocales;
     const auto besideTime = [&time] {
         return Place{time.form.place.left + time.form.place.width + gap, time.form.place.top};
+    };
+    const auto belowTime = [&time] {
+        return Place{time.form.place.left, time.form.place.top + time.form.place.height + gap};
     };
     const auto literal = [](std::string_view text) { return [text] { return std::string(text); }; };
     const auto shade = [&gregorian](bool isBackground) {
@@ -254,14 +258,14 @@ Table ProgramTable(Horvanta& program, StoredPlace& stored) {
         Numbering(),
         LayoutMark(time.form),
 
-        Window(time.form, AlwaysToday, [] { return Place(); }),
+        Window(time.form, AlwaysToday, true, [] { return Place(); }),
         Kept("Monthly", "Chk", "True"),
         Kept("Quartane", "Chk", "True"),
         Kept("Julian", "Chk", "False"),
         Kept("Events", "Chk", "True"),
         Kept("Hebrew", "Chk", "True"),
-        Kept("User", "Chk", "False"),
-        Window(gregorian.form, gregorian.form.visible, besideTime),
+        Window(user.form, user.form.visible, false, belowTime),
+        Window(gregorian.form, gregorian.form.visible, true, besideTime),
         Kept("Lunar", "Chk", "True"),
         Kept("Persian", "Chk", "False"),
         Kept("Chinese", "Chk", "False"),
@@ -269,6 +273,12 @@ Table ProgramTable(Horvanta& program, StoredPlace& stored) {
 
         {"User n", "Name Lat Long Elev Zone NoDST UseLMT Chk",
          [&program, &stored] { LoadUserLocales(program.places, stored); }, [&program] { SaveUserLocales(program.places); }},
+        {"UserNum", "Num",
+         [&user] {
+             const std::int32_t number = GetLongPref(userSettings, "UserNum", "Num", 1);
+             user.ShowSlot(number >= 1 && number <= 30 ? static_cast<std::size_t>(number) : 1);
+         },
+         [&user] { CurrentDesktop->Settings().Write(userSettings, "UserNum", "Num", std::to_string(user.slot)); }},
 
         Kept("Color", "LBC", "6250335"),      Kept("Color", "LFC", "16777215"),
         StoredColor("ABC", 65535, time, time.TimeOfDay, true),

@@ -19,6 +19,7 @@ void RunUpdatePass(Horvanta& program) {
     if (!Locale.NoDST) time.fields.SetDSTcolour();
     time.ShowMoment();
     if (isLastPass() && ShowsDawnDusk) time.fields.ShowDay();
+    program.userLocales.SetCopyLocToolText();
     if (program.gregorian.form.visible) program.gregorian.Update();
     if (isLastPass()) time.fields.ShowAstronomy();
 }

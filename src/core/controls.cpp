@@ -29,11 +29,13 @@ void Control::JoinForm() { form.controls.push_back(this); }
 void Control::TakeFocus() { form.focusWish = this; }
 
 std::string AccessibleName(const Control& control) {
+    if (!control.spoken.empty()) return control.spoken;
     const std::string words = hasWords(control.text) ? RemoveAmpersands(control.text) : "";
     if (control.tooltip.empty()) return words.empty() ? control.name : words;
     const bool showsValue = dynamic_cast<const Label*>(&control) && !words.empty();
     if (showsValue) return control.tooltip + ": " + words;
-    const bool hasCaption = dynamic_cast<const Button*>(&control) || dynamic_cast<const CheckBox*>(&control);
+    const bool hasCaption = dynamic_cast<const Button*>(&control) || dynamic_cast<const CheckBox*>(&control) ||
+                            dynamic_cast<const OptionButton*>(&control) || dynamic_cast<const GroupBox*>(&control);
     const bool captioned = hasCaption && !words.empty();
     return captioned ? words : control.tooltip;
 }

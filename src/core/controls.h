@@ -49,7 +49,7 @@ class Form;
 /// Anything on a form. It registers with its form when it is constructed and stays where it is.
 class Control {
   public:
-    /// With any of `Caption`, `Tip` and `Widest`.
+    /// With any of `Caption`, `Tip`, `Widest` and `Named`.
     template <class... Properties>
     Control(Form& owner, std::string_view controlName, const Properties&... properties)
         : form(owner), name(controlName) {
@@ -68,6 +68,7 @@ class Control {
     std::string text;  ///< What it shows; a caption marks its access key with "&".
     std::string tooltip;
     std::string widest;  ///< The widest text it may come to show, for which room is kept.
+    std::string spoken;  ///< What a screen reader calls it, where neither caption nor tooltip tells it from others.
     bool visible = true;
     bool enabled = true;
     std::optional<ColorPair> colors;  ///< None follows the desktop's palette.
@@ -93,6 +94,10 @@ struct Widest {
     std::string text;
     void GiveTo(Control& control) const { control.widest = text; }
 };
+struct Named {
+    std::string text;
+    void GiveTo(Control& control) const { control.spoken = text; }
+};
 
 class Label final : public Control {
   public:
@@ -110,6 +115,23 @@ class TextField final : public Control {
     using Control::Control;
 
     std::function<void()> LostFocus;  ///< The user left the field or pressed Enter in it.
+
+    /// Asked before that of the form for a key that does not edit the text; true if it has been used up.
+    std::function<bool(int code, int shift)> KeyDown;
+};
+
+/// A pair of arrows that change what another control shows. Its caption, if any, says by how much.
+class UpDown final : public Control {
+  public:
+    using Control::Control;
+
+    std::function<void(int direction)> Step;  ///< 1 upwards, -1 downwards.
+};
+
+/// A box around controls that belong together; it is clicked on its caption or its line.
+class GroupBox final : public Control {
+  public:
+    using Control::Control;
 };
 
 /// A list of texts of which one is selected, or none (-1).
@@ -138,6 +160,19 @@ class CheckBox final : public Control {
 
   private:
     std::function<CheckState()> state_;
+};
+
+/// One of several choices, which shows whether it is the chosen one: a click calls for the choice.
+class OptionButton final : public Control {
+  public:
+    using Control::Control;
+
+    void ShowsWhen(std::function<bool()> chosen) { chosen_ = std::move(chosen); }
+
+    bool isChosen() const { return chosen_ && chosen_(); }
+
+  private:
+    std::function<bool()> chosen_;
 };
 
 /// A row of panels of one width.
@@ -217,6 +252,8 @@ enum KeyCode {
     KeyDown = 40,
     KeyNumericPlus = 107,
     KeyNumericMinus = 109,
+    KeyPlus = 187,  // among the letters, with or without Shift
+    KeyMinus = 189,
 };
 
 /// An item of a menu, or a whole menu under its parent. It is shown if it has a handler or holds an item that is. One

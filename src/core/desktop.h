@@ -17,6 +17,9 @@ struct LocalClock {
     double fractionOfDay = 0;
 };
 
+/// An answer to a question; the numbers are those by which desktops know them.
+enum class YesNoCancel { Cancel = 2, Yes = 6, No = 7 };
+
 /// Everything the program asks of the desktop it runs on.
 class Desktop {
   public:
@@ -33,6 +36,9 @@ class Desktop {
 
     /// A box with a question; true for yes.
     virtual bool AskYesNo(std::string_view question, std::string_view title) = 0;
+
+    /// A box with a question that may be left open, and stops what raised it then.
+    virtual YesNoCancel AskYesNoCancel(std::string_view question, std::string_view title) = 0;
 
     /// A box with a line to fill in; nothing when cancelled.
     virtual std::optional<std::string> AskText(std::string_view prompt, std::string_view title,

@@ -1,14 +1,18 @@
 #include "qt/binder.h"
 
+#include "qt/arrow_pair.h"
 #include "qt/panel_bar.h"
 
 #include <QAbstractButton>
 #include <QApplication>
 #include <QCheckBox>
+#include <QGroupBox>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMouseEvent>
+#include <QRadioButton>
+#include <QStyleOptionGroupBox>
 
 #include <algorithm>
 #include <optional>
@@ -43,6 +47,10 @@ constexpr KeyRow keyRows[] = {
     {Qt::Key_Down, false, KeyDown},
     {Qt::Key_Plus, true, KeyNumericPlus},
     {Qt::Key_Minus, true, KeyNumericMinus},
+    {Qt::Key_Plus, false, KeyPlus},
+    {Qt::Key_Equal, false, KeyPlus},
+    {Qt::Key_Minus, false, KeyMinus},
+    {Qt::Key_Underscore, false, KeyMinus},
 };
 
 /// Rows for the keypad hold there alone.
@@ -96,6 +104,7 @@ QString TextOf(const QWidget& widget) {
     if (const auto* label = qobject_cast<const QLabel*>(&widget)) return label->text();
     if (const auto* button = qobject_cast<const QAbstractButton*>(&widget)) return button->text();
     if (const auto* field = qobject_cast<const QLineEdit*>(&widget)) return field->text();
+    if (const auto* box = qobject_cast<const QGroupBox*>(&widget)) return box->title();
     return {};
 }
 
@@ -103,6 +112,7 @@ void SetText(QWidget& widget, const QString& text) {
     if (auto* label = qobject_cast<QLabel*>(&widget)) label->setText(text);
     if (auto* button = qobject_cast<QAbstractButton*>(&widget)) button->setText(text);
     if (auto* field = qobject_cast<QLineEdit*>(&widget)) field->setText(text);
+    if (auto* box = qobject_cast<QGroupBox*>(&widget)) box->setTitle(text);
 }
 
 QColor ToQColor(Color color) { return {color.red, color.green, color.blue}; }
@@ -131,6 +141,18 @@ void SetState(QCheckBox& box, CheckState state) {
     box.setCheckState(shown[state]);
 }
 
+/// A group box is clicked on its caption or its line, not between what it holds.
+bool isHit(const QWidget& widget, const QPoint& where) {
+    const auto* box = qobject_cast<const QGroupBox*>(&widget);
+    if (!box) return qobject_cast<const QLabel*>(&widget) && widget.rect().contains(where);
+    QStyleOptionGroupBox option;
+    option.initFrom(box);
+    option.text = box->title();
+    option.subControls = QStyle::SC_GroupBoxFrame | QStyle::SC_GroupBoxLabel;
+    const QRect contents = box->style()->subControlRect(QStyle::CC_GroupBox, &option, QStyle::SC_GroupBoxContents, box);
+    return box->rect().contains(where) && !contents.contains(where);
+}
+
 void DrawControl(const Control& control, QWidget& widget) {
     const auto differs = [](const QString& shown, const std::string& text) {
         return shown != QString::fromStdString(text);
@@ -147,7 +169,11 @@ void DrawControl(const Control& control, QWidget& widget) {
     if (widget.isEnabled() != control.enabled) widget.setEnabled(control.enabled);
     SetColors(widget, control.colors);
     if (auto* box = qobject_cast<QCheckBox*>(&widget)) SetState(*box, static_cast<const CheckBox&>(control).State());
+    if (auto* option = qobject_cast<QRadioButton*>(&widget)) {
+        option->setChecked(static_cast<const OptionButton&>(control).isChosen());
+    }
     if (auto* bar = qobject_cast<PanelBar*>(&widget)) bar->Draw(static_cast<const StatusBar&>(control));
+    if (auto* arrows = qobject_cast<ArrowPair*>(&widget)) arrows->Draw(static_cast<const UpDown&>(control));
 }
 
 void EnlargeFont(QWidget& widget) {
@@ -188,6 +214,12 @@ void Binder::Connect(const Bound& bound) {
         if (panels->PanelClick) bar->setCursor(Qt::PointingHandCursor);
         connect(bar, &PanelBar::panelClicked, this, [this, panels](std::size_t index) {
             if (panels->PanelClick) acts_.Run([panels, index] { panels->PanelClick(index); });
+        });
+    }
+    if (auto* arrows = qobject_cast<ArrowPair*>(bound.widget)) {
+        auto* pair = static_cast<UpDown*>(control);
+        connect(arrows, &ArrowPair::stepped, this, [this, pair](int direction) {
+            if (pair->Step) acts_.Run([pair, direction] { pair->Step(direction); });
         });
     }
     if (auto* field = qobject_cast<QLineEdit*>(bound.widget)) {
@@ -250,6 +282,7 @@ bool Binder::eventFilter(QObject* watched, QEvent* event) {
     Control* control = ControlOf(watched);
     switch (event->type()) {
         case QEvent::KeyPress: return KeyActed(watched, static_cast<QKeyEvent&>(*event));
+        case QEvent::Shortcut: return BoxCalled(watched);
         case QEvent::MouseButtonDblClick:
             if (control) doubleClicked_ = watched;
             return false;
@@ -266,11 +299,19 @@ bool Binder::eventFilter(QObject* watched, QEvent* event) {
     }
 }
 
-/// Labels have no signals of their own. The release that ends a double click is not another click.
+/// The access key of a group box leads to its field, where the toolkit would prefer a chosen option.
+bool Binder::BoxCalled(QObject* watched) {
+    const auto* box = qobject_cast<const QGroupBox*>(watched);
+    auto* field = box ? box->findChild<QLineEdit*>() : nullptr;
+    if (field) field->setFocus(Qt::ShortcutFocusReason);
+    return field != nullptr;
+}
+
+/// Labels and group boxes have no signals of their own. The release that ends a double click is not another click.
 void Binder::MouseActed(Control& control, const QMouseEvent& event) {
     const QWidget* widget = WidgetOf(control);
     const bool ofDoubleClick = std::exchange(doubleClicked_, nullptr) == widget;
-    if (!qobject_cast<const QLabel*>(widget) || !widget->rect().contains(event.position().toPoint())) return;
+    if (!isHit(*widget, event.position().toPoint())) return;
     if (event.button() == Qt::RightButton) acts_.Run(control.RightClick);
     if (event.button() == Qt::LeftButton) acts_.Run(ofDoubleClick ? control.DblClick : control.Click);
 }
@@ -283,10 +324,15 @@ bool Binder::KeyActed(QObject* watched, const QKeyEvent& event) {
         return true;
     }
     const KeyPress key = KeyPressOf(event);
-    if (key.code == 0 || !form_.KeyDown || isKept(watched, event)) return false;
+    const auto* field = dynamic_cast<const TextField*>(ControlOf(watched));
+    const bool isAsked = form_.KeyDown || (field && field->KeyDown);
+    if (key.code == 0 || !isAsked || isKept(watched, event)) return false;
     if (event.isAutoRepeat() && acts_.isPaintPending()) return true;
     bool used = false;
-    acts_.Run([&] { used = form_.KeyDown(key.code, key.shift); });
+    acts_.Run([&] {
+        used = (field && field->KeyDown && field->KeyDown(key.code, key.shift)) ||
+               (form_.KeyDown && form_.KeyDown(key.code, key.shift));
+    });
     return used;
 }
 

@@ -60,6 +60,7 @@ class Binder final : public QObject {
     void Connect(const Bound& bound);
     void Clicked(Control& control);
     void KeepRoom(const Bound& bound);
+    static bool BoxCalled(QObject* watched);
     void MouseActed(Control& control, const QMouseEvent& event);
     bool KeyActed(QObject* watched, const QKeyEvent& event);
     void FocusLeft(Control& control, Qt::FocusReason reason);

@@ -2,6 +2,7 @@
 
 #include "forms/ui_gregorian.h"
 #include "forms/ui_time_astro.h"
+#include "forms/ui_user.h"
 
 namespace horvanta {
 namespace {
@@ -19,6 +20,7 @@ struct DesignerForm {
 constexpr DesignerForm designerForms[] = {
     {"TimeAstro", SetUp<Ui::TimeAstro>},
     {"Gregorian", SetUp<Ui::Gregorian>},
+    {"User", SetUp<Ui::User>},
 };
 
 }  // namespace

@@ -62,6 +62,14 @@ bool QtDesktop::AskYesNo(std::string_view question, std::string_view title) {
            QMessageBox::Yes;
 }
 
+YesNoCancel QtDesktop::AskYesNoCancel(std::string_view question, std::string_view title) {
+    frame_->Draw();
+    constexpr auto buttons = QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel;
+    const int pressed = ShowBox(QMessageBox::Question, question, title, buttons, frame_.get());
+    if (pressed == QMessageBox::Yes) return YesNoCancel::Yes;
+    return pressed == QMessageBox::No ? YesNoCancel::No : YesNoCancel::Cancel;
+}
+
 std::optional<std::string> QtDesktop::AskText(std::string_view prompt, std::string_view title,
                                               std::string_view initial) {
     frame_->Draw();

@@ -16,6 +16,7 @@ class QtDesktop final : public Desktop {
     void LetEventsRun() override;
     void Beep() override;
     bool AskYesNo(std::string_view question, std::string_view title) override;
+    YesNoCancel AskYesNoCancel(std::string_view question, std::string_view title) override;
     std::optional<std::string> AskText(std::string_view prompt, std::string_view title,
                                        std::string_view initial) override;
     void Tell(std::string_view message, std::string_view title) override;

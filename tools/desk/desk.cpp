@@ -75,6 +75,7 @@ std::string ShownText(const Control& control) {
 
 std::string CheckText(const Control& control) {
     constexpr const char* words[] = {" unchecked", " checked", " undecided"};
+    if (const auto* option = dynamic_cast<const OptionButton*>(&control)) return words[option->isChosen()];
     const auto* box = dynamic_cast<const CheckBox*>(&control);
     return box ? words[box->State()] : "";
 }
@@ -187,13 +188,23 @@ std::string Desk::ClickPanel(StatusBar& bar, std::string_view number) {
     return "ok";
 }
 
-/// The panels of a bar are clicked by their numbers from 1.
+std::string Desk::ClickArrow(UpDown& arrows, std::string_view direction) {
+    if (direction != "up" && direction != "down") throw BadLine("neither up nor down: " + std::string(direction));
+    arrows.Step(direction == "up" ? 1 : -1);
+    return "ok";
+}
+
+/// The panels of a bar are clicked by their numbers from 1, arrows by their direction.
 std::string Desk::Click(std::string_view rest) {
     std::string_view number = rest;
     const std::string_view name = TakeWord(number);
     if (auto* bar = dynamic_cast<StatusBar*>(&ControlNamed(name))) {
         ControlInReach(name);
         return ClickPanel(*bar, number);
+    }
+    if (auto* arrows = dynamic_cast<UpDown*>(&ControlNamed(name))) {
+        ControlInReach(name);
+        return ClickArrow(*arrows, number);
     }
     return Act(rest, &Control::Click);
 }

@@ -42,6 +42,7 @@ class Desk {
     std::string Asked(std::string_view rest);
 
     std::string ClickPanel(StatusBar& bar, std::string_view number);
+    std::string ClickArrow(UpDown& arrows, std::string_view direction);
 
     Control& ControlNamed(std::string_view name) const;
     Control& ControlInReach(std::string_view name) const;

@@ -42,11 +42,21 @@ BoxAnswer RecordingDesktop::NextAnswer() {
     return answer;
 }
 
-bool RecordingDesktop::AskYesNo(std::string_view question, std::string_view title) {
+BoxAnswer::Kind RecordingDesktop::AnswerBox(std::string_view question, std::string_view title) {
     constexpr const char* words[] = {"yes", "no", "cancel", "cancel", "cancel"};
     const BoxAnswer answer = NextAnswer();
     asked.push_back("box " + Quoted(title) + " " + Quoted(question) + " " + words[answer.kind]);
-    return answer.kind == BoxAnswer::yes;
+    return answer.kind;
+}
+
+bool RecordingDesktop::AskYesNo(std::string_view question, std::string_view title) {
+    return AnswerBox(question, title) == BoxAnswer::yes;
+}
+
+YesNoCancel RecordingDesktop::AskYesNoCancel(std::string_view question, std::string_view title) {
+    const BoxAnswer::Kind answer = AnswerBox(question, title);
+    if (answer == BoxAnswer::yes) return YesNoCancel::Yes;
+    return answer == BoxAnswer::no ? YesNoCancel::No : YesNoCancel::Cancel;
 }
 
 std::optional<std::string> RecordingDesktop::AskText(std::string_view prompt, std::string_view title,
@@ -74,13 +84,17 @@ std::optional<Color> RecordingDesktop::ChooseColor(Color present) {
 
 void RecordingDesktop::SetClipboard(const std::string& text) { asked.push_back("clipboard " + Quoted(text)); }
 
-/// A focused button keeps Space and Enter, a text field Enter; other keys go to the focused window.
+/// A focused button keeps Space and Enter, a text field Enter and what it uses itself; other keys go to the focused
+/// window.
 bool RecordingDesktop::Press(int code, int shift) {
     if (!focused) return false;
+    auto* field = dynamic_cast<TextField*>(focused);
     if (TakesClicks(*focused) && (code == KeySpace || code == KeyEnter)) {
         focused->Click();
-    } else if (dynamic_cast<TextField*>(focused) && code == KeyEnter) {
+    } else if (field && code == KeyEnter) {
         LeaveField();
+    } else if (field && field->KeyDown && field->KeyDown(code, shift)) {
+        return true;
     } else if (focused->form.KeyDown) {
         focused->form.KeyDown(code, shift);
     }
@@ -118,7 +132,8 @@ void RecordingDesktop::Settle() {
 }
 
 bool TakesClicks(const Control& control) {
-    return dynamic_cast<const Button*>(&control) || dynamic_cast<const CheckBox*>(&control);
+    return dynamic_cast<const Button*>(&control) || dynamic_cast<const CheckBox*>(&control) ||
+           dynamic_cast<const OptionButton*>(&control);
 }
 
 std::string Quoted(std::string_view text) {

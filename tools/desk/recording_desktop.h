@@ -47,6 +47,7 @@ class RecordingDesktop : public Desktop {
     void LetEventsRun() override { Settle(); }
     void Beep() override;
     bool AskYesNo(std::string_view question, std::string_view title) override;
+    YesNoCancel AskYesNoCancel(std::string_view question, std::string_view title) override;
     std::optional<std::string> AskText(std::string_view prompt, std::string_view title,
                                        std::string_view initial) override;
     void Tell(std::string_view message, std::string_view title) override;
@@ -75,13 +76,14 @@ class RecordingDesktop : public Desktop {
 
   private:
     BoxAnswer NextAnswer();
+    BoxAnswer::Kind AnswerBox(std::string_view question, std::string_view title);
     void Activate(Control& control);
     void LeaveField();
 
     HorvantaMDI* frame_ = nullptr;
 };
 
-/// True for buttons and check boxes, which take the focus when they are clicked, and keys as clicks.
+/// True for buttons, check boxes and option buttons, which take the focus when they are clicked, and keys as clicks.
 bool TakesClicks(const Control& control);
 
 /// A text within double quotes, with quotes, backslashes and line ends escaped.
