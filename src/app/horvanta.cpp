@@ -36,6 +36,9 @@ void Horvanta::HangHandlers() {
     frame.GregCal.Shows(gregorian.form.visible);
     frame.GregCal.Click = [this] { GregCal_Click(); };
     gregorian.form.Close = frame.GregCal.Click;
+    frame.QuaCal.Shows(quartane.form.visible);
+    frame.QuaCal.Click = [this] { QuaCal_Click(); };
+    quartane.form.Close = frame.QuaCal.Click;
     frame.SetUserLoc.Shows(userLocales.form.visible);
     frame.SetUserLoc.Click = [this] { SetUserLoc_Click(); };
     userLocales.form.Close = frame.SetUserLoc.Click;
@@ -71,6 +74,7 @@ void Horvanta::LoadWindows() {
     for (Form* form : forms) CurrentDesktop->LoadForm(*form);
     timeAstro.form.visible = true;
     const StoredPlace stored = LoadPrefs(*this);
+    quartane.form.visible = true;  // whatever was kept of it
     timeAstro.SetYearStepCaptions();
     timeAstro.fields.SetToggles();
     places.ChooseFirst(stored.name, stored.userSlot);
@@ -125,6 +129,7 @@ void Horvanta::ResetColorsAndQuit_Click() {
 }
 
 void Horvanta::GregCal_Click() { ShowOrHide(gregorian.form, gregorian.Dummy); }
+void Horvanta::QuaCal_Click() { ShowOrHide(quartane.form, quartane.Dummy); }
 
 void Horvanta::SetUserLoc_Click() {
     if (userLocales.isDirty() != YesNoCancel::Cancel) ShowOrHide(userLocales.form, userLocales.LocName);

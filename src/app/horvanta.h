@@ -5,6 +5,7 @@
 #include "app/places.h"
 #include "app/time_astro.h"
 #include "calendars/gregorian_window.h"
+#include "calendars/quartane_window.h"
 #include "core/shell.h"
 #include "locale/user_locales_window.h"
 
@@ -40,19 +41,23 @@ class Horvanta {
     /// Shows the Gregorian window, or hides it.
     void GregCal_Click();
 
+    /// Shows the Quartane window, or hides it.
+    void QuaCal_Click();
+
     /// Shows the window of the user's own places, or hides it unless the user stops that for the sake of changes.
     void SetUserLoc_Click();
 
     HorvantaMDI frame;
     TimeAstro timeAstro{frame};
     GregorianWindow gregorian{frame};
+    QuartaneWindow quartane{frame};
     UserLocalesWindow userLocales{frame};
     Places places{frame, timeAstro.fields};
     Jumps jumps{frame, timeAstro};
     Options options{frame};
 
     /// In the order in which they are loaded.
-    Form* const forms[3] = {&timeAstro.form, &gregorian.form, &userLocales.form};
+    Form* const forms[4] = {&timeAstro.form, &gregorian.form, &quartane.form, &userLocales.form};
 
   private:
     void HangHandlers();

@@ -233,6 +233,7 @@ Table ProgramTable(Horvanta& program, StoredPlace& stored) {
     TimeAstro& time = program.timeAstro;
     TimeFields& fields = time.fields;
     GregorianWindow& gregorian = program.gregorian;
+    QuartaneWindow& qua = program.quartane;
     UserLocalesWindow& user = program.userLocales;
     const auto besideTime = [&time] {
         return Place{time.form.place.left + time.form.place.width + gap, time.form.place.top};
@@ -260,7 +261,7 @@ Table ProgramTable(Horvanta& program, StoredPlace& stored) {
 
         Window(time.form, AlwaysToday, true, [] { return Place(); }),
         Kept("Monthly", "Chk", "True"),
-        Kept("Quartane", "Chk", "True"),
+        Window(qua.form, qua.form.visible, true, belowTime),
         Kept("Julian", "Chk", "False"),
         Kept("Events", "Chk", "True"),
         Kept("Hebrew", "Chk", "True"),
@@ -286,7 +287,8 @@ Table ProgramTable(Horvanta& program, StoredPlace& stored) {
         StoredColor("GBC", 12642289, gregorian, gregorian.GregorianDate, true),
         StoredColor("GFC", 0, gregorian, gregorian.GregorianDate, false),
         Written("Color", "IBC", shade(true)), Written("Color", "IFC", shade(false)),
-        Kept("Color", "SBC", "16706033"),     Kept("Color", "SFC", "0"),
+        StoredColor("SBC", 16706033, qua, qua.QuartaneDateBox, true),
+        StoredColor("SFC", 0, qua, qua.QuartaneDateBox, false),
         Kept("Color", "HBC", "16777152"),     Kept("Color", "HFC", "0"),
         Kept("Color", "PBC", "10220253"),     Kept("Color", "PFC", "0"),
         Kept("Color", "JBC", "14680063"),     Kept("Color", "JFC", "0"),
@@ -299,14 +301,20 @@ Table ProgramTable(Horvanta& program, StoredPlace& stored) {
         Bool("Item", "Year", true, StepsBySolarYear),
         Caption("Item", "OrbRAY", "RAY", ShowsRAYDate, fields.Orbital_RAY_Toggle),
         Caption("Item", "JDMJD", "Mod", ShowsModifiedJulianDay, fields.JD_MJD_Toggle),
-        Kept("Item", "QuaStart", "1"),
-        Kept("Item", "Qua454", "True"),
-        Kept("Item", "UseZov010", "True"),
-        Kept("Item", "UseZov454", "False"),
-        Kept("Item", "Even", "False"),
-        Kept("Item", "Mix", "False"),
-        Kept("Item", "QuaLeap", "52/293"),
-        Kept("Item", "QuaQS", "SLS"),
+        Long("Item", "QuaStart", 1, quartane::StartWeekday, 0, 6),
+        Bool("Item", "Qua454", true, quartane::Qua454),
+        Bool("Item", "UseZov010", true, quartane::UseZov010),
+        Bool("Item", "UseZov454", false, quartane::UseZov454),
+        Bool("Item", "Even", false, quartane::EvenCycleFlag),
+        Bool("Item", "Mix", false, quartane::QuaSoupMix),
+        {"Item", "QuaLeap", [] { quartane::SetQuaLeapChoice(GetTextPref(ProgramSettings, "Item", "QuaLeap", "52/293")); },
+         [] { SavePref("Item", "QuaLeap", quartane::LeapRuleKey); }},
+        {"Item", "QuaQS",
+         [] {
+             quartane::QuarterStructure = "SLS";
+             quartane::SetQuaQuarterStructure(GetTextPref(ProgramSettings, "Item", "QuaQS", "SLS"));
+         },
+         [] { SavePref("Item", "QuaQS", quartane::QuarterStructure); }},
 
         StoredMoment("Item", "RD", DisplayedMoment),
         StoredMoment("Item", "SD", SavedMoment),

@@ -1,6 +1,7 @@
 #include "calendars/quartane.h"
 
 #include "astro/timescales.h"
+#include "calendars/calendar_phrases.h"
 #include "calendars/gregorian.h"
 #include "core/moment.h"
 
@@ -62,11 +63,6 @@ void SetMonth(QuaDate& date) {
     const bool withLeapWeek = date.month == 12 && date.isLeap && !standsAlone;
     date.monthLength = month == 3 ? std::int16_t{7} : LengthInQuarter(structure, month);
     if (withLeapWeek) date.monthLength = static_cast<std::int16_t>(date.monthLength + 7);
-}
-
-std::string DateText(std::string_view weekday, std::string_view month, const QuaDate& date) {
-    return std::string(weekday) + ", " + std::string(month) + " " + std::to_string(date.day) + ", " +
-           std::to_string(date.year);
 }
 
 }  // namespace
@@ -137,11 +133,13 @@ std::int16_t DaysInMonth(std::int32_t year, std::int32_t month) {
     return static_cast<std::int16_t>(days);
 }
 
-std::string QuaDateString(const QuaDate& date) { return DateText(date.weekdayName, MonthName(date.month), date); }
+std::string QuaDateString(const QuaDate& date) {
+    return DateInWords(date.weekdayName, MonthName(date.month), date.day, date.year);
+}
 
 std::string FixedToQuaShortDate(Moment x) {
     const QuaDate date = FixedToQuaDate(x);
-    return DateText(ShortWeekdayNames[date.weekday], MonthName(date.month).substr(0, 3), date);
+    return DateInWords(ShortWeekdayNames[date.weekday], MonthName(date.month).substr(0, 3), date.day, date.year);
 }
 
 const QuaDate& DisplayedQuaDate() {

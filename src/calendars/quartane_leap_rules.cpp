@@ -122,12 +122,7 @@ LeapRule RuleOf(std::string_view key, bool commonYearFirst) {
 std::string ISOText(std::string_view key) {
     const std::string name(WeekdayNames[StartWeekday]);
     if (key == "ISO") return "Start on " + name + " closest to Gregorian new year 71/400";
-    const bool after = StartWeekday >= 2 && StartWeekday <= 4;
-    return "Start on " + name +
-           (after               ? " after"
-            : StartWeekday == 1 ? " that starts"
-                                : " before") +
-           " ISO new year 71/400";
+    return "Start on " + name + " " + std::string(BesideISOWeekday()) + " ISO new year 71/400";
 }
 
 std::string TextOf(const Choice& choice) {
@@ -153,6 +148,11 @@ const LeapRule& Rule() {
 }
 
 bool isISORule() { return LeapRuleKey.find("ISO") != std::string::npos; }
+
+std::string_view BesideISOWeekday() {
+    if (StartWeekday == 1) return "that starts";
+    return StartWeekday >= 2 && StartWeekday <= 4 ? "after" : "before";
+}
 
 std::int32_t SetKoffset(std::int32_t weekday) {
     const LeapRule& rule = Rule();

@@ -37,6 +37,9 @@ const LeapRule& Rule();
 /// The rule is one of those about the ISO new year, or that of the Revised Julian calendar.
 bool isISORule();
 
+/// How the weekday on which years begin stands to that of the ISO new year: "that starts", "after" or "before".
+std::string_view BesideISOWeekday();
+
 /// The offset of the cycle if years began on a weekday. Only rules with the ISO new year have one that depends on it,
 /// and it tells nothing but where their leap years stand; their new years don't go by it.
 std::int32_t SetKoffset(std::int32_t weekday);

@@ -1,5 +1,6 @@
 #include "calendars/quartane_leap_text.h"
 
+#include "astro/timescales.h"
 #include "calendars/gregorian.h"
 #include "calendars/quartane_leap_rules.h"
 #include "core/desktop.h"
@@ -7,6 +8,7 @@
 
 #include <algorithm>
 #include <cstdlib>
+#include <optional>
 #include <vector>
 
 namespace horvanta::quartane {
@@ -69,12 +71,6 @@ const SolarRule* FindSolarRule() {
     return found == std::end(solarRules) ? nullptr : found;
 }
 
-/// The weekday of new year to that of the ISO new year.
-std::string_view BesideISOWeekday() {
-    if (StartWeekday == 1) return "that starts";
-    return StartWeekday >= 2 && StartWeekday <= 4 ? "after" : "before";
-}
-
 std::string ISOMethod() {
     const bool revised = LeapRuleKey.starts_with("RJISO");
     const std::string start = "Each year starts on the " + StartWeekdayName() + " ";
@@ -130,6 +126,20 @@ std::string ISOExplanation(const LeapRule& rule) {
            " leap years in " + std::to_string(rule.CycleLength) + " years.\nThe mean year is " +
            GeneralText(rule.MeanYear) + " days (identical to the " + (revised ? "Revised Julian" : "Gregorian") +
            " mean year).";
+}
+
+/// The days, which the slowing of the Earth's rotation makes fewer, of the mean orbital year about a moment.
+double OrbitalYearLength(Moment x) {
+    const double date = MomentToOrbitalDate(x);
+    return OrbitalDateToMoment(date + 0.5) - OrbitalDateToMoment(date - 0.5);
+}
+
+/// The days of the mean year, for rules that have one.
+std::optional<double> MeanYearAt(Moment x) {
+    if (Rule().CycleLength != 0) return Rule().MeanYear;
+    if (LeapRuleKey == "RAY") return RAYYearLength(x);
+    if (LeapRuleKey == "MOY") return OrbitalYearLength(x);
+    return {};
 }
 
 // Groups of intervals by letters: the letter of 11 is K, that of 17 is Q.
@@ -196,20 +206,25 @@ std::string LeapRuleExplanation() {
     return LeapRuleMethod(false) + std::string(followsNextNewYear) + "\n\n" + std::string(solar->explanation);
 }
 
-std::string MeanYearText() {
+std::string MeanYearText(Moment x) {
     if (Rule().CycleLength != 0) return MeanYearSum(Rule()) + " days";
+    if (const auto days = MeanYearAt(x)) return FormatNumber(*days, "0.000000") + " days";
     if (LeapRuleKey.find("NE80") != std::string::npos) return "Northward Equinox Year";
     if (LeapRuleKey.find("NS174") != std::string::npos) return "North Solstice Year";
     return "(varies)";
 }
 
-std::string MeanYearFraction() { return Rule().CycleLength == 0 ? "" : GeneralText(Rule().ReducedRatio); }
+std::string MeanYearFraction(Moment x) {
+    if (Rule().CycleLength != 0) return GeneralText(Rule().ReducedRatio);
+    const auto days = MeanYearAt(x);
+    return days ? FormatNumber(*days - Floor(*days), "0.000000") : MeanYearText(x);
+}
 
-std::string MeanYearSummary() {
-    const LeapRule& rule = Rule();
-    if (rule.CycleLength == 0) return "mean year: " + MeanYearText();
-    return "mean year = " + MeanYearSum(rule) + " = " + GeneralText(rule.MeanYear) +
-           " days = " + DurationString(rule.MeanYear) + " (" + LeapRuleKey + " leap cycle)";
+std::string MeanYearSummary(Moment x) {
+    const auto days = MeanYearAt(x);
+    if (!days) return "mean year: " + MeanYearText(x);
+    const std::string source = Rule().CycleLength == 0 ? "" : " (" + LeapRuleKey + " leap cycle)";
+    return "mean year = " + MeanYearText(x) + " = " + DurationString(*days) + source;
 }
 
 std::string QuaLeapIntervals() {

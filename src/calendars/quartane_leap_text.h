@@ -1,5 +1,7 @@
 #pragma once
 
+#include "core/numerics.h"
+
 #include <string>
 #include <string_view>
 
@@ -12,15 +14,14 @@ std::string LeapRuleMethod(bool forWebPage);
 /// The rule with its leap years, their intervals and its mean year.
 std::string LeapRuleExplanation();
 
-/// The mean year in words, "365+71/293 days", or what it hangs on.
-std::string MeanYearText();
+/// The mean year in words, "365+71/293 days", or what it hangs on; where it changes slowly, the one of a moment.
+std::string MeanYearText(Moment x);
 
-/// What the mean year has beyond whole days, as a decimal number; empty without a cycle.
-std::string MeanYearFraction();
+/// What it has beyond whole days as a decimal number, or its words where it has no length.
+std::string MeanYearFraction(Moment x);
 
-/// "mean year = 365+71/293 = 365.242320819113 days = 365d 5h 48m 57s (52/293 leap cycle)", or the text of the mean
-/// year.
-std::string MeanYearSummary();
+/// "mean year = 365+71/293 days = 365d 5h 48m 57s (52/293 leap cycle)"
+std::string MeanYearSummary(Moment x);
 
 /// The years between the leap years of a cycle from its second one on, "17 11 17": 17 stands for 6 + 5 + 6, 11 for
 /// 5 + 6. Empty without a cycle.

@@ -2,10 +2,12 @@
 
 #include "qt/arrow_pair.h"
 #include "qt/panel_bar.h"
+#include "qt/text_grid.h"
 
 #include <QAbstractButton>
 #include <QApplication>
 #include <QCheckBox>
+#include <QComboBox>
 #include <QGroupBox>
 #include <QKeyEvent>
 #include <QLabel>
@@ -91,9 +93,17 @@ constexpr QKeySequence::StandardKey editingKeys[] = {
 
 bool isEnter(const QKeyEvent& event) { return event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter; }
 
+/// What moves in a list or opens it.
+bool isListKey(const QKeyEvent& event) {
+    constexpr int keys[] = {Qt::Key_Up,   Qt::Key_Down, Qt::Key_PageUp, Qt::Key_PageDown,
+                            Qt::Key_Home, Qt::Key_End,  Qt::Key_Space};
+    return std::find(std::begin(keys), std::end(keys), event.key()) != std::end(keys);
+}
+
 /// Keys that a focused widget keeps to itself.
 bool isKept(const QObject* focused, const QKeyEvent& event) {
     if (qobject_cast<const QAbstractButton*>(focused)) return event.key() == Qt::Key_Space || isEnter(event);
+    if (qobject_cast<const QComboBox*>(focused)) return isListKey(event);
     if (!qobject_cast<const QLineEdit*>(focused)) return false;
     if (isEnter(event)) return true;
     return std::any_of(std::begin(editingKeys), std::end(editingKeys),
@@ -153,6 +163,19 @@ bool isHit(const QWidget& widget, const QPoint& where) {
     return box->rect().contains(where) && !contents.contains(where);
 }
 
+void DrawList(const ChoiceList& choices, QComboBox& list) {
+    const int count = static_cast<int>(choices.items.size());
+    bool same = list.count() == count;
+    for (int i = 0; same && i < count; ++i) {
+        same = list.itemText(i) == QString::fromStdString(choices.items[static_cast<std::size_t>(i)]);
+    }
+    if (!same) {
+        list.clear();
+        for (const std::string& item : choices.items) list.addItem(QString::fromStdString(item));
+    }
+    if (list.currentIndex() != choices.selected) list.setCurrentIndex(choices.selected);
+}
+
 void DrawControl(const Control& control, QWidget& widget) {
     const auto differs = [](const QString& shown, const std::string& text) {
         return shown != QString::fromStdString(text);
@@ -174,6 +197,8 @@ void DrawControl(const Control& control, QWidget& widget) {
     }
     if (auto* bar = qobject_cast<PanelBar*>(&widget)) bar->Draw(static_cast<const StatusBar&>(control));
     if (auto* arrows = qobject_cast<ArrowPair*>(&widget)) arrows->Draw(static_cast<const UpDown&>(control));
+    if (auto* list = qobject_cast<QComboBox*>(&widget)) DrawList(static_cast<const ChoiceList&>(control), *list);
+    if (auto* grid = qobject_cast<TextGrid*>(&widget)) grid->Draw(static_cast<const Grid&>(control));
 }
 
 void EnlargeFont(QWidget& widget) {
@@ -222,6 +247,19 @@ void Binder::Connect(const Bound& bound) {
             if (pair->Step) acts_.Run([pair, direction] { pair->Step(direction); });
         });
     }
+    if (auto* list = qobject_cast<QComboBox*>(bound.widget)) {
+        auto* choices = static_cast<ChoiceList*>(control);
+        connect(list, &QComboBox::activated, this, [this, choices](int index) {
+            choices->selected = index;
+            acts_.Run(choices->Chosen);
+        });
+    }
+    if (auto* grid = qobject_cast<TextGrid*>(bound.widget)) {
+        auto* cells = static_cast<Grid*>(control);
+        connect(grid, &TextGrid::cellClicked, this, [this, cells](std::size_t row, std::size_t column) {
+            acts_.Run([cells, row, column] { cells->CellClick(row, column); });
+        });
+    }
     if (auto* field = qobject_cast<QLineEdit*>(bound.widget)) {
         auto* text = static_cast<TextField*>(control);
         connect(field, &QLineEdit::textEdited, this,
@@ -255,6 +293,11 @@ void Binder::KeepRoom(const Bound& bound) {
     if (auto* bar = qobject_cast<PanelBar*>(&widget)) {
         bar->Draw(static_cast<const StatusBar&>(*bound.control));
         bar->KeepRoom(widest);
+        return;
+    }
+    if (auto* grid = qobject_cast<TextGrid*>(&widget)) {
+        grid->Draw(static_cast<const Grid&>(*bound.control));
+        grid->KeepRoom(widest);
         return;
     }
     const QString shown = TextOf(widget);

@@ -1,6 +1,7 @@
 #include "qt/forms.h"
 
 #include "forms/ui_gregorian.h"
+#include "forms/ui_quartane.h"
 #include "forms/ui_time_astro.h"
 #include "forms/ui_user.h"
 
@@ -20,6 +21,7 @@ struct DesignerForm {
 constexpr DesignerForm designerForms[] = {
     {"TimeAstro", SetUp<Ui::TimeAstro>},
     {"Gregorian", SetUp<Ui::Gregorian>},
+    {"Quartane", SetUp<Ui::Quartane>},
     {"User", SetUp<Ui::User>},
 };
 

@@ -220,7 +220,7 @@ TEST_F(Quartane, KeepsTheRuleAtSeparators) {
     SetQuaLeapChoice("RAY");
     EXPECT_EQ(LeapRuleKey, "RAY");
     LeapRuleKey = "559/3150";
-    EXPECT_EQ(MeanYearText(), "365+109/450 days");
+    EXPECT_EQ(MeanYearText(0), "365+109/450 days");
     StartWeekday = 3;
     EXPECT_EQ(LeapChoices()[9], "ISOalt = Start on Wednesday after ISO new year 71/400");
 }

@@ -5,11 +5,13 @@
 #include "qt/arrow_pair.h"
 #include "qt/panel_bar.h"
 #include "qt/qt_desktop.h"
+#include "qt/text_grid.h"
 
 #include <QApplication>
 #include <QCheckBox>
 #include <QClipboard>
 #include <QColorDialog>
+#include <QComboBox>
 #include <QDesktopServices>
 #include <QFile>
 #include <QGroupBox>
@@ -104,6 +106,8 @@ bool isFor(const QWidget& widget, const Control& control) {
     if (dynamic_cast<const CheckBox*>(&control)) return qobject_cast<const QCheckBox*>(&widget);
     if (dynamic_cast<const StatusBar*>(&control)) return qobject_cast<const PanelBar*>(&widget);
     if (dynamic_cast<const UpDown*>(&control)) return qobject_cast<const ArrowPair*>(&widget);
+    if (dynamic_cast<const ChoiceList*>(&control)) return qobject_cast<const QComboBox*>(&widget);
+    if (dynamic_cast<const Grid*>(&control)) return qobject_cast<const TextGrid*>(&widget);
     if (dynamic_cast<const GroupBox*>(&control)) return qobject_cast<const QGroupBox*>(&widget);
     if (dynamic_cast<const OptionButton*>(&control)) return qobject_cast<const QRadioButton*>(&widget);
     if (dynamic_cast<const TextField*>(&control)) return qobject_cast<const QLineEdit*>(&widget);
@@ -130,8 +134,12 @@ QByteArray ReadFile(const QString& path) {
 /// Whether a widget is one that a control draws on, rather than a part of one.
 bool isReader(const QWidget& widget) {
     const QWidget* parent = widget.parentWidget();
-    if (qobject_cast<const PanelBar*>(parent) || qobject_cast<const ArrowPair*>(parent)) return false;
-    return qobject_cast<const PanelBar*>(&widget) || qobject_cast<const ArrowPair*>(&widget) ||
+    if (qobject_cast<const PanelBar*>(parent) || qobject_cast<const ArrowPair*>(parent) ||
+        qobject_cast<const TextGrid*>(parent)) {
+        return false;
+    }
+    return qobject_cast<const QComboBox*>(&widget) || qobject_cast<const TextGrid*>(&widget) ||
+           qobject_cast<const PanelBar*>(&widget) || qobject_cast<const ArrowPair*>(&widget) ||
            qobject_cast<const QGroupBox*>(&widget) || qobject_cast<const QLabel*>(&widget) ||
            qobject_cast<const QAbstractButton*>(&widget) ||
            (qobject_cast<const QLineEdit*>(&widget) && !widget.objectName().isEmpty());

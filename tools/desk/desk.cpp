@@ -64,12 +64,21 @@ std::string_view TakeWord(std::string_view& line) {
     return word;
 }
 
-/// What a control shows: of a bar its panels, separated by lines.
+/// What a control shows: of one with parts all of them, separated by lines.
 std::string ShownText(const Control& control) {
-    const auto* bar = dynamic_cast<const StatusBar*>(&control);
-    if (!bar) return control.text;
-    std::string text;
-    for (const StatusBar::Panel& panel : bar->panels) text += (text.empty() ? "" : "|") + panel.text;
+    std::vector<std::string> texts;
+    if (const auto* bar = dynamic_cast<const StatusBar*>(&control)) {
+        for (const StatusBar::Panel& panel : bar->panels) texts.push_back(panel.text);
+    } else if (const auto* grid = dynamic_cast<const Grid*>(&control)) {
+        for (const auto& row : grid->rows) texts.insert(texts.end(), row.begin(), row.end());
+    } else if (const auto* list = dynamic_cast<const ChoiceList*>(&control)) {
+        texts = list->items;
+        texts.push_back("selected=" + std::to_string(list->selected));
+    } else {
+        return control.text;
+    }
+    std::string text = texts.empty() ? "" : texts.front();
+    for (std::size_t i = 1; i < texts.size(); ++i) text += "|" + texts[i];
     return text;
 }
 
@@ -108,9 +117,9 @@ std::string Desk::Obey(std::string_view line) try {
         {"menu", &Desk::Menu},         {"click", &Desk::Click},
         {"dblclick", &Desk::DblClick}, {"rightclick", &Desk::RightClick},
         {"focus", &Desk::Focus},       {"close", &Desk::Close},
-        {"type", &Desk::Type},         {"answer", &Desk::Answer},
-        {"show", &Desk::Show},         {"events", &Desk::Events},
-        {"asked", &Desk::Asked},
+        {"choose", &Desk::Choose},     {"type", &Desk::Type},
+        {"answer", &Desk::Answer},     {"show", &Desk::Show},
+        {"events", &Desk::Events},     {"asked", &Desk::Asked},
     };
     std::string_view rest = line;
     const std::string_view name = TakeWord(rest);
@@ -194,13 +203,38 @@ std::string Desk::ClickArrow(UpDown& arrows, std::string_view direction) {
     return "ok";
 }
 
-/// The panels of a bar are clicked by their numbers from 1, arrows by their direction.
+std::string Desk::ClickCell(const Grid& grid, std::string_view place) {
+    const auto row = ParseNumber(TakeWord(place));
+    const auto column = ParseNumber(place);
+    if (!row || !column || *row < 0 || *column < 0) throw BadLine("takes a row and a column");
+    grid.CellClick(WholeNumber<std::size_t>(*row), WholeNumber<std::size_t>(*column));
+    return "ok";
+}
+
+/// Selects the item of a list by its number from 0.
+std::string Desk::Choose(std::string_view rest) {
+    auto* list = dynamic_cast<ChoiceList*>(&ControlInReach(TakeWord(rest)));
+    const auto index = ParseNumber(rest);
+    if (!list || !list->Chosen) throw BadLine("nothing can be chosen there");
+    if (!index || *index < 0 || *index >= static_cast<double>(list->items.size())) throw BadLine("no such item");
+    desktop.Focus(*list);
+    list->selected = WholeNumber(*index);
+    list->Chosen();
+    return "ok";
+}
+
+/// The panels of a bar are clicked by their numbers from 1, arrows by their direction, the cells of a table by row and
+/// column from 0.
 std::string Desk::Click(std::string_view rest) {
     std::string_view number = rest;
     const std::string_view name = TakeWord(number);
     if (auto* bar = dynamic_cast<StatusBar*>(&ControlNamed(name))) {
         ControlInReach(name);
         return ClickPanel(*bar, number);
+    }
+    if (auto* grid = dynamic_cast<Grid*>(&ControlNamed(name))) {
+        ControlInReach(name);
+        return ClickCell(*grid, number);
     }
     if (auto* arrows = dynamic_cast<UpDown*>(&ControlNamed(name))) {
         ControlInReach(name);

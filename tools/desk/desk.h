@@ -41,6 +41,8 @@ class Desk {
     std::string Events(std::string_view rest);
     std::string Asked(std::string_view rest);
 
+    std::string Choose(std::string_view rest);
+    std::string ClickCell(const Grid& grid, std::string_view place);
     std::string ClickPanel(StatusBar& bar, std::string_view number);
     std::string ClickArrow(UpDown& arrows, std::string_view direction);
 

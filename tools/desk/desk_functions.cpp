@@ -496,8 +496,7 @@ const std::vector<DeskFunction> functions{
     DayNamesRow("Gregorian.SetDayNamesAlt", ISOCalendar),
 
     Row(
-        "QuaNewYear",
-        +[](std::int32_t year, bool wantMoment) { return quartane::QuaNewYear(year, wantMoment); }),
+        "QuaNewYear", +[](std::int32_t year, bool wantMoment) { return quartane::QuaNewYear(year, wantMoment); }),
     Row("LinApprox", quartane::LinApprox),
     Row("FixedToQuaYear", quartane::FixedToQuaYear),
     Row(
