@@ -241,6 +241,9 @@ Table ProgramTable(Horvanta& program, StoredPlace& stored) {
     const auto belowTime = [&time] {
         return Place{time.form.place.left, time.form.place.top + time.form.place.height + gap};
     };
+    const auto besideQuartane = [&qua] {
+        return Place{qua.form.place.left + qua.form.place.width + gap, qua.form.place.top};
+    };
     const auto literal = [](std::string_view text) { return [text] { return std::string(text); }; };
     const auto shade = [&gregorian](bool isBackground) {
         return [&gregorian, isBackground] {
@@ -265,7 +268,7 @@ Table ProgramTable(Horvanta& program, StoredPlace& stored) {
         Kept("Julian", "Chk", "False"),
         Kept("Events", "Chk", "True"),
         Kept("Hebrew", "Chk", "True"),
-        Window(user.form, user.form.visible, false, belowTime),
+        Window(user.form, user.form.visible, false, besideQuartane),
         Window(gregorian.form, gregorian.form.visible, true, besideTime),
         Kept("Lunar", "Chk", "True"),
         Kept("Persian", "Chk", "False"),

@@ -137,7 +137,6 @@ void QuartaneWindow::ShowDate(const QuaDate& date) {
 
 void QuartaneWindow::ShowCycle(const QuaDate& date) {
     const auto length = static_cast<std::int32_t>(Rule().CycleLength);
-    QuaCycleInfo.visible = length != 0;
     QuaCycleInfo.text = length == 0 ? "" : YearOfCycle(date.year, length, std::to_string(length) + "-year cycle");
 }
 
@@ -251,7 +250,7 @@ void QuartaneWindow::QuaMonths_Click() {
 void QuartaneWindow::QuaCycleInfo_Click() {
     const QuaDate& date = DisplayedQuaDate();
     frame_.SetClipboardText("Quartane year " + std::to_string(date.year) + " (" + (date.isLeap ? "" : "non-") +
-                            "leap) = " + QuaCycleInfo.text);
+                            "leap)" + (QuaCycleInfo.text.empty() ? "" : " = ") + QuaCycleInfo.text);
 }
 
 void QuartaneWindow::QuaStatusGrid_Click(std::size_t row, std::size_t column) {

@@ -46,7 +46,7 @@ class QuartaneWindow {
     Label QuartaneDateBox{form, "QuartaneDateBox", Widest("Wednesday, September 35, 10000 ")};
     Label QuaCycleInfo{form, "QuaCycleInfo", Tip("Click to copy cycle information to clipboard"), Widest("1800th year of 22nd 1803-year cycle AD")};
     Grid QuaStatusGrid{form, "QuaStatusGrid", Tip("Click a number to copy it to clipboard"), Widest("200+171=371"), Named("Place in year, quarter and month")};
-    ChoiceList LeapChoice{form, "LeapChoice", Tip("Choose the desired Leap Rule"), Named("Leap Rule")};
+    ChoiceList LeapChoice{form, "LeapChoice", Tip("Choose the desired Leap Rule"), Widest("320/1803 = 320 symmetric spread leap years per 1803 year cycle"), Named("Leap Rule")};
     CheckBox LeapCheckbox{form, "LeapCheckbox", Caption("Leap"), Tip("If checkmarked, indicates that the displayed year is a leap year (read only)")};
     Label MeanYearLabel{form, "MeanYearLabel", Caption("Mean Year Length ="), Tip("Click to copy the decimal fraction to clipboard")};
     Label FixedMeanYear{form, "FixedMeanYear", Widest("Northward Equinox Year")};

@@ -295,6 +295,12 @@ void Binder::KeepRoom(const Bound& bound) {
         bar->KeepRoom(widest);
         return;
     }
+    if (auto* list = qobject_cast<QComboBox*>(&widget)) {
+        list->addItem(widest);
+        widget.setMinimumWidth(widget.sizeHint().width());
+        list->removeItem(list->count() - 1);
+        return;
+    }
     if (auto* grid = qobject_cast<TextGrid*>(&widget)) {
         grid->Draw(static_cast<const Grid&>(*bound.control));
         grid->KeepRoom(widest);

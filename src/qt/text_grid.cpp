@@ -29,11 +29,15 @@ TextGrid::TextGrid(QWidget* parent) : QWidget(parent) {
     setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
 }
 
-/// Made when it is first asked for.
-QLabel* TextGrid::LabelAt(std::size_t row, std::size_t column) {
+QLabel* TextGrid::Find(std::size_t row, std::size_t column) const {
     const auto found =
         std::find_if(cells_.begin(), cells_.end(), [=](const Cell& c) { return c.row == row && c.column == column; });
-    if (found != cells_.end()) return found->label;
+    return found == cells_.end() ? nullptr : found->label;
+}
+
+/// Made when it first has a text.
+QLabel* TextGrid::LabelAt(std::size_t row, std::size_t column) {
+    if (QLabel* label = Find(row, column)) return label;
     auto* label = new QLabel(this);
     label->setTextFormat(Qt::PlainText);
     const bool isHeading = row == 0 || column == 0;
@@ -54,8 +58,9 @@ QLabel* TextGrid::LabelAt(std::size_t row, std::size_t column) {
 void TextGrid::Draw(const Grid& grid) {
     for (std::size_t row = 0; row < grid.rows.size(); ++row) {
         for (std::size_t column = 0; column < grid.rows[row].size(); ++column) {
-            QLabel& label = *LabelAt(row, column);
             const QString text = QString::fromStdString(grid.rows[row][column]);
+            if (text.isEmpty() && !Find(row, column)) continue;
+            QLabel& label = *LabelAt(row, column);
             const QString accessible = AccessibleText(grid, row, column);
             if (label.text() != text) label.setText(text);
             if (label.isHidden() != text.isEmpty()) label.setVisible(!text.isEmpty());

@@ -36,6 +36,7 @@ class TextGrid final : public QWidget {
         QLabel* label;
     };
 
+    QLabel* Find(std::size_t row, std::size_t column) const;
     QLabel* LabelAt(std::size_t row, std::size_t column);
 
     std::vector<Cell> cells_;
