@@ -3,6 +3,8 @@
 #include "astro/sun.h"
 #include "astro/timescales.h"
 #include "calendars/gregorian.h"
+#include "calendars/quartane_year_start.h"
+#include "core/desktop.h"
 
 #include <algorithm>
 #include <initializer_list>
@@ -76,7 +78,23 @@ Moment AnomalyBefore(Moment universal) {
     return found < universal - sameEvent ? found : AnomalyBefore<Degrees>(universal - 1);
 }
 
+/// A rule without a cycle has no such event.
+template <int Direction>
+Moment QuaCycle(Moment universal) {
+    const Moment found = quartane::JumpQuaCycle(universal, Direction);
+    if (isNever(found)) CurrentDesktop->Beep();
+    return found;
+}
+
+template <Moment (*Jump)(Moment, int), int Direction>
+Moment Jumping(Moment universal) {
+    return Jump(universal, Direction);
+}
+
 constexpr EventSearch searches[] = {
+    {"&Leap Week", Jumping<quartane::JumpLeapWeek, -1>, Jumping<quartane::JumpLeapWeek, 1>},
+    {"Qua New Year Moment", Jumping<quartane::JumpNYmoment, -1>, Jumping<quartane::JumpNYmoment, 1>},
+    {"Qua Leap Cycle", QuaCycle<-1>, QuaCycle<1>},
     {"Rotation-Adjusted New Year", RAYNewYearBefore, RAYNewYearAfter},
     {"&Mean Orbital New Year", OrbitalNewYearBefore, OrbitalNewYearAfter},
     {"&Besselian New Year", BesselianBefore, BesselianAfter},

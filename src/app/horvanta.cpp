@@ -40,6 +40,9 @@ void Horvanta::HangHandlers() {
     frame.CalendarMonth.Click = [this] { CalendarMonth_Click(); };
     monthly.form.Close = frame.CalendarMonth.Click;
     OfferCalendars();
+    frame.QuaCal.Shows(quartane.form.visible);
+    frame.QuaCal.Click = [this] { QuaCal_Click(); };
+    quartane.form.Close = frame.QuaCal.Click;
     frame.SetUserLoc.Shows(userLocales.form.visible);
     frame.SetUserLoc.Click = [this] { SetUserLoc_Click(); };
     userLocales.form.Close = frame.SetUserLoc.Click;
@@ -81,6 +84,7 @@ void Horvanta::LoadWindows() {
     for (Form* form : forms) CurrentDesktop->LoadForm(*form);
     timeAstro.form.visible = true;
     const StoredPlace stored = LoadPrefs(*this);
+    quartane.form.visible = true;  // whatever was kept of it
     timeAstro.SetYearStepCaptions();
     timeAstro.fields.SetToggles();
     monthly.InitCalendars();
@@ -142,6 +146,7 @@ void Horvanta::OfferCalendars() {
         const Form& form = mainDate.form;
         monthly.Offer(place, {&contract, &mainDate, &window, [&form] { return form.visible; }});
     };
+    offer(0, quartane::Calendar, quartane.QuartaneDateBox, frame.QuaCal);
     offer(1, GregorianCalendar, gregorian.GregorianDate, frame.GregCal);
     offer(2, ISOCalendar, gregorian.TheISOdate, frame.GregCal);
     offer(3, JulianCalendar, julian.TheJulianDate, frame.JulianCal);
@@ -153,6 +158,7 @@ void Horvanta::CalendarMonth_Click() { ShowOrHide(monthly.form, monthly.Days); }
 
 void Horvanta::GregCal_Click() { ShowOrHide(gregorian.form, gregorian.Dummy); }
 void Horvanta::PersianCal_Click() { ShowOrHide(persian.form, persian.Dummy); }
+void Horvanta::QuaCal_Click() { ShowOrHide(quartane.form, quartane.Dummy); }
 
 void Horvanta::SetUserLoc_Click() {
     if (userLocales.isDirty() != YesNoCancel::Cancel) ShowOrHide(userLocales.form, userLocales.LocName);

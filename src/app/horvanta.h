@@ -7,6 +7,7 @@
 #include "calendars/gregorian_window.h"
 #include "calendars/julian_window.h"
 #include "calendars/persian_window.h"
+#include "calendars/quartane_window.h"
 #include "core/shell.h"
 #include "locale/user_locales_window.h"
 #include "views/monthly_window.h"
@@ -43,6 +44,7 @@ class Horvanta {
     // Each shows its window, or hides it.
     void GregCal_Click();
     void JulianCal_Click();
+    void QuaCal_Click();
     void PersianCal_Click();
     void CalendarMonth_Click();
 
@@ -54,6 +56,7 @@ class Horvanta {
     GregorianWindow gregorian{frame};
     JulianWindow julian{frame};
     PersianWindow persian{frame};
+    QuartaneWindow quartane{frame};
     UserLocalesWindow userLocales{frame};
     MonthlyWindow monthly{frame};
     Places places{frame, timeAstro.fields};
@@ -61,8 +64,8 @@ class Horvanta {
     Options options{frame};
 
     /// In the order in which they are loaded.
-    Form* const forms[6] = {&timeAstro.form, &gregorian.form, &julian.form,
-                            &persian.form,   &monthly.form,   &userLocales.form};
+    Form* const forms[7] = {&timeAstro.form, &gregorian.form, &quartane.form,   &monthly.form,
+                            &julian.form,    &persian.form,   &userLocales.form};
 
   private:
     void HangHandlers();

@@ -241,6 +241,7 @@ Table ProgramTable(Horvanta& program, StoredPlace& stored) {
     GregorianWindow& gregorian = program.gregorian;
     JulianWindow& julianWindow = program.julian;
     PersianWindow& persian = program.persian;
+    QuartaneWindow& qua = program.quartane;
     UserLocalesWindow& user = program.userLocales;
     const auto beside = [](const Form& form) {
         return [&form] { return Place{form.place.left + form.place.width + gap, form.place.top}; };
@@ -267,8 +268,8 @@ Table ProgramTable(Horvanta& program, StoredPlace& stored) {
         LayoutMark(time.form),
 
         Window(time.form, AlwaysToday, true, [] { return Place(); }),
-        Window(program.monthly.form, program.monthly.form.visible, true, below(time.form)),
-        Kept("Quartane", "Chk", "True"),
+        Window(qua.form, qua.form.visible, true, below(time.form)),
+        Window(program.monthly.form, program.monthly.form.visible, true, beside(qua.form)),
         Kept("Events", "Chk", "True"),
         Kept("Hebrew", "Chk", "True"),
         Window(user.form, user.form.visible, false, beside(program.monthly.form)),
@@ -294,7 +295,8 @@ Table ProgramTable(Horvanta& program, StoredPlace& stored) {
         StoredColor("GBC", 12642289, gregorian, gregorian.GregorianDate, true),
         StoredColor("GFC", 0, gregorian, gregorian.GregorianDate, false),
         Written("Color", "IBC", shade(gregorian.TheISOdate, true)), Written("Color", "IFC", shade(gregorian.TheISOdate, false)),
-        Kept("Color", "SBC", "16706033"),     Kept("Color", "SFC", "0"),
+        StoredColor("SBC", 16706033, qua, qua.QuartaneDateBox, true),
+        StoredColor("SFC", 0, qua, qua.QuartaneDateBox, false),
         Kept("Color", "HBC", "16777152"),     Kept("Color", "HFC", "0"),
         StoredColor("PBC", 10220253, persian, persian.ThePersianDate, true),
         StoredColor("PFC", 0, persian, persian.ThePersianDate, false),
@@ -310,14 +312,20 @@ Table ProgramTable(Horvanta& program, StoredPlace& stored) {
         Bool("Item", "Year", true, StepsBySolarYear),
         Caption("Item", "OrbRAY", "RAY", ShowsRAYDate, fields.Orbital_RAY_Toggle),
         Caption("Item", "JDMJD", "Mod", ShowsModifiedJulianDay, fields.JD_MJD_Toggle),
-        Kept("Item", "QuaStart", "1"),
-        Kept("Item", "Qua454", "True"),
-        Kept("Item", "UseZov010", "True"),
-        Kept("Item", "UseZov454", "False"),
-        Kept("Item", "Even", "False"),
-        Kept("Item", "Mix", "False"),
-        Kept("Item", "QuaLeap", "52/293"),
-        Kept("Item", "QuaQS", "SLS"),
+        Long("Item", "QuaStart", 1, quartane::StartWeekday, 0, 6),
+        Bool("Item", "Qua454", true, quartane::Qua454),
+        Bool("Item", "UseZov010", true, quartane::UseZov010),
+        Bool("Item", "UseZov454", false, quartane::UseZov454),
+        Bool("Item", "Even", false, quartane::EvenCycleFlag),
+        Bool("Item", "Mix", false, quartane::QuaSoupMix),
+        {"Item", "QuaLeap", [] { quartane::SetQuaLeapChoice(GetTextPref(ProgramSettings, "Item", "QuaLeap", "52/293")); },
+         [] { SavePref("Item", "QuaLeap", quartane::LeapRuleKey); }},
+        {"Item", "QuaQS",
+         [] {
+             quartane::QuarterStructure = "SLS";
+             quartane::SetQuaQuarterStructure(GetTextPref(ProgramSettings, "Item", "QuaQS", "SLS"));
+         },
+         [] { SavePref("Item", "QuaQS", quartane::QuarterStructure); }},
 
         StoredMoment("Item", "RD", DisplayedMoment),
         StoredMoment("Item", "SD", SavedMoment),

@@ -16,6 +16,7 @@ bool isLastPass() { return UpdateDepth < 2; }
 void RunUpdatePass(Horvanta& program) {
     TimeAstro& time = program.timeAstro;
     day_events::Clear();
+    if (program.quartane.form.visible) program.quartane.Update();
     if (!Locale.NoDST) time.fields.SetDSTcolour();
     time.ShowMoment();
     if (isLastPass() && ShowsDawnDusk) time.fields.ShowDay();

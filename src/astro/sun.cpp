@@ -22,6 +22,10 @@ double CenturiesOf(double x, bool isCenturies) { return isCenturies ? x : Julian
 
 double AberrationAt(double c) { return 0.0000974 * CosDeg(177.63 + 35999.01848 * c) - 0.005575; }
 
+constexpr double meanDegreesPerCentury = 36000.76953744;
+
+double MeanLongitudeAt(double c) { return 282.7771834 + meanDegreesPerCentury * c; }
+
 double LongitudeAt(double c) {
     std::array<double, std::size(solarTerms)> angles;
     std::ranges::transform(solarTerms, angles.begin(),
@@ -29,7 +33,7 @@ double LongitudeAt(double c) {
     ToRadians(angles);
     double sum = 0;
     for (std::size_t i = 0; i < angles.size(); ++i) sum += solarTerms[i].coefficient * std::sin(angles[i]);
-    return 282.7771834 + 36000.76953744 * c + 0.00000572957795130823 * sum + AberrationAt(c) + NutationAt(c);
+    return MeanLongitudeAt(c) + 0.00000572957795130823 * sum + AberrationAt(c) + NutationAt(c);
 }
 
 /// How far the Sun is past a longitude at a moment, in [-180, 180).
@@ -127,12 +131,15 @@ struct Season {
     }
 };
 
-/// The search begins two days before the year's mean passage of the longitude.
+/// About when the year's mean passage of a longitude is.
+Moment AboutSeason(double year, double longitude) {
+    return RAYDateToMoment(year + Modulo(longitude * 0.00277777777777 + 0.2, 1));
+}
+
+/// The search begins two days before that.
 Moment FindSeason(std::int32_t year, double degrees) {
-    const double givenYear = degrees < 0 ? year - 1.0 : year;
     const double longitude = std::fabs(degrees);
-    const double fraction = Modulo(longitude * 0.00277777777777 + 0.2, 1);
-    return SolarLongitudeAfter(RAYDateToMoment(givenYear + fraction) - 2, Degrees(longitude));
+    return SolarLongitudeAfter(AboutSeason(degrees < 0 ? year - 1.0 : year, longitude) - 2, Degrees(longitude));
 }
 
 }  // namespace
@@ -150,6 +157,16 @@ Moment SeasonMoment(std::int32_t year, double degrees, double offset) {
     asked.moment = FindSeason(year, degrees);
     memo = {asked, memo[0]};
     return asked.moment + offset;
+}
+
+/// The mean longitude is a straight line but for the slow growth of Delta T, so that a second step hits it.
+Moment MeanSeasonMoment(std::int32_t year, double degrees) {
+    Moment x = AboutSeason(year, degrees);
+    for (int step = 0; step < 2; ++step) {
+        const double past = ModuloRange(MeanLongitudeAt(JulianCenturies(x)) - degrees, -180, 180);
+        x -= past * 36525 / meanDegreesPerCentury;
+    }
+    return x;
 }
 
 Moment SameLongitudeYearsLater(Moment universal, double years) {

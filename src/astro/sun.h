@@ -46,6 +46,10 @@ Moment EstimateSolarLongitudeBefore(Moment universal, double degrees);
 /// that of the year before. Multiples of 90° come from the file of seasons where there is one.
 Moment SeasonMoment(std::int32_t year, double degrees, double offset = 0);
 
+/// The moment about that of the season at which the Sun's mean longitude, without its periodic terms, aberration and
+/// nutation, reaches a longitude of [0, 360).
+Moment MeanSeasonMoment(std::int32_t year, double degrees);
+
 /// The moment about so many years later at which the Sun reaches the longitude that it has at `universal`, shifted by
 /// the fraction of a year in `years`. A search that would begin out of the displayable range beeps and begins at its
 /// end.

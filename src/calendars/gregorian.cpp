@@ -1,5 +1,6 @@
 #include "calendars/gregorian.h"
 
+#include "calendars/calendar_phrases.h"
 #include "calendars/calendar_text.h"
 #include "calendars/twelve_months.h"
 #include "core/moment.h"
@@ -83,8 +84,7 @@ std::int16_t GregorianMonthLength(std::int32_t year, std::int32_t month) {
 }
 
 std::string GregorianDateString(const GregorianDate& date) {
-    return std::string(date.weekdayName) + ", " + std::string(GregorianMonthNames[date.month - 1]) + " " +
-           std::to_string(date.day) + ", " + std::to_string(date.year);
+    return DateInWords(date.weekdayName, GregorianMonthNames[date.month - 1], date.day, date.year);
 }
 
 std::string FixedToGregorianString(Moment x) { return GregorianDateString(FixedToGregorianDate(x)); }

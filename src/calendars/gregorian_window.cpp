@@ -1,5 +1,6 @@
 #include "calendars/gregorian_window.h"
 
+#include "calendars/calendar_phrases.h"
 #include "core/day_events.h"
 #include "core/moment.h"
 #include "core/text.h"
@@ -48,19 +49,6 @@ constexpr std::string_view isoInformation =
     "worldwide by banks, financiers, manufacturers, and shippers.\n"
     "The standard is ISO 8601, available from www.iso.org.";
 
-/// "15+351=366"
-std::string DayOfYearText(int day, int yearLength) {
-    return std::to_string(day) + "+" + std::to_string(yearLength - day) + "=" + std::to_string(yearLength);
-}
-
-/// "24th year of 6th cycle AD", in cycles of 400 years.
-std::string CycleText(std::int32_t year) {
-    const std::int32_t cycle = WholeNumber(Ceiling(year / 400.0));
-    const bool beforeChrist = cycle < 1;
-    return OrdinalString(WholeNumber(AdjustedModulo(year, 400))) + " year of " +
-           OrdinalString(beforeChrist ? 1 - cycle : cycle) + " cycle " + (beforeChrist ? "BC" : "AD");
-}
-
 std::int16_t BlockOf(const ISODate& date) { return static_cast<std::int16_t>(std::min(13, (date.week + 3) / 4)); }
 
 }  // namespace
@@ -90,16 +78,16 @@ void GregorianWindow::Update() {
     const ISODate& isoDate = DisplayedISODate();
     const std::string isoText = ISODateString(isoDate);
     TheISOdate.text = isoText + " ";
-    isoOrdinalDay.text = "ISO day " + DayOfYearText(isoDate.ordinalDay, ISOYearLength(isoDate.isLeap));
+    isoOrdinalDay.text = "ISO day " + PartAndRest(isoDate.ordinalDay, ISOYearLength(isoDate.isLeap));
     PostEvents(isoDate, isoText);
 }
 
 void GregorianWindow::ShowGregorianDate(const horvanta::GregorianDate& date) {
     GregorianDate.text = GregorianDateString(date) + " ";
     const std::int32_t length = GregorianYearLength(isGregorianLeapYear(date.year));
-    DayNumInGregYear.text = "Gregorian day " + DayOfYearText(date.yearDay, length);
+    DayNumInGregYear.text = "Gregorian day " + PartAndRest(date.yearDay, length);
     Dominical.text = GregorianDominicalLetters(date.year);
-    GregCycleInfo.text = CycleText(date.year);
+    GregCycleInfo.text = YearOfCycle(date.year, 400, "cycle");
 }
 
 void GregorianWindow::PostEvents(const ISODate& date, const std::string& dateText) {

@@ -218,6 +218,15 @@ class StatusBar final : public Control {
     std::function<void(std::size_t index)> PanelClick;
 };
 
+/// Texts in rows and columns; the first row and the first column are headings.
+class Grid final : public Control {
+  public:
+    using Control::Control;
+
+    std::vector<std::vector<std::string>> rows;  ///< All of one length.
+    std::function<void(std::size_t row, std::size_t column)> CellClick;
+};
+
 /// What a screen reader calls a control: its caption where that has words, and its tooltip, with the value behind it.
 std::string AccessibleName(const Control& control);
 

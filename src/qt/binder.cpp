@@ -3,6 +3,7 @@
 #include "qt/arrow_pair.h"
 #include "qt/month_grid.h"
 #include "qt/panel_bar.h"
+#include "qt/text_grid.h"
 
 #include <QAbstractButton>
 #include <QApplication>
@@ -222,6 +223,7 @@ void DrawControl(const Control& control, QWidget& widget) {
     if (auto* arrows = qobject_cast<ArrowPair*>(&widget)) arrows->Draw(static_cast<const UpDown&>(control));
     if (auto* list = qobject_cast<QComboBox*>(&widget)) DrawList(static_cast<const ChoiceList&>(control), *list);
     if (auto* grid = qobject_cast<MonthGrid*>(&widget)) grid->Draw(static_cast<const CellGrid&>(control));
+    if (auto* grid = qobject_cast<TextGrid*>(&widget)) grid->Draw(static_cast<const Grid&>(control));
 }
 
 void EnlargeFont(QWidget& widget) {
@@ -283,6 +285,12 @@ void Binder::Connect(const Bound& bound) {
         connect(grid, &MonthGrid::cellClicked, this,
                 [this, cells](std::size_t cell) { acts_.Run([cells, cell] { cells->CellClick(cell); }); });
     }
+    if (auto* grid = qobject_cast<TextGrid*>(bound.widget)) {
+        auto* cells = static_cast<Grid*>(control);
+        connect(grid, &TextGrid::cellClicked, this, [this, cells](std::size_t row, std::size_t column) {
+            acts_.Run([cells, row, column] { cells->CellClick(row, column); });
+        });
+    }
     if (auto* field = qobject_cast<QLineEdit*>(bound.widget)) {
         auto* text = static_cast<TextField*>(control);
         connect(field, &QLineEdit::textEdited, this,
@@ -319,6 +327,17 @@ void Binder::KeepRoom(const Bound& bound) {
         return;
     }
     if (auto* grid = qobject_cast<MonthGrid*>(&widget)) {
+        grid->KeepRoom(widest);
+        return;
+    }
+    if (auto* list = qobject_cast<QComboBox*>(&widget)) {
+        list->addItem(widest);
+        widget.setMinimumWidth(widget.sizeHint().width());
+        list->removeItem(list->count() - 1);
+        return;
+    }
+    if (auto* grid = qobject_cast<TextGrid*>(&widget)) {
+        grid->Draw(static_cast<const Grid&>(*bound.control));
         grid->KeepRoom(widest);
         return;
     }

@@ -1,9 +1,10 @@
 #include "qt/forms.h"
 
 #include "forms/ui_gregorian.h"
+#include "forms/ui_julian.h"
 #include "forms/ui_monthly.h"
 #include "forms/ui_persian.h"
-#include "forms/ui_julian.h"
+#include "forms/ui_quartane.h"
 #include "forms/ui_time_astro.h"
 #include "forms/ui_user.h"
 
@@ -21,11 +22,8 @@ struct DesignerForm {
 };
 
 constexpr DesignerForm designerForms[] = {
-    {"TimeAstro", SetUp<Ui::TimeAstro>},
-    {"Gregorian", SetUp<Ui::Gregorian>},
-    {"Monthly", SetUp<Ui::Monthly>},
-    {"User", SetUp<Ui::User>},
-    {"Persian", SetUp<Ui::Persian>},
+    {"TimeAstro", SetUp<Ui::TimeAstro>}, {"Gregorian", SetUp<Ui::Gregorian>}, {"Monthly", SetUp<Ui::Monthly>},
+    {"Quartane", SetUp<Ui::Quartane>},   {"User", SetUp<Ui::User>},           {"Persian", SetUp<Ui::Persian>},
     {"Julian", SetUp<Ui::Julian>},
 };
 

@@ -23,7 +23,7 @@ constexpr Row rows[] = {
     {"HorvantaMDI", "Width", "12000"}, {"HorvantaMDI", "Height", "9000"},
     {"TimeAstro", "Top", "15"}, {"TimeAstro", "Left", "30"}, {"TimeAstro", "Chk", "False"},
     {"Gregorian", "Top", "45"}, {"Gregorian", "Left", "60"}, {"Gregorian", "Chk", "False"},
-    {"Monthly", "Top", "75"}, {"Monthly", "Chk", "False"}, {"Quartane", "Chk", "False"}, {"Julian", "Chk", "True"},
+    {"Monthly", "Top", "75"}, {"Monthly", "Chk", "False"}, {"Quartane", "Left", "345"}, {"Julian", "Chk", "True"},
     {"Events", "Top", "90"}, {"Events", "Chk", "False"}, {"Hebrew", "Chk", "False"}, {"User", "Chk", "True"},
     {"Lunar", "Chk", "False"}, {"Persian", "Chk", "True"}, {"Chinese", "Chk", "True"}, {"Chinese", "Left", "105"},
     {"Item", "FixOpt", "2"}, {"Item", "GE", "1"}, {"Item", "FixEpoch", "61"}, {"Item", "FixNam", "rata die"},

@@ -63,6 +63,7 @@ TEST(Monthly, MovesByMonthsAndYears) {
         {"press Home", "2024-09-05", "Sunday, September 1, 2024"},
     };
     Desk desk;
+    desk.Obey("choose Monthly.Calendars 1");
     for (const auto& [line, from, to] : rows) {
         const auto number = [&](std::size_t at, std::size_t digits) {
             return std::atoi(std::string(from).substr(at, digits).c_str());
@@ -86,7 +87,7 @@ TEST(Monthly, MovesByMonthsAndYears) {
 /// A day that four weeks don't have keeps its weekday; the thirteenth month follows the twelfth.
 TEST(Monthly, WalksTheMonthsOfWeeks) {
     Desk desk;
-    desk.Obey("choose Monthly.Calendars 1");
+    desk.Obey("choose Monthly.Calendars 2");
     desk.Obey("set DisplayedMoment " + GeneralText(ISOToFixed(2020, 53, 3)));
     EXPECT_EQ(desk.program.monthly.Days.cells[desk.program.monthly.Days.active].text, "W53-3");
     desk.Obey("click Monthly.PrevMonth");
@@ -100,7 +101,7 @@ TEST(Monthly, WalksTheMonthsOfWeeks) {
 TEST(Monthly, BringsTheWindowOfItsCalendar) {
     Desk desk;
     desk.Obey("close Gregorian");
-    desk.Obey("choose Monthly.Calendars 1");
+    desk.Obey("choose Monthly.Calendars 2");
     EXPECT_TRUE(desk.program.gregorian.form.visible);
     EXPECT_EQ(desk.program.monthly.ThisYear.colors, desk.program.gregorian.TheISOdate.colors);
     desk.Obey("click Monthly.Layout");
@@ -112,7 +113,7 @@ TEST(Monthly, BringsTheWindowOfItsCalendar) {
     desk.Obey("menu MenuExit");
     Desk again(desk.desktop.settings.flushed);
     EXPECT_EQ(again.program.monthly.Layout.text, "&Down");
-    EXPECT_EQ(again.program.monthly.Calendars.selected, 1);
+    EXPECT_EQ(again.program.monthly.Calendars.selected, 2);
 }
 
 }  // namespace

@@ -79,6 +79,8 @@ std::string ShownText(const Control& control) {
     } else if (const auto* grid = dynamic_cast<const CellGrid*>(&control)) {
         for (const CellGrid::Heading& heading : grid->headings) texts.push_back(heading.text);
         for (const CellGrid::Cell& cell : grid->cells) texts.push_back(cell.text);
+    } else if (const auto* table = dynamic_cast<const Grid*>(&control)) {
+        for (const auto& row : table->rows) texts.insert(texts.end(), row.begin(), row.end());
     } else if (const auto* list = dynamic_cast<const ChoiceList*>(&control)) {
         texts = list->items;
         texts.push_back("selected=" + std::to_string(list->selected));
@@ -219,6 +221,14 @@ std::string Desk::ClickCell(CellGrid& grid, std::string_view number) {
     return "ok";
 }
 
+std::string Desk::ClickCell(const Grid& grid, std::string_view place) {
+    const auto row = ParseNumber(TakeWord(place));
+    const auto column = ParseNumber(place);
+    if (!row || !column || *row < 0 || *column < 0) throw BadLine("takes a row and a column");
+    grid.CellClick(WholeNumber<std::size_t>(*row), WholeNumber<std::size_t>(*column));
+    return "ok";
+}
+
 /// Selects the item of a list by its number from 0.
 std::string Desk::Choose(std::string_view rest) {
     auto* list = dynamic_cast<ChoiceList*>(&ControlInReach(TakeWord(rest)));
@@ -231,8 +241,8 @@ std::string Desk::Choose(std::string_view rest) {
     return "ok";
 }
 
-/// The cells of a grid are clicked by their numbers from 0, the panels of a bar by their numbers from 1, arrows by
-/// their direction.
+/// The cells of a month are clicked by their numbers from 0, those of a table by row and column from 0, the panels of
+/// a bar by their numbers from 1, arrows by their direction.
 std::string Desk::Click(std::string_view rest) {
     std::string_view number = rest;
     const std::string_view name = TakeWord(number);
@@ -241,6 +251,10 @@ std::string Desk::Click(std::string_view rest) {
         return ClickPanel(*bar, number);
     }
     if (auto* grid = dynamic_cast<CellGrid*>(&ControlNamed(name))) {
+        ControlInReach(name);
+        return ClickCell(*grid, number);
+    }
+    if (auto* grid = dynamic_cast<Grid*>(&ControlNamed(name))) {
         ControlInReach(name);
         return ClickCell(*grid, number);
     }

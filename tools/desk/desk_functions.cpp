@@ -6,10 +6,12 @@
 #include "astro/timescales.h"
 #include "calendars/gregorian.h"
 #include "calendars/gregorian_window.h"
-#include "calendars/persian.h"
-#include "calendars/persian_window.h"
 #include "calendars/julian.h"
 #include "calendars/julian_window.h"
+#include "calendars/persian.h"
+#include "calendars/persian_window.h"
+#include "calendars/quartane.h"
+#include "calendars/quartane_leap_text.h"
 #include "calendars/roman.h"
 #include "core/moment.h"
 #include "core/text.h"
@@ -169,6 +171,47 @@ std::string AnswerOf(const RomanDate& d) {
 
 std::string AnswerOf(const Olympiad& o) { return Fields().Add("cycle", o.cycle).Add("year", o.year).Text(); }
 
+std::string AnswerOf(const quartane::QuaYear& y) {
+    return Fields().Add("year", y.year).Add("newYear", y.newYear).Text();
+}
+
+std::string AnswerOf(const quartane::QuaDate& d) {
+    return Fields()
+        .Add("fixed", d.fixed)
+        .Add("yearDay", d.yearDay)
+        .Add("isLeap", d.isLeap)
+        .Add("quarter", d.quarter)
+        .Add("dayOfQuarter", d.dayOfQuarter)
+        .Add("weekOfQuarter", d.weekOfQuarter)
+        .Add("monthInQuarter", d.monthInQuarter)
+        .Add("weekOfMonth", d.weekOfMonth)
+        .Add("monthLength", d.monthLength)
+        .Add("year", d.year)
+        .Add("month", d.month)
+        .Add("day", d.day)
+        .Add("weekday", d.weekday)
+        .Add("weekdayName", d.weekdayName)
+        .Add("weekOfYear", d.weekOfYear)
+        .Text();
+}
+
+std::string AnswerOf(const quartane::LeapRule& r) {
+    return Fields()
+        .Add("IsCycleRule", r.IsCycleRule)
+        .Add("LeapNumerator", r.LeapNumerator)
+        .Add("CycleLength", r.CycleLength)
+        .Add("CycleOffset", r.CycleOffset)
+        .Add("CycleDays", r.CycleDays)
+        .Add("DayExcess", r.DayExcess)
+        .Add("ReducedNumerator", r.ReducedNumerator)
+        .Add("ReducedDenominator", r.ReducedDenominator)
+        .Add("ReducedRatio", r.ReducedRatio)
+        .Add("MeanYear", r.MeanYear)
+        .Add("MeanLunation", r.MeanLunation)
+        .Add("ModularInverse", r.ModularInverse)
+        .Text();
+}
+
 std::string AnswerOf(const HebrewDateRecord& d) {
     return Fields()
         .Add("Fixed", d.Fixed)
@@ -226,6 +269,8 @@ std::string ListAnswer(const auto& items) {
     for (const std::string& item : items) text += (text.empty() ? "" : "; ") + Quoted(item);
     return text;
 }
+
+std::string AnswerOf(const std::vector<std::string>& list) { return ListAnswer(list); }
 
 std::string AnswerOf(const ChoiceList& list) {
     return ListAnswer(list.items) + "; selected=" + std::to_string(list.selected);
@@ -454,6 +499,7 @@ const std::vector<DeskFunction> functions{
     Row("SolarLongitudeAfter", SolarLongitudeAfter),
     Row("EstimateSolarLongitudeBefore", EstimateSolarLongitudeBefore),
     Row("SeasonMoment", SeasonMoment),
+    Row("MeanSeasonMoment", MeanSeasonMoment),
     Row("SameLongitudeYearsLater", SameLongitudeYearsLater),
 
     Row("MomentDifference", MomentDifference),
@@ -547,6 +593,41 @@ const std::vector<DeskFunction> functions{
     Row("Julian.GetDateAlt", JulianWindow::GetDateAlt),
     MonthNamesRow("Julian.SetMonthNamesAlt", RomanCalendar),
     DayNamesRow("Julian.SetDayNamesAlt", RomanCalendar),
+    Row(
+        "QuaNewYear", +[](std::int32_t year, bool wantMoment) { return quartane::QuaNewYear(year, wantMoment); }),
+    Row("LinApprox", quartane::LinApprox),
+    Row("FixedToQuaYear", quartane::FixedToQuaYear),
+    Row(
+        "isQuaLeapYear", +[](std::int32_t year) { return quartane::isQuaLeapYear(year); }),
+    Row("QuaDaysBeforeMonth", quartane::QuaDaysBeforeMonth),
+    Row("QuaYearDay", quartane::QuaYearDay),
+    Row("QuaToFixed", quartane::QuaToFixed),
+    Row("FixedToQuaDayOfYear", quartane::FixedToQuaDayOfYear),
+    Row("DaysInMonth", quartane::DaysInMonth),
+    Row("FixedToQuaDate", quartane::FixedToQuaDate),
+    Row(
+        "FixedToQuaDateString", +[](Moment x) { return quartane::QuaDateString(quartane::FixedToQuaDate(x)); }),
+    Row("FixedToQuaShortDate", quartane::FixedToQuaShortDate),
+    Row("SetQuaQuarterStructure", quartane::SetQuaQuarterStructure),
+    Row("JumpLeapWeek", quartane::JumpLeapWeek),
+    Row("JumpNYmoment", quartane::JumpNYmoment),
+    Row("JumpQuaCycle", quartane::JumpQuaCycle),
+    Row("LeapRule", quartane::Rule),
+    Row("LeapChoices", quartane::LeapChoices),
+    Row("FindQuaLeapRule", quartane::FindQuaLeapRule),
+    Row("SetQuaLeapChoice", quartane::SetQuaLeapChoice),
+    Row("SetKoffset", quartane::SetKoffset),
+    Row("SetEvenCycleMode", quartane::SetEvenCycleMode),
+    Row("CheckIfQuaCycle", quartane::CheckIfQuaCycle),
+    Row("LeapRuleMethod", quartane::LeapRuleMethod),
+    Row("LeapRuleExplanation", quartane::LeapRuleExplanation),
+    Row("QuaLeapIntervals", quartane::QuaLeapIntervals),
+    Row("QuaGroupIntervals", quartane::QuaGroupIntervals),
+    Row("ReduceIntervals", quartane::ReduceIntervals),
+    Row("Quartane.ToFixed", quartane::ToFixed),
+    Row("Quartane.GetDate", quartane::GetDate),
+    MonthNamesRow("Quartane.SetMonthNames", quartane::Calendar),
+    DayNamesRow("Quartane.SetDayNames", quartane::Calendar),
 
     Row("ElapsedDays", ElapsedDays),
     Row("HebrewNewYear", HebrewNewYear),
@@ -600,6 +681,16 @@ DeskVariable Variable(std::string_view name, T& variable) {
             [&variable](const std::string& word) { variable = Read<T>::From(word); }};
 }
 
+/// A number that chooses one of several.
+DeskVariable Choice(std::string_view name, std::int32_t& variable, std::int32_t first, std::int32_t last) {
+    return {name, [&variable] { return AnswerOf(variable); },
+            [=, &variable](const std::string& word) {
+                const auto value = Read<std::int32_t>::From(word);
+                if (value < first || value > last) throw BadLine("no such choice: " + word);
+                variable = value;
+            }};
+}
+
 /// A variable that only the engine writes.
 template <class T>
 DeskVariable Constant(std::string_view name, const T& variable) {
@@ -624,6 +715,15 @@ const std::vector<DeskVariable> variables{
     Variable("YRF", julian::YRF),
     Variable("OSY", julian::OSY),
     Variable("UseHebrewFont", UseHebrewFont),
+    Variable("LeapRuleKey", quartane::LeapRuleKey),
+    Choice("StartWeekday", quartane::StartWeekday, 0, 6),
+    Variable("QuarterStructure", quartane::QuarterStructure),
+    Variable("Qua454", quartane::Qua454),
+    Variable("UseZov454", quartane::UseZov454),
+    Variable("UseZov010", quartane::UseZov010),
+    Variable("EvenCycleFlag", quartane::EvenCycleFlag),
+    Variable("QuaSoupMix", quartane::QuaSoupMix),
+    Constant("LeapRuleIndex", quartane::LeapRuleIndex),
     Constant("StepIndex", StepIndex),
     Constant("Locale", Locale),
     Constant("DeltaTDisabled", DeltaTDisabled),

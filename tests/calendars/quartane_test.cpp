@@ -1,0 +1,277 @@
+#include "calendars/quartane.h"
+
+#include "calendars/gregorian.h"
+#include "calendars/quartane_leap_text.h"
+#include "core/moment.h"
+#include "core/text.h"
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <functional>
+#include <limits>
+#include <set>
+#include <sstream>
+#include <vector>
+
+namespace horvanta::quartane {
+namespace {
+
+/// Puts the calendar back as it starts.
+class Quartane : public testing::Test {
+  protected:
+    ~Quartane() override {
+        LeapRuleKey = "52/293";
+        QuarterStructure = "SLS";
+        StartWeekday = 1;
+        Qua454 = UseZov010 = true;
+        UseZov454 = EvenCycleFlag = QuaSoupMix = false;
+    }
+
+    /// The keys of the full list.
+    static std::vector<std::string> Keys() {
+        QuaSoupMix = true;
+        std::vector<std::string> keys;
+        for (const std::string& text : LeapChoices()) {
+            if (!text.empty()) keys.push_back(text.substr(0, text.find(' ')));
+        }
+        return keys;
+    }
+
+    /// Calls for each listed rule with a cycle of its own, in both even modes.
+    static void ForEachCycle(const std::function<void(const LeapRule&)>& test) {
+        for (const std::string& key : Keys()) {
+            LeapRuleKey = key;
+            for (const bool even : {false, true}) {
+                EvenCycleFlag = even;
+                SCOPED_TRACE(key + (even ? " even" : ""));
+                if (Rule().IsCycleRule) test(Rule());
+            }
+        }
+    }
+};
+
+/// Years of a rule: whole weeks from start weekday to start weekday, found again from their ends.
+void ExpectYears(std::int32_t first, std::int32_t last) {
+    FixedDay newYear = QuaNewYear(first);
+    for (std::int32_t year = first; year < last; ++year) {
+        const FixedDay next = QuaNewYear(year + 1);
+        ASSERT_EQ(DayOfWeek(newYear), StartWeekday) << year;
+        ASSERT_EQ(next - newYear, QuaYearLength(isQuaLeapYear(year))) << year;
+        for (const FixedDay day : {newYear, newYear + 363, next - 1}) {
+            const QuaYear found = FixedToQuaYear(day + 0.5);
+            ASSERT_EQ(found.year, year);
+            ASSERT_EQ(found.newYear, newYear);
+        }
+        ASSERT_LE(std::fabs(QuaNewYear(year, true) - 0.5 - newYear), Rule().IsCycleRule ? 7.5 : 3.5) << year;
+        newYear = next;
+    }
+}
+
+TEST_F(Quartane, CyclesHoldTheirLeapYears) {
+    ForEachCycle([](const LeapRule& rule) {
+        for (StartWeekday = 0; StartWeekday < 7; ++StartWeekday) {
+            const auto years = static_cast<std::int32_t>(rule.CycleLength);
+            ExpectYears(1 - years / 2, 1 + years);
+            EXPECT_EQ(QuaNewYear(1 + years) - QuaNewYear(1), static_cast<double>(rule.CycleDays));
+        }
+        StartWeekday = 1;
+        EXPECT_EQ(QuaNewYear(1), GregorianEpoch);
+        EXPECT_EQ(CheckIfQuaCycle(), rule.CycleLength % 2 != 0 ? 1 : -1);
+        EXPECT_EQ(rule.ModularInverse * rule.LeapNumerator % rule.CycleLength, 1);
+    });
+}
+
+TEST_F(Quartane, RulesOfMomentsKeepWeeks) {
+    const std::vector<std::string> listed = Keys();
+    std::set<std::string> keys{"RJISO",  "RJISOalt", "NE80",   "MNE80", "NS174",
+                               "MNS174", "SE100",    "MSE100", "SS10",  "MSS10"};
+    keys.merge(std::set<std::string>(listed.begin(), listed.end()));
+    for (const std::string& key : keys) {
+        LeapRuleKey = key;
+        if (Rule().IsCycleRule) continue;
+        SCOPED_TRACE(key);
+        for (StartWeekday = 0; StartWeekday < 7; ++StartWeekday) {
+            for (const std::int32_t year : {-6900, -20, 1990, 11900}) ExpectYears(year, year + 30);
+        }
+        for (const std::int32_t year : {1900, 2024, 2100}) {
+            EXPECT_NEAR(QuaNewYear(year, true), GregorianToFixed(year, 1, 1), 5) << year;
+        }
+    }
+}
+
+TEST_F(Quartane, KnowsTheISOCalendar) {
+    LeapRuleKey = "ISO";
+    const FixedDay last = GregorianToFixed(6000, 1, 1);
+    for (FixedDay day = GregorianToFixed(-3000, 1, 1); day < last; ++day) {
+        const ISODate iso = FixedToISODate(day);
+        const QuaDate date = FixedToQuaDate(day);
+        ASSERT_EQ(date.year, iso.year) << FixedToGregorianString(day);
+        ASSERT_EQ(date.yearDay, iso.ordinalDay);
+        ASSERT_EQ(date.isLeap, iso.isLeap);
+        ASSERT_EQ(date.weekOfYear, iso.week);
+    }
+    LeapRuleKey = "RJISO";  // of whose centuries those are leap that leave 200 or 600 over 900
+    for (const auto& [year, days] : {std::pair(2000, 366), {2100, 365}, {2400, 366}, {2800, 365}, {2900, 366}}) {
+        EXPECT_EQ(QuaNewYear(year + 1, true) - QuaNewYear(year, true), days) << year;
+    }
+}
+
+/// Every day of a common and of a leap year, in each layout: months tile the year, weeks the quarter, and dates convert
+/// back.
+void ExpectMonthsToTile(std::int32_t year) {
+    std::int32_t month = 0;
+    std::int32_t left = 0;
+    for (FixedDay day = QuaNewYear(year); day < QuaNewYear(year + 1); ++day) {
+        DisplayedMoment = day + 0.75;
+        const QuaDate& date = DisplayedQuaDate();
+        const GridDate grid = GetDate();
+        if (left == 0) {
+            ++month;
+            left = date.monthLength;
+            ASSERT_EQ(date.day, 1);
+            ASSERT_EQ((grid.firstWeekday + StartWeekday) % 7, DayOfWeek(day));
+        }
+        ASSERT_EQ(date.month, month);
+        ASSERT_EQ(date.day, date.monthLength - left-- + 1);
+        ASSERT_EQ(date.weekday, DayOfWeek(day));
+        ASSERT_EQ(date.yearDay, 91 * (date.quarter - 1) + date.dayOfQuarter);
+        ASSERT_EQ(date.monthInQuarter, date.month == 13 ? 4 : (date.month - 1) % 3 + 1);
+        ASSERT_EQ(QuaToFixed(year, date.month, date.day), day);
+        ASSERT_EQ(ToFixed(year, date.month, date.day), day);
+        if (QuarterStructure == "SLS") {
+            ASSERT_EQ(DaysInMonth(year, month), date.monthLength);
+        }
+    }
+    ASSERT_EQ(left, 0);
+    Form form("Grid", "");
+    ChoiceList names(form, "Months");
+    SetMonthNames(names, year);
+    ASSERT_EQ(std::ssize(names.items), month);
+    ASSERT_EQ(month == 13, HasZovember() && isQuaLeapYear(year));
+}
+
+TEST_F(Quartane, MonthsTileEveryYear) {
+    for (const char* structure : {"LSS", "SLS", "SSL"}) {
+        for (int layout = 0; layout < 4 * 7; ++layout) {
+            SetQuaQuarterStructure(structure);
+            Qua454 = layout % 2 == 0;
+            ToggleUseZov(layout % 4 < 2);
+            StartWeekday = layout / 4;
+            SCOPED_TRACE(QuarterText(Qua454) + (QuaLeapUseZov() ? " alone" : "") + std::to_string(StartWeekday));
+            ExpectMonthsToTile(2008);
+            ExpectMonthsToTile(2009);
+        }
+    }
+}
+
+TEST_F(Quartane, PlacesTheLeapWeek) {
+    EXPECT_TRUE(isQuaLeapYear(2009));  // 52 * 2009 + 146 leaves 13 over 293
+    struct Row {
+        const char* structure;
+        bool weeks, alone;
+        const char* lastDay;
+    };
+    constexpr Row rows[] = {
+        {"SLS", true, false, "Sun, Dec 35, 2009"}, {"SLS", false, false, "Sun, Dec 37, 2009"},
+        {"LSS", true, false, "Sun, Dec 35, 2009"}, {"SSL", true, false, "Sun, Zov 7, 2009"},
+        {"SLS", false, true, "Sun, Zov 7, 2009"},
+    };
+    for (const Row& row : rows) {
+        QuarterStructure = row.structure;
+        Qua454 = row.weeks;
+        ToggleUseZov(row.alone);
+        EXPECT_EQ(FixedToQuaShortDate(QuaNewYear(2010) - 0.5), row.lastDay);
+    }
+    EXPECT_EQ(ToFixed(2008, 13, 1), QuaNewYear(2009) - 7);  // falls back by a week
+}
+
+/// The groups of each rule's intervals come to its cycle.
+TEST_F(Quartane, GroupsIntervals) {
+    ForEachCycle([](const LeapRule& rule) {
+        const std::string intervals = QuaLeapIntervals();
+        EXPECT_EQ(intervals.find_first_not_of("17 "), std::string::npos) << intervals;
+        std::int64_t years = 0;
+        std::istringstream groups(ReplaceAll(ReplaceAll(QuaGroupIntervals(intervals), "(", ""), ")", ""));
+        for (std::string group; std::getline(groups, group, '+');) years += std::stoi(group);
+        EXPECT_EQ(years, rule.CycleLength) << QuaGroupIntervals(intervals);
+    });
+    constexpr std::pair<const char*, const char*> rows[] = {{"52/293", "45+79+45+79+45"},
+                                                            {"11/62", "62"},
+                                                            {"30/169", "45+79+45"},
+                                                            {"93/524", "45+79+45+79+(28)+79+45+79+45"}};
+    EvenCycleFlag = false;
+    for (const auto& [key, groups] : rows) {
+        LeapRuleKey = key;
+        EXPECT_EQ(QuaGroupIntervals(QuaLeapIntervals()), groups);
+    }
+    EXPECT_EQ(ReduceIntervals("(28)+(28)+79+(28)", false), "2*(28) + 79 + (28)");
+    EXPECT_EQ(ReduceIntervals("79+(28)+(28)+(28)", true), "79 + 3&times;(28)");
+}
+
+TEST_F(Quartane, KeepsTheRuleAtSeparators) {
+    SetQuaLeapChoice("69/389");
+    EXPECT_EQ(LeapRuleIndex, 4);
+    ChooseLeapRule(3);
+    EXPECT_EQ(LeapRuleKey, "69/389");
+    SetQuaLeapChoice("RAY");  // not in the short list
+    EXPECT_EQ(LeapRuleKey, "52/293");
+    QuaSoupMix = true;
+    SetQuaLeapChoice("RAY");
+    EXPECT_EQ(LeapRuleKey, "RAY");
+    LeapRuleKey = "559/3150";
+    EXPECT_EQ(MeanYearText(0), "365+109/450 days");
+    StartWeekday = 3;
+    EXPECT_EQ(LeapChoices()[9], "ISOalt = Start on Wednesday after ISO new year 71/400");
+}
+
+TEST_F(Quartane, JumpsToItsEvents) {
+    const FixedDay leapWeek = QuaNewYear(2010) - 7;
+    EXPECT_EQ(JumpLeapWeek(leapWeek - 100, 1), leapWeek);
+    EXPECT_EQ(JumpLeapWeek(leapWeek + 8, -1), leapWeek);
+    EXPECT_EQ(JumpLeapWeek(leapWeek, 1), QuaNewYear(2016) - 7);
+    EXPECT_EQ(JumpLeapWeek(leapWeek + 6, -1), QuaNewYear(2005) - 7);
+    const FixedDay cycle = QuaNewYear(6 * 293 + 1);
+    EXPECT_EQ(JumpQuaCycle(cycle + 1000, -1), cycle);
+    EXPECT_EQ(JumpQuaCycle(cycle + 1000, 1), cycle + 107016);
+    EXPECT_EQ(JumpQuaCycle(cycle, -1), cycle - 107016);
+    for (const std::string& key : Keys()) {  // there and back over four new years
+        LeapRuleKey = key;
+        Moment moment = QuaNewYear(2024) + 200;
+        for (const int direction : {1, 1, -1, -1}) {
+            const Moment next = JumpNYmoment(moment, direction);
+            EXPECT_NEAR((next - moment) * direction, moment == QuaNewYear(2024) + 200 ? 165 : 365, 8) << key;
+            moment = next;
+        }
+    }
+    LeapRuleKey = "RAY";
+    EXPECT_EQ(JumpQuaCycle(cycle, 1), NeverMoment);
+}
+
+TEST_F(Quartane, KeepsDatesUnderEveryNumbering) {
+    for (const char* key : {"52/293", "ISOalt", "NE80", "LABY", "MNS174"}) {
+        LeapRuleKey = key;
+        const std::string date = FixedToQuaShortDate(GregorianToFixed(2024, 1, 15));
+        SetFixedDayEpoch(GregorianToFixed(2001, 1, 4), 1, "");
+        EXPECT_EQ(FixedToQuaShortDate(GregorianToFixed(2024, 1, 15)), date) << key;
+        SetFixedDayEpoch(GregorianEpoch, 1, "rata die");
+    }
+}
+
+TEST_F(Quartane, SurvivesWhatNoOneAsksFor) {
+    for (const char* key : {"52/293", "100000/100000", "1/2/3", "/", "", "?", "ISO", "NE80", "MOY", "LANEY"}) {
+        LeapRuleKey = key;
+        for (const double x : {NeverMoment, -NeverMoment, 1e15, std::nan("")}) {
+            const QuaDate date = FixedToQuaDate(x);
+            EXPECT_TRUE(date.month >= 1 && date.month <= 13) << key << x;
+        }
+        for (const std::int32_t n :
+             {std::numeric_limits<std::int32_t>::min(), std::numeric_limits<std::int32_t>::max()}) {
+            ToFixed(n, 1, n);
+            isQuaLeapYear(n);
+        }
+    }
+}
+
+}  // namespace
+}  // namespace horvanta::quartane
