@@ -1,6 +1,5 @@
 #include "calendars/gregorian.h"
 
-#include "calendars/calendar_phrases.h"
 #include "calendars/calendar_text.h"
 #include "calendars/twelve_months.h"
 #include "core/moment.h"
@@ -84,7 +83,7 @@ std::int16_t GregorianMonthLength(std::int32_t year, std::int32_t month) {
 }
 
 std::string GregorianDateString(const GregorianDate& date) {
-    return DateInWords(date.weekdayName, GregorianMonthNames[date.month - 1], date.day, date.year);
+    return DateInWords(date.weekdayName, GregorianMonthNames[date.month - 1], date.day, std::to_string(date.year));
 }
 
 std::string FixedToGregorianString(Moment x) { return GregorianDateString(FixedToGregorianDate(x)); }

@@ -1,6 +1,6 @@
 #include "calendars/gregorian_window.h"
 
-#include "calendars/calendar_phrases.h"
+#include "calendars/calendar_text.h"
 #include "core/day_events.h"
 #include "core/moment.h"
 #include "core/text.h"

@@ -67,6 +67,10 @@ FixedDay JulianToFixed(std::int32_t year, std::int32_t month, std::int32_t day, 
     return (revised ? GregorianEpoch : JulianEpoch) + static_cast<double>(days);
 }
 
+FixedDay RevisedJulianYearEnd(std::int64_t year) {
+    return GregorianEpoch - 1 + static_cast<double>(365 * year + FloorDivide(year, 4) - DaysLeftOut(year));
+}
+
 JulianDate FixedToJulianDate(Moment x, bool allowRevised) {
     const bool revised = isRevised(allowRevised);
     const double epoch = revised ? GregorianEpoch : JulianEpoch;

@@ -34,6 +34,9 @@ bool isJulianLeapYear(std::int32_t year, bool allowRevised, bool noYearZero = tr
 FixedDay JulianToFixed(std::int32_t year, std::int32_t month, std::int32_t day, bool allowRevised,
                        bool noYearZero = true);
 
+/// The fixed day of December 31 of a Revised Julian year, on the scale that has a year 0, whatever `julian::Revise` is.
+FixedDay RevisedJulianYearEnd(std::int64_t year);
+
 /// The date of a moment.
 JulianDate FixedToJulianDate(Moment x, bool allowRevised);
 

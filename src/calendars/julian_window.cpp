@@ -1,5 +1,6 @@
 #include "calendars/julian_window.h"
 
+#include "calendars/calendar_text.h"
 #include "calendars/gregorian_window.h"
 #include "core/day_events.h"
 #include "core/desktop.h"
@@ -159,9 +160,9 @@ void JulianWindow::Update() {
     ShowCaption();
     SetAUC();
     const JulianDate date = DisplayedJulianDate(true);
-    TheJulianDate.text = std::string(WeekdayNames[DayOfWeek(date.fixed)]) + ", " +
-                         std::string(GregorianMonthNames[date.month - 1]) + " " + std::to_string(date.day) + ", " +
-                         JulianYearString(date.year, false) + " ";
+    TheJulianDate.text = DateInWords(WeekdayNames[DayOfWeek(date.fixed)], GregorianMonthNames[date.month - 1], date.day,
+                                     JulianYearString(date.year, false)) +
+                         " ";
     Dominical.text = JulianDominicalLetters(date.year);
     ShowOlympiad(date);
     const RomanDate roman = FixedToRomanDate(DisplayedMoment);

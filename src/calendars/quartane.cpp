@@ -1,7 +1,7 @@
 #include "calendars/quartane.h"
 
 #include "astro/timescales.h"
-#include "calendars/calendar_phrases.h"
+#include "calendars/calendar_text.h"
 #include "calendars/gregorian.h"
 #include "core/moment.h"
 
@@ -134,12 +134,13 @@ std::int16_t DaysInMonth(std::int32_t year, std::int32_t month) {
 }
 
 std::string QuaDateString(const QuaDate& date) {
-    return DateInWords(date.weekdayName, MonthName(date.month), date.day, date.year);
+    return DateInWords(date.weekdayName, MonthName(date.month), date.day, std::to_string(date.year));
 }
 
 std::string FixedToQuaShortDate(Moment x) {
     const QuaDate date = FixedToQuaDate(x);
-    return DateInWords(ShortWeekdayNames[date.weekday], MonthName(date.month).substr(0, 3), date.day, date.year);
+    return DateInWords(ShortWeekdayNames[date.weekday], MonthName(date.month).substr(0, 3), date.day,
+                       std::to_string(date.year));
 }
 
 const QuaDate& DisplayedQuaDate() {

@@ -1,6 +1,6 @@
 #include "calendars/quartane_window.h"
 
-#include "calendars/calendar_phrases.h"
+#include "calendars/calendar_text.h"
 #include "calendars/gregorian.h"
 #include "calendars/quartane_leap_text.h"
 #include "core/day_events.h"
@@ -83,7 +83,7 @@ QuartaneWindow::QuartaneWindow(HorvantaMDI& frame) : frame_(frame) {
     QuaStatusGrid.rows = StatusRows(DisplayedQuaDate());
     QuaStartOn.items.assign(std::begin(WeekdayNames), std::begin(WeekdayNames) + 7);
 
-    QuartaneDateBox.Click = [this] { frame_.SetClipboardText(QuartaneDateBox.text); };
+    CopyOnClick(frame_, QuartaneDateBox);
     QuartaneDateBox.DblClick = [this] { PickBackgroundColor(); };
     QuartaneDateBox.RightClick = [this] { PickForegroundColor(); };
     QuaCycleInfo.Click = [this] { QuaCycleInfo_Click(); };

@@ -3,6 +3,7 @@
 #include "astro/sun.h"
 #include "astro/timescales.h"
 #include "calendars/gregorian.h"
+#include "calendars/julian.h"
 #include "calendars/quartane_leap_rules.h"
 
 #include <algorithm>
@@ -22,17 +23,8 @@ std::int32_t Year32(std::int64_t year) {
     return static_cast<std::int32_t>(std::clamp<std::int64_t>(year, Limits::min(), Limits::max()));
 }
 
-/// The days of the years 1 to `year` of the Revised Julian calendar, in which centuries are leap that leave 200 or 600
-/// over 900.
-Days RevisedJulianDays(std::int64_t year) {
-    const Days centuries = FloorDivide(year, 100);
-    return 365 * year + FloorDivide(year, 4) - centuries + FloorDivide(2 * centuries + 6, 9);
-}
-
 Moment GregorianNewYear(std::int64_t year) { return GregorianYearEnd(Year32(year - 1)) + 1; }
-Moment RevisedJulianNewYear(std::int64_t year) {
-    return GregorianEpoch + static_cast<double>(RevisedJulianDays(year - 1));
-}
+Moment RevisedJulianNewYear(std::int64_t year) { return RevisedJulianYearEnd(year - 1) + 1; }
 
 constexpr int monday = 1;
 

@@ -1,5 +1,6 @@
 #include "calendars/roman.h"
 
+#include "calendars/calendar_text.h"
 #include "calendars/gregorian.h"
 #include "core/text.h"
 
@@ -175,9 +176,8 @@ std::string JulianYearString(std::int32_t year, bool asRoman) {
 
 std::string FixedToJulianShortDate(Moment x) {
     const JulianDate date = FixedToJulianDate(x, true);
-    return std::string(ShortWeekdayNames[DayOfWeek(date.fixed)]) + ", " +
-           std::string(FirstThree(GregorianMonthNames[date.month - 1])) + " " + std::to_string(date.day) + ", " +
-           JulianYearString(date.year, false);
+    return DateInWords(ShortWeekdayNames[DayOfWeek(date.fixed)], FirstThree(GregorianMonthNames[date.month - 1]),
+                       date.day, JulianYearString(date.year, false));
 }
 
 std::string FixedToJulianMonthDay(Moment x) {

@@ -61,6 +61,7 @@ void MonthlyWindow::InitCalendars() {
         listed_[Calendars.items.size()] = place;
         Calendars.items.emplace_back(calendars_[place].contract->name);
     }
+    ShowTitles();
     const auto listed = std::span(listed_).first(Calendars.items.size());
     const auto chosen = std::ranges::find(listed, static_cast<std::size_t>(MonthCalendar));
     Calendars.selected = chosen == listed.end() ? 0 : static_cast<int>(chosen - listed.begin());
@@ -78,6 +79,13 @@ void MonthlyWindow::Calendars_Click() {
     Update();
 }
 
+void MonthlyWindow::ShowTitles() {
+    for (std::size_t i = 0; i < Calendars.items.size(); ++i) {
+        const GridCalendar& calendar = calendars_[listed_[i]];
+        if (calendar.title) Calendars.items[i] = calendar.title();
+    }
+}
+
 void MonthlyWindow::ShowHeadings() {
     DayNames longNames;
     DayNames shortNames;
@@ -93,6 +101,8 @@ void MonthlyWindow::Update() {
     const GridDate date = Current().contract->GetDate();
     if (date.month == 0) return;
     shown_ = date;
+    ShowTitles();
+    ShowHeadings();  // the week of a calendar may begin on a weekday of the user's choice
     ThisYear.text = std::to_string(date.year);
     MonthNames.items.clear();
     Current().contract->SetMonthNames(MonthNames, date.year);

@@ -18,6 +18,7 @@ struct GridCalendar {
     const Control* colorSource = nullptr;
     MenuItem* window = nullptr;
     std::function<bool()> isOpen;
+    std::function<std::string()> title = nullptr;  ///< Of a calendar whose name depends on its options.
 };
 
 /// Which layout the button of the month grid offers: "&Across" while the weekdays stand as rows, "&Down" while they
@@ -68,6 +69,7 @@ class MonthlyWindow {
     bool isAcross() const { return MonthLayoutCaption == "&Across"; }
     const GridCalendar& Current() const { return calendars_[current_]; }
     void HangHandlers();
+    void ShowTitles();
     void ShowHeadings();
     void ShowCells(const GridDate& date);
     void WearColors();

@@ -1,4 +1,4 @@
-#include "calendars/calendar_phrases.h"
+#include "calendars/calendar_text.h"
 
 #include "core/numerics.h"
 #include "core/text.h"
@@ -17,8 +17,8 @@ std::string YearOfCycle(std::int32_t year, std::int32_t length, std::string_view
            OrdinalString(beforeChrist ? 1 - cycle : cycle) + " " + std::string(kind) + (beforeChrist ? " BC" : " AD");
 }
 
-std::string DateInWords(std::string_view weekday, std::string_view month, int day, std::int32_t year) {
-    return std::string(weekday) + ", " + std::string(month) + " " + std::to_string(day) + ", " + std::to_string(year);
+std::string DateInWords(std::string_view weekday, std::string_view month, int day, std::string_view year) {
+    return std::string(weekday) + ", " + std::string(month) + " " + std::to_string(day) + ", " + std::string(year);
 }
 
 }  // namespace horvanta
