@@ -94,15 +94,17 @@ std::string_view MonthName(std::int32_t month) {
 }
 
 std::int16_t QuaDaysBeforeMonth(std::int32_t month) {
-    const auto quarter = static_cast<std::int32_t>(FloorDivide(month - 1, 3));
-    const std::int32_t before = DaysOfQuarterBefore(StructureInForce(), month - 1 - 3 * quarter);
-    return static_cast<std::int16_t>(quarterDays * quarter + before);
+    const std::int64_t quarter = FloorDivide(std::int64_t{month} - 1, 3);
+    const auto inQuarter = static_cast<std::int32_t>(std::int64_t{month} - 1 - 3 * quarter);
+    return static_cast<std::int16_t>(quarterDays * quarter + DaysOfQuarterBefore(StructureInForce(), inQuarter));
 }
 
-std::int32_t QuaYearDay(std::int32_t month, std::int32_t day) { return QuaDaysBeforeMonth(month) + day; }
+std::int32_t QuaYearDay(std::int32_t month, std::int32_t day) {
+    return static_cast<std::int32_t>(std::int64_t{QuaDaysBeforeMonth(month)} + day);
+}
 
 FixedDay QuaToFixed(std::int32_t year, std::int32_t month, std::int32_t day) {
-    return QuaNewYear(year) + QuaYearDay(month, day) - 1;
+    return QuaNewYear(year) + QuaYearDay(month, day) - 1.0;
 }
 
 QuaDate FixedToQuaDate(Moment x) {

@@ -58,6 +58,10 @@ constexpr Choice choices[] = {
     {"RAY", "Rotation-Adjusted Year"},
 };
 
+/// The rules that go by the Sun, listed or not.
+constexpr std::string_view sunKeys[] = {"NE80",  "MNE80", "NS174", "MNS174", "SE100", "MSE100", "SS10", "MSS10",
+                                        "LANEY", "LANSY", "LASEY", "LASSY",  "LABY",  "BNY",    "MOY",  "RAY"};
+
 struct Cycle {
     std::int64_t leapYears;
     std::int64_t years;
@@ -112,7 +116,7 @@ LeapRule RuleOf(std::string_view key, bool commonYearFirst) {
         rule.CycleOffset = MiddleOffset(cycle->years, commonYearFirst);
         rule.ModularInverse =
             ModInverse(static_cast<std::int32_t>(cycle->leapYears), static_cast<std::int32_t>(cycle->years));
-    } else if (key.find('/') != std::string_view::npos) {
+    } else if (std::ranges::find(sunKeys, key) == std::end(sunKeys)) {
         return RuleOf(choices[0].key, commonYearFirst);
     }
     return rule;
@@ -157,7 +161,7 @@ std::string_view BesideISOWeekday() {
 std::int32_t SetKoffset(std::int32_t weekday) {
     const LeapRule& rule = Rule();
     if (rule.IsCycleRule || rule.CycleLength == 0) return static_cast<std::int32_t>(rule.CycleOffset);
-    const std::int64_t days = FloorModulo(4 - weekday, 7) - 1;
+    const std::int64_t days = FloorModulo(4 - std::int64_t{weekday}, 7) - 1;
     return static_cast<std::int32_t>(FloorDivide(days * rule.CycleLength, 7) + rule.LeapNumerator);
 }
 
@@ -168,6 +172,7 @@ std::int32_t CheckIfQuaCycle() {
     const auto leap = [&rule](std::int64_t year) {
         return FloorModulo(year * rule.LeapNumerator + rule.CycleOffset, rule.CycleLength) < rule.LeapNumerator;
     };
+    if (!rule.IsCycleRule) return 0;
     const bool odd = rule.CycleLength % 2 != 0;
     std::int64_t apart = odd ? 0 : 1;
     for (std::int64_t year = rule.CycleLength / 2 + 2; year <= rule.CycleLength; ++year) {

@@ -271,7 +271,7 @@ std::string ReduceIntervals(std::string_view text, bool forWebPage) {
     while (!text.empty()) {
         const std::string group(text.substr(0, text.find('+')));
         int count = 0;
-        while (text.substr(0, text.find('+')) == group) {
+        while (!text.empty() && text.substr(0, text.find('+')) == group) {
             ++count;
             text.remove_prefix(std::min(text.size(), group.size() + 1));
         }

@@ -176,13 +176,14 @@ std::int16_t FixedToQuaDayOfYear(Moment x) {
 }
 
 Moment JumpLeapWeek(Moment from, int direction) {
+    const int step = direction < 0 ? -1 : 1;
     std::int64_t year = FixedToQuaYear(from).year;
     if (FixedToQuaDayOfYear(from) > daysOfCommonYear) {
-        year += 5 * direction;
-    } else if (direction < 0 && isQuaLeapYear(year)) {
+        year += 5 * step;
+    } else if (step < 0 && isQuaLeapYear(year)) {
         year -= 5;
     }
-    while (!isQuaLeapYear(year)) year += direction;
+    while (!isQuaLeapYear(year)) year += step;
     return QuaNewYear(year + 1) - 7;
 }
 

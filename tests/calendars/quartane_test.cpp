@@ -206,6 +206,7 @@ TEST_F(Quartane, GroupsIntervals) {
         EXPECT_EQ(QuaGroupIntervals(QuaLeapIntervals()), groups);
     }
     EXPECT_EQ(ReduceIntervals("(28)+(28)+79+(28)", false), "2*(28) + 79 + (28)");
+    EXPECT_EQ(ReduceIntervals("+", false), "");
     EXPECT_EQ(ReduceIntervals("79+(28)+(28)+(28)", true), "79 + 3&times;(28)");
 }
 
@@ -267,9 +268,13 @@ TEST_F(Quartane, SurvivesWhatNoOneAsksFor) {
         }
         for (const std::int32_t n :
              {std::numeric_limits<std::int32_t>::min(), std::numeric_limits<std::int32_t>::max()}) {
-            ToFixed(n, 1, n);
+            ToFixed(n, n, n);
+            DaysInMonth(n, n);
+            SetKoffset(n);
             isQuaLeapYear(n);
         }
+        EXPECT_FALSE(LeapRuleExplanation().empty() || LeapRuleMethod(true).empty());
+        JumpLeapWeek(1000, 0);
     }
 }
 
