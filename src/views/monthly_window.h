@@ -69,6 +69,8 @@ class MonthlyWindow {
     const GridCalendar& Current() const { return calendars_[current_]; }
     void HangHandlers();
     void ShowHeadings();
+    void ShowNames();
+    bool HasYear0() const;
     void ShowCells(const GridDate& date);
     void WearColors();
     void MoveTo(std::int32_t year, std::int32_t month, std::int32_t day, bool keepTime);
