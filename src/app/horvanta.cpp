@@ -142,11 +142,11 @@ void Horvanta::ResetColorsAndQuit_Click() {
 /// The places of the list belong to the calendars, whether they are there yet or not.
 void Horvanta::OfferCalendars() {
     const auto offer = [this](std::size_t place, const CalendarContract& contract, const Control& mainDate,
-                              MenuItem& window, std::function<std::string()> title = nullptr) {
+                              MenuItem& window) {
         const Form& form = mainDate.form;
-        monthly.Offer(place, {&contract, &mainDate, &window, [&form] { return form.visible; }, std::move(title)});
+        monthly.Offer(place, {&contract, &mainDate, &window, [&form] { return form.visible; }});
     };
-    offer(0, quartane::Calendar, quartane.QuartaneDateBox, frame.QuaCal, quartane::CalendarName);
+    offer(0, quartane::Calendar, quartane.QuartaneDateBox, frame.QuaCal);
     offer(1, GregorianCalendar, gregorian.GregorianDate, frame.GregCal);
     offer(2, ISOCalendar, gregorian.TheISOdate, frame.GregCal);
     offer(3, JulianCalendar, julian.TheJulianDate, frame.JulianCal);

@@ -23,6 +23,8 @@ struct GridDate {
 /// Weekday names by column.
 using DayNames = std::array<std::string, 7>;
 
+constexpr bool HasNoYear0() { return false; }
+
 /// A calendar as a row of operations.
 struct CalendarContract {
     std::string_view name;
@@ -41,7 +43,11 @@ struct CalendarContract {
     /// What the cell of a day of the month shows, where that is not its number.
     std::string (*CellText)(const GridDate& shown, std::int32_t day) = nullptr;
 
-    bool hasYear0 = true;
+    /// Whether it has a year 0; null for one that always has.
+    bool (*HasYear0)() = nullptr;
+
+    /// What it is called at present; null for one that always goes by its name.
+    std::string (*PresentName)() = nullptr;
 
     /// The month behind which a leap month moves those that follow; 0 where no month moves.
     std::int16_t leapMonthAfter = 0;

@@ -84,13 +84,14 @@ inline constexpr CalendarContract JulianCalendar{"Julian",
                                                  JulianWindow::SetMonthNames,
                                                  JulianWindow::SetDayNames,
                                                  nullptr,
-                                                 false};
+                                                 HasNoYear0,
+                                                 JulianWindow::CalendarName};
 inline constexpr CalendarContract RomanCalendar{"Roman",
                                                 JulianWindow::ToFixedAlt,
                                                 JulianWindow::GetDateAlt,
                                                 JulianWindow::SetMonthNamesAlt,
                                                 JulianWindow::SetDayNamesAlt,
                                                 nullptr,
-                                                false};
+                                                HasNoYear0};
 
 }  // namespace horvanta

@@ -48,6 +48,6 @@ inline constexpr CalendarContract PersianCalendar{"Persian",
                                                   PersianWindow::SetMonthNames,
                                                   PersianWindow::SetDayNames,
                                                   nullptr,
-                                                  false};
+                                                  HasNoYear0};
 
 }  // namespace horvanta

@@ -176,6 +176,8 @@ void SetMonthNames(ChoiceList& list, std::int32_t year) {
     list.selected = std::min<int>(DisplayedQuaDate().month, static_cast<int>(list.items.size())) - 1;
 }
 
+bool HasYear0() { return !LeapRuleKey.starts_with("RJISO"); }
+
 void SetDayNames(DayNames& longNames, DayNames& shortNames) {
     for (std::size_t i = 0; i < 7; ++i) {
         const std::size_t weekday = (i + static_cast<std::size_t>(StartWeekday)) % 7;

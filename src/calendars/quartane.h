@@ -93,6 +93,10 @@ GridDate GetDate();
 void SetMonthNames(ChoiceList& list, std::int32_t year);
 void SetDayNames(DayNames& longNames, DayNames& shortNames);
 
-inline constexpr CalendarContract Calendar{"Quartane", ToFixed, GetDate, SetMonthNames, SetDayNames};
+/// The grid steps over the year 0 of the rules by the Revised Julian calendar, which has none.
+bool HasYear0();
+
+inline constexpr CalendarContract Calendar{"Quartane",  ToFixed, GetDate,  SetMonthNames,
+                                           SetDayNames, nullptr, HasYear0, CalendarName};
 
 }  // namespace horvanta::quartane

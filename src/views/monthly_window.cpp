@@ -59,9 +59,8 @@ void MonthlyWindow::InitCalendars() {
     for (std::size_t place = 0; place < CalendarCount; ++place) {
         if (!calendars_[place].contract) continue;
         listed_[Calendars.items.size()] = place;
-        Calendars.items.emplace_back(calendars_[place].contract->name);
+        Calendars.items.emplace_back();
     }
-    ShowTitles();
     const auto listed = std::span(listed_).first(Calendars.items.size());
     const auto chosen = std::ranges::find(listed, static_cast<std::size_t>(MonthCalendar));
     Calendars.selected = chosen == listed.end() ? 0 : static_cast<int>(chosen - listed.begin());
@@ -79,13 +78,6 @@ void MonthlyWindow::Calendars_Click() {
     Update();
 }
 
-void MonthlyWindow::ShowTitles() {
-    for (std::size_t i = 0; i < Calendars.items.size(); ++i) {
-        const GridCalendar& calendar = calendars_[listed_[i]];
-        if (calendar.title) Calendars.items[i] = calendar.title();
-    }
-}
-
 void MonthlyWindow::ShowHeadings() {
     DayNames longNames;
     DayNames shortNames;
@@ -101,7 +93,7 @@ void MonthlyWindow::Update() {
     const GridDate date = Current().contract->GetDate();
     if (date.month == 0) return;
     shown_ = date;
-    ShowTitles();
+    ShowNames();
     ShowHeadings();  // the week of a calendar may begin on a weekday of the user's choice
     ThisYear.text = std::to_string(date.year);
     MonthNames.items.clear();
@@ -109,6 +101,19 @@ void MonthlyWindow::Update() {
     MonthNames.selected = date.month - 1;
     WearColors();
     ShowCells(date);
+}
+
+/// A calendar may change its name with its rule.
+void MonthlyWindow::ShowNames() {
+    for (std::size_t i = 0; i < Calendars.items.size(); ++i) {
+        const CalendarContract& calendar = *calendars_[listed_[i]].contract;
+        Calendars.items[i] = calendar.PresentName ? calendar.PresentName() : std::string(calendar.name);
+    }
+}
+
+bool MonthlyWindow::HasYear0() const {
+    const auto hasYear0 = Current().contract->HasYear0;
+    return !hasYear0 || hasYear0();
 }
 
 void MonthlyWindow::WearColors() {
@@ -182,13 +187,13 @@ std::int32_t MonthlyWindow::MonthsIn(std::int32_t year) const {
 
 std::int32_t MonthlyWindow::YearBeside(std::int32_t year, std::int32_t direction) const {
     const std::int32_t beside = year + direction;
-    return beside == 0 && !Current().contract->hasYear0 ? direction : beside;
+    return beside == 0 && !HasYear0() ? direction : beside;
 }
 
 /// The day stays, and where the calendar's months move by a leap month, so does the month.
 void MonthlyWindow::ChangeYear(std::int32_t year) {
     const CalendarContract& calendar = *Current().contract;
-    if (year == 0 && !calendar.hasYear0) year = shown_.year < 1 ? 1 : -1;
+    if (year == 0 && !HasYear0()) year = shown_.year < 1 ? 1 : -1;
     if (year == shown_.year) return;
     std::int32_t month = shown_.month;
     if (calendar.leapMonthAfter > 0 && month > calendar.leapMonthAfter) month += MonthsIn(year) - MonthsIn(shown_.year);

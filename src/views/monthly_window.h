@@ -18,7 +18,6 @@ struct GridCalendar {
     const Control* colorSource = nullptr;
     MenuItem* window = nullptr;
     std::function<bool()> isOpen;
-    std::function<std::string()> title = nullptr;  ///< Of a calendar whose name depends on its options.
 };
 
 /// Which layout the button of the month grid offers: "&Across" while the weekdays stand as rows, "&Down" while they
@@ -69,8 +68,9 @@ class MonthlyWindow {
     bool isAcross() const { return MonthLayoutCaption == "&Across"; }
     const GridCalendar& Current() const { return calendars_[current_]; }
     void HangHandlers();
-    void ShowTitles();
     void ShowHeadings();
+    void ShowNames();
+    bool HasYear0() const;
     void ShowCells(const GridDate& date);
     void WearColors();
     void MoveTo(std::int32_t year, std::int32_t month, std::int32_t day, bool keepTime);

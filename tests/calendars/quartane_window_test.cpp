@@ -85,6 +85,7 @@ TEST_F(QuartaneWindowTest, ExperimentsAndGoesBack) {
     EXPECT_FALSE(desk_.program.frame.QuaLeapWeek.enabled);
     EXPECT_EQ(window_.LeapChoice.selected, 1);  // a separator was not taken
     EXPECT_EQ(desk_.program.frame.NextMenu[17].caption, "Qua93/524 New &Year Moment");
+    EXPECT_EQ(desk_.program.monthly.Days.headings[0].text, "Wednesday");
     desk_.Obey("click Quartane.QuaSoupMix");
     desk_.Obey("menu MidLeapNonLeap");
     EXPECT_EQ(quartane::LeapRuleKey + quartane::QuarterStructure, "52/293SLS");

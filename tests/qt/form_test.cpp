@@ -142,9 +142,8 @@ bool isReader(const QWidget& widget) {
     }
     return qobject_cast<const PanelBar*>(&widget) || qobject_cast<const ArrowPair*>(&widget) ||
            qobject_cast<const MonthGrid*>(&widget) || qobject_cast<const QComboBox*>(&widget) ||
-           qobject_cast<const TextGrid*>(&widget) ||
-           qobject_cast<const QGroupBox*>(&widget) || qobject_cast<const QLabel*>(&widget) ||
-           qobject_cast<const QAbstractButton*>(&widget) ||
+           qobject_cast<const TextGrid*>(&widget) || qobject_cast<const QGroupBox*>(&widget) ||
+           qobject_cast<const QLabel*>(&widget) || qobject_cast<const QAbstractButton*>(&widget) ||
            (qobject_cast<const QLineEdit*>(&widget) && !widget.objectName().isEmpty());
 }
 
