@@ -14,21 +14,36 @@ fi
 build=${1:-build/bench}
 rounds=${2:-21}
 atMost=1.5
-panelsOfABar=9
 
 # Kept in memory, so that what else the disk is busy with does not count.
 settings=$(mktemp -d -p /dev/shm 2>/dev/null || mktemp -d)
 trap 'rm -rf "$settings"' EXIT
 export XDG_CONFIG_HOME=$settings XDG_RUNTIME_DIR=$settings QT_QPA_PLATFORM=xcb HORVANTA_END_AFTER=paint
 
-# The labels, buttons and check boxes of a Designer form; text fields and the panels of bars count as labels.
+# How many labels, buttons and check boxes stand for a widget class of the Designer forms: a part for each part.
+weights='
+QLabel 1 0 0
+QLineEdit 1 0 0
+horvanta::ElidingLabel 1 0 0
+QGroupBox 1 0 0
+horvanta::PanelBar 9 0 0
+horvanta::MonthGrid 49 0 0
+horvanta::TextGrid 16 0 0
+horvanta::ArrowPair 1 2 0
+QToolButton 0 1 0
+QPushButton 0 1 0
+QComboBox 0 1 0
+QCheckBox 0 0 1
+QRadioButton 0 0 1
+'
 widgets() {
-    local labels buttons checks bars
-    labels=$(grep -cE 'widget class="(QLabel|QLineEdit|horvanta::ElidingLabel)"' "$1" || true)
-    bars=$(grep -c 'widget class="horvanta::PanelBar"' "$1" || true)
-    buttons=$(grep -cE 'widget class="Q(Tool|Push)Button"' "$1" || true)
-    checks=$(grep -c 'widget class="QCheckBox"' "$1" || true)
-    echo "$((labels + bars * panelsOfABar)),$buttons,$checks"
+    sed -n 's/.*widget class="\([^"]*\)".*/\1/p' "$1" | awk -v weights="$weights" '
+        BEGIN {
+            rows = split(weights, lines, "\n")
+            for (i = 1; i <= rows; ++i) if (split(lines[i], w, " ") == 4) { l[w[1]] = w[2]; b[w[1]] = w[3]; c[w[1]] = w[4] }
+        }
+        { labels += l[$1]; buttons += b[$1]; checks += c[$1] }
+        END { printf "%d,%d,%d", labels, buttons, checks }'
 }
 
 counts=()
