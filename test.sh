@@ -110,6 +110,7 @@ case "${1:-quick}" in
         need libbenchmark-dev libicu-dev "${display_packages[@]}"
         build bench
         build/bench/bench/horvanta_bench
+        on_virtual_display build/bench/bench/horvanta_held_key
         bench/start.sh build/bench
         ;;
     long)

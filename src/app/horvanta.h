@@ -8,6 +8,7 @@
 #include "calendars/julian_window.h"
 #include "calendars/persian_window.h"
 #include "calendars/quartane_window.h"
+#include "calendars/world_window.h"
 #include "core/shell.h"
 #include "locale/user_locales_window.h"
 #include "views/monthly_window.h"
@@ -58,14 +59,15 @@ class Horvanta {
     PersianWindow persian{frame};
     QuartaneWindow quartane{frame};
     UserLocalesWindow userLocales{frame};
+    WorldWindow world;
     MonthlyWindow monthly{frame};
     Places places{frame, timeAstro.fields};
     Jumps jumps{frame, timeAstro};
     Options options{frame};
 
     /// In the order in which they are loaded.
-    Form* const forms[7] = {&timeAstro.form, &gregorian.form, &quartane.form,   &monthly.form,
-                            &julian.form,    &persian.form,   &userLocales.form};
+    Form* const forms[8] = {&timeAstro.form, &gregorian.form, &quartane.form,    &monthly.form,
+                            &julian.form,    &persian.form,   &userLocales.form, &world.form};
 
   private:
     void HangHandlers();

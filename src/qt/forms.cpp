@@ -7,6 +7,7 @@
 #include "forms/ui_quartane.h"
 #include "forms/ui_time_astro.h"
 #include "forms/ui_user.h"
+#include "forms/ui_world.h"
 
 namespace horvanta {
 namespace {
@@ -24,7 +25,7 @@ struct DesignerForm {
 constexpr DesignerForm designerForms[] = {
     {"TimeAstro", SetUp<Ui::TimeAstro>}, {"Gregorian", SetUp<Ui::Gregorian>}, {"Monthly", SetUp<Ui::Monthly>},
     {"Quartane", SetUp<Ui::Quartane>},   {"User", SetUp<Ui::User>},           {"Persian", SetUp<Ui::Persian>},
-    {"Julian", SetUp<Ui::Julian>},
+    {"Julian", SetUp<Ui::Julian>},       {"World", SetUp<Ui::World>},
 };
 
 }  // namespace

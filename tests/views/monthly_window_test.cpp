@@ -98,6 +98,24 @@ TEST(Monthly, WalksTheMonthsOfWeeks) {
     EXPECT_EQ(ISODateString(FixedToISODate(DisplayedMoment)), "2019-W48-3");
 }
 
+TEST(Monthly, StepsOverAYearThatThereIsNot) {
+    Desk desk;
+    for (const char* calendar : {"3", "4", "5"}) {  // Julian, Roman, Persian
+        desk.Obey(std::string("choose Monthly.Calendars ") + calendar);
+        desk.Obey("type Monthly.ThisYear 1");
+        desk.Obey("choose Monthly.MonthNames 0");
+        for (const char* line : {"click Monthly.ChangeByYear down", "click Monthly.PrevMonth"}) {
+            desk.Obey(line);
+            EXPECT_EQ(desk.program.monthly.ThisYear.text, "-1") << calendar << line;
+            desk.Obey("type Monthly.ThisYear 1");
+        }
+        desk.Obey("type Monthly.ThisYear 0");
+        EXPECT_EQ(desk.program.monthly.ThisYear.text, "-1") << calendar;
+        desk.Obey("click Monthly.ChangeByYear up");
+        EXPECT_EQ(desk.program.monthly.ThisYear.text, "1") << calendar;
+    }
+}
+
 TEST(Monthly, BringsTheWindowOfItsCalendar) {
     Desk desk;
     desk.Obey("close Gregorian");

@@ -90,7 +90,7 @@ bool RecordingDesktop::Press(int code, int shift) {
     if (!focused) return false;
     auto* field = dynamic_cast<TextField*>(focused);
     if (TakesClicks(*focused) && (code == KeySpace || code == KeyEnter)) {
-        focused->Click();
+        if (focused->Click) focused->Click();
     } else if (field && code == KeyEnter) {
         LeaveField();
     } else if (focused->KeyDown && focused->KeyDown(code, shift)) {
