@@ -42,6 +42,9 @@ double DegreesPast(Moment x, double degrees) { return ModuloRange(SolarLongitude
 struct Bracket {
     Moment from;
     Moment to;
+
+    /// For a longitude past all reason the ends may be the wrong way round.
+    Moment Nearest(Moment x) const { return std::max(from, std::min(x, to)); }
 };
 
 /// The passage of a longitude within a bracket of days, within 0.00002 days: the first step goes by the mean rate,
@@ -50,12 +53,12 @@ Moment RootNear(const Bracket& bracket, Moment first, double degrees) {
     constexpr double close = 0.0005;  // days
     Moment before = first;
     double pastBefore = DegreesPast(before, degrees);
-    Moment x = std::clamp(before - pastBefore * daysPerDegree, bracket.from, bracket.to);
+    Moment x = bracket.Nearest(before - pastBefore * daysPerDegree);
     for (int tries = 0; tries < 8 && std::fabs(x - before) > close; ++tries) {
         const double past = DegreesPast(x, degrees);
         if (past == pastBefore) break;
         const Moment next = x - past * (x - before) / (past - pastBefore);
-        before = std::exchange(x, std::clamp(next, bracket.from, bracket.to));
+        before = std::exchange(x, bracket.Nearest(next));
         pastBefore = past;
     }
     return x;

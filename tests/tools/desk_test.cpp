@@ -51,7 +51,8 @@ void AddMenuLines(const MenuItem& menu, std::vector<std::string>& lines) {
 
 /// A line for everything the user can do but quit.
 std::vector<std::string> LinesOf(const Horvanta& program) {
-    std::vector<std::string> lines{"answer yes", "answer color 8421504", "events", "call ChangeFixedDayEpoch 1 1 x"};
+    std::vector<std::string> lines{"answer yes", "answer text 2.5", "answer color 8421504", "events",
+                                   "call ChangeFixedDayEpoch 1 1 x"};
     for (const char* key : {"Space", "Space shift", "PageUp", "PageDown", "Up", "Down", "Plus", "Minus", "Home",
                             "Enter", "Left", "Backspace ctrl", "End alt"}) {
         lines.push_back(std::string("press ") + key);
@@ -59,7 +60,11 @@ std::vector<std::string> LinesOf(const Horvanta& program) {
     for (const Form* form : program.forms) {
         lines.push_back("close " + form->name);
         for (const Control* control : form->controls) {
-            if (dynamic_cast<const StatusBar*>(control)) lines.push_back("click TimeAstro.DawnDusk 9");
+            const std::string name = form->name + "." + control->name;
+            for (const char* which : {" up", " down", " 1", " 17", " 1 3"}) lines.push_back("click " + name + which);
+            if (dynamic_cast<const ChoiceList*>(control)) {
+                for (const char* item : {" 0", " 1", " 3", " 5"}) lines.push_back("choose " + name + item);
+            }
             for (const char* act : {"click ", "dblclick ", "rightclick ", "focus "}) {
                 lines.push_back(act + form->name + "." + control->name);
             }
