@@ -204,23 +204,6 @@ TEST_F(JulianWindowTest, AsksForTheYearsOfTheCounts) {
     EXPECT_EQ(window_.OlympiadCycleDecimal.text, "2");
 }
 
-/// Each displayed day finds its way into its month and back, by both rules and in both counts of years.
-TEST_F(JulianWindowTest, AnswersToMonthGrids) {
-    for (const char* option : {"Revise", "UseAUC", "Revise"}) {
-        for (const CalendarContract* calendar : {&JulianCalendar, &RomanCalendar}) {
-            for (FixedDay fixed = JulianToFixed(-1, 11, 1, true); fixed < JulianToFixed(5, 2, 1, true); ++fixed) {
-                DisplayedMoment = fixed + 0.25;
-                const GridDate date = calendar->GetDate();
-                EXPECT_EQ(calendar->ToFixed(date.year, date.month, date.day), fixed) << calendar->name;
-                EXPECT_EQ(date.firstWeekday, DayOfWeek(calendar->ToFixed(date.year, date.month, 1)));
-            }
-        }
-        desk_.Obey("click Julian." + std::string(option));
-    }
-    DisplayedMoment = JulianToFixed(2023, 2, 1, false);
-    EXPECT_EQ(desk_.Obey("call Julian.GetDateAlt"), "year=2776 month=2 day=1 monthLength=29 firstWeekday=2");
-}
-
 /// No date, text or event depends on how the days are numbered.
 TEST_F(JulianWindowTest, IsTheSameUnderEveryNumbering) {
     desk_.Obey("click Julian.Revise");
