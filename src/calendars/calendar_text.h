@@ -1,8 +1,5 @@
 #pragma once
 
-#include "core/controls.h"
-#include "core/shell.h"
-
 #include <cstddef>
 #include <cstdint>
 #include <string>
@@ -20,11 +17,6 @@ inline std::string DominicalLetters(std::int32_t weekdayBefore, bool leap) {
     std::string letters{fromJanuary[i]};
     if (leap) letters += fromMarch[i];
     return letters;
-}
-
-/// Makes a click on a label copy what it shows.
-inline void CopyOnClick(HorvantaMDI& frame, Label& label) {
-    label.Click = [&frame, &label] { frame.SetClipboardText(label.text); };
 }
 
 /// "15+351=366": how much of a whole has begun, what remains, and the whole.

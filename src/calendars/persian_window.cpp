@@ -81,7 +81,7 @@ PersianDate DisplayedPersianDate() { return FixedToPersianDate(DisplayedMoment);
 
 PersianWindow::PersianWindow(HorvantaMDI& frame) : frame_(frame) {
     ThePersianDate.colors = defaultColors;
-    CopyOnClick(frame_, ThePersianDate);
+    frame_.CopyOnClick(ThePersianDate);
     ThePersianDate.DblClick = [this] { PickBackgroundColor(); };
     ThePersianDate.RightClick = [this] { PickForegroundColor(); };
     LeapCheckbox.Shows(isLeap_);

@@ -83,7 +83,7 @@ QuartaneWindow::QuartaneWindow(HorvantaMDI& frame) : frame_(frame) {
     QuaStatusGrid.rows = StatusRows(DisplayedQuaDate());
     QuaStartOn.items.assign(std::begin(WeekdayNames), std::begin(WeekdayNames) + 7);
 
-    CopyOnClick(frame_, QuartaneDateBox);
+    frame_.CopyOnClick(QuartaneDateBox);
     QuartaneDateBox.DblClick = [this] { PickBackgroundColor(); };
     QuartaneDateBox.RightClick = [this] { PickForegroundColor(); };
     QuaCycleInfo.Click = [this] { QuaCycleInfo_Click(); };
