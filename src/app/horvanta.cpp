@@ -128,6 +128,7 @@ void Horvanta::MenuExit_Click() {
 void Horvanta::QuitWithoutSavePrefs_Click() { CurrentDesktop->End(); }
 
 void Horvanta::ResetPrefsAndQuit_Click() {
+    SaveUserPlaces(*this);
     DeleteAllPrefs();
     CurrentDesktop->Settings().Flush();
     CurrentDesktop->End();

@@ -385,6 +385,8 @@ void SavePrefs(Horvanta& program) {
     CurrentDesktop->Settings().Flush();
 }
 
+void SaveUserPlaces(Horvanta& program) { SaveUserLocales(program.places); }
+
 void DeleteColorPrefs() {
     CurrentDesktop->Settings().DeleteSection(ProgramSettings, "Color");
     CurrentDesktop->Settings().Flush();

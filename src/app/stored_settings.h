@@ -25,6 +25,9 @@ StoredPlace LoadPrefs(Horvanta& program);
 /// Writes everything and brings it onto the disk in one step. What has no owner yet stays as it was found.
 void SavePrefs(Horvanta& program);
 
+/// Writes the user's own places alone: the others may be forgotten, they are not.
+void SaveUserPlaces(Horvanta& program);
+
 /// Forgets the colours alone.
 void DeleteColorPrefs();
 

@@ -48,6 +48,9 @@ TEST_F(UserLocalesWindowTest, KeepAnAppliedPlaceInTheMenuAndOverARestart) {
     again.Obey("click User.ElevScroll100 up");
     again.Obey("click User.ApplyLoc");
     EXPECT_EQ(Locale.Elevation, 200);
+    again.Obey("menu ResetPrefsAndQuit");
+    const Desk reset(again.desktop.settings.flushed);
+    EXPECT_EQ(UserLocales[30].Elevation, 200);
 }
 
 TEST_F(UserLocalesWindowTest, DoubtAZoneFarFromItsLongitude) {
