@@ -47,12 +47,15 @@ void HorvantaMDI::UndoLastColorChange_Click() {
     undoColor_.color = present;
 }
 
-void HorvantaMDI::PickBackColor_Click() {
-    if (activeForm && activeForm->PickColor) activeForm->PickColor(true);
-}
+void HorvantaMDI::PickBackColor_Click() { PickColorOfActive(true); }
+void HorvantaMDI::PickForeColor_Click() { PickColorOfActive(false); }
 
-void HorvantaMDI::PickForeColor_Click() {
-    if (activeForm && activeForm->PickColor) activeForm->PickColor(false);
+void HorvantaMDI::PickColorOfActive(bool isBackground) {
+    if (activeForm && activeForm->PickColor) {
+        activeForm->PickColor(isBackground);
+    } else {
+        CurrentDesktop->Beep();
+    }
 }
 
 void HorvantaMDI::ColorPicking(bool enable) { PickBackColor.enabled = PickForeColor.enabled = enable; }

@@ -218,6 +218,9 @@ class HorvantaMDI {
     // clang-format on
 
   private:
+    /// Beeps where the window has no colours of its own.
+    void PickColorOfActive(bool isBackground);
+
     /// One colour of a window, before it was changed.
     struct {
         Color color;

@@ -42,6 +42,9 @@ Frame::Frame(HorvantaMDI& shell) : shell_(shell), area_(new QMdiArea(this)) {
     setWindowTitle(QString::fromStdString(shell_.text));
     area_->viewport()->installEventFilter(this);
     setCentralWidget(area_);
+    connect(area_, &QMdiArea::subWindowActivated, this, [this](QMdiSubWindow* window) {
+        if (const Child* child = ChildOf(window)) shell_.activeForm = child->form;
+    });
     for (MenuItem* item : shell_.menuBar.items) {
         QMenu* menu = menuBar()->addMenu(QString::fromStdString(item->caption));
         actions_.emplace_back(item, menu->menuAction());

@@ -49,6 +49,7 @@ void MonthlyWindow::HangHandlers() {
     ThisYear.KeyDown = [this](int code, int shift) { return ObeyYearKey(code, shift); };
     ThisYear.LostFocus = [this] { TakeYear(); };
     ChangeByYear.Step = [this](int direction, int shift) { ChangeYear(shown_.year + direction * YearsToAStep(shift)); };
+    form.PickColor = [this](bool isBackground) { Current().colorSource->form.PickColor(isBackground); };
     form.KeyDown = [this](int code, int shift) { return frame_.Form_KeyDown(code, shift); };
 }
 

@@ -402,6 +402,25 @@ class FormTest final : public QObject {
         QCOMPARE(date->palette().color(QPalette::WindowText), QColor(Qt::black));
     }
 
+    void theMenuColoursTheActiveWindow() {
+        Session session;
+        auto* date = session.Find<QLabel>("GregorianDate");
+        session.Find<QPushButton>("isoInfo")->setFocus();
+        QTimer::singleShot(100, qApp, [] {
+            auto* dialog = qobject_cast<QColorDialog*>(QApplication::activeModalWidget());
+            QVERIFY(dialog);
+            dialog->setCurrentColor(Qt::green);
+            dialog->accept();
+        });
+        const auto actions = session.frame().menuBar()->findChildren<QAction*>();
+        const auto item = std::find_if(actions.begin(), actions.end(), [](const QAction* action) {
+            return action->text() == QStringLiteral("Change Background Color");
+        });
+        QVERIFY(item != actions.end());
+        (*item)->trigger();
+        QCOMPARE(date->palette().color(QPalette::Window), QColor(Qt::green));
+    }
+
     void informationIsCopiedOnYes() {
         Session session;
         AnswerNextBox(QMessageBox::Yes);
