@@ -33,29 +33,24 @@ void Horvanta::HangHandlers() {
     frame.MenuAbout.Click = [this] { MenuAbout_Click(); };
     frame.AlwaysToday.Shows(AlwaysToday);
     frame.AlwaysToday.Click = [] { AlwaysToday = !AlwaysToday; };
-    frame.GregCal.Shows(gregorian.form.visible);
-    frame.GregCal.Click = [this] { GregCal_Click(); };
-    gregorian.form.Close = frame.GregCal.Click;
-    frame.CalendarMonth.Shows(monthly.form.visible);
-    frame.CalendarMonth.Click = [this] { CalendarMonth_Click(); };
-    monthly.form.Close = frame.CalendarMonth.Click;
+    HangWindow(frame.GregCal, gregorian.form, &Horvanta::GregCal_Click);
+    HangWindow(frame.CalendarMonth, monthly.form, &Horvanta::CalendarMonth_Click);
     OfferCalendars();
-    frame.QuaCal.Shows(quartane.form.visible);
-    frame.QuaCal.Click = [this] { QuaCal_Click(); };
-    quartane.form.Close = frame.QuaCal.Click;
-    frame.SetUserLoc.Shows(userLocales.form.visible);
-    frame.SetUserLoc.Click = [this] { SetUserLoc_Click(); };
-    userLocales.form.Close = frame.SetUserLoc.Click;
+    HangWindow(frame.QuaCal, quartane.form, &Horvanta::QuaCal_Click);
+    HangWindow(frame.SetUserLoc, userLocales.form, &Horvanta::SetUserLoc_Click);
     userLocales.Choose = [this](std::size_t slot, const LocaleRecord& place) {
         places.SetUserLocale(slot, place);
         places.UserLoc_Click(slot);
     };
-    frame.PersianCal.Shows(persian.form.visible);
-    frame.PersianCal.Click = [this] { PersianCal_Click(); };
-    persian.form.Close = frame.PersianCal.Click;
-    frame.JulianCal.Shows(julian.form.visible);
-    frame.JulianCal.Click = [this] { JulianCal_Click(); };
-    julian.form.Close = frame.JulianCal.Click;
+    HangWindow(frame.PersianCal, persian.form, &Horvanta::PersianCal_Click);
+    HangWindow(frame.JulianCal, julian.form, &Horvanta::JulianCal_Click);
+}
+
+/// The item of a window is ticked while the window is shown; closing the window is the same command.
+void Horvanta::HangWindow(MenuItem& item, Form& form, void (Horvanta::*command)()) {
+    item.Shows(form.visible);
+    item.Click = [this, command] { (this->*command)(); };
+    form.Close = item.Click;
 }
 
 void Horvanta::Start() {

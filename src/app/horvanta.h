@@ -71,6 +71,7 @@ class Horvanta {
 
   private:
     void HangHandlers();
+    void HangWindow(MenuItem& item, Form& form, void (Horvanta::*command)());
     void OfferCalendars();
     void MarkLaunch();
     void LoadWindows();
