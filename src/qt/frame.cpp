@@ -53,6 +53,9 @@ Frame::Frame(HorvantaMDI& shell) : shell_(shell), area_(new QMdiArea(this)) {
     DrawMenus();
 }
 
+/// The area reports the windows that go down with it, when there is no frame left to hear of them.
+Frame::~Frame() { area_->disconnect(this); }
+
 /// A menu shows a line only between items that are shown.
 void Frame::AddItem(QMenu& menu, MenuItem& item) {
     if (item.isSeparator()) {

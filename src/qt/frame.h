@@ -21,6 +21,9 @@ class Frame final : public QMainWindow, public Acts {
     Q_OBJECT
   public:
     explicit Frame(HorvantaMDI& shell);
+    ~Frame() override;
+    Frame(const Frame&) = delete;
+    Frame& operator=(const Frame&) = delete;
 
     /// Makes the window of a form from its Designer form, hidden, and tells the form its size.
     void Load(Form& form);
