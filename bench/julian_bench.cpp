@@ -29,11 +29,11 @@ void CountDays(benchmark::State& state) {
 }
 
 void ToJulian(benchmark::State& state, bool revised) {
-    julian::Revise = revised;
+    julian::options.Revise = revised;
     for (auto _ : state) {
         for (const FixedDay fixed : Days()) benchmark::DoNotOptimize(FixedToJulianDate(fixed, revised));
     }
-    julian::Revise = false;
+    julian::options.Revise = false;
     CountDays(state);
 }
 

@@ -1,7 +1,7 @@
 #include "astro/timescales.h"
+#include "clock/zone_time.h"
+#include "core/locale.h"
 #include "core/numbering.h"
-#include "locale/locale.h"
-#include "locale/zone_time.h"
 
 #include <gtest/gtest.h>
 

@@ -1,21 +1,20 @@
 #pragma once
 
 #include "core/numerics.h"
-
-#include <string_view>
+#include "core/shell.h"
 
 /// What the menus of previous and next events search for.
 namespace horvanta {
 
-/// An event of the menus by its caption, and the universal moments at which it happens last before and first after a
-/// universal moment. A moment that the event itself was found at counts as the event.
+/// An event of the menus, and the universal moment at which it happens first after a universal moment (direction 1) or
+/// last before it (-1); `NeverMoment` where it does not. A moment that the event itself was found at counts as the
+/// event.
 struct EventSearch {
-    std::string_view caption;
-    Moment (*before)(Moment universal);
-    Moment (*after)(Moment universal);
+    MenuEvent event;
+    Moment (*jump)(Moment from, int direction);
 };
 
-/// The search for the event of that caption; null if nothing can find it yet.
-const EventSearch* FindEventSearch(std::string_view caption);
+/// The search for an event; null if nothing can find it yet.
+const EventSearch* FindEventSearch(MenuEvent event);
 
 }  // namespace horvanta

@@ -1,19 +1,31 @@
 #include "app/horvanta.h"
 
 #include "app/stored_settings.h"
-#include "app/update_cycle.h"
+#include "core/day_events.h"
 #include "core/desktop.h"
 #include "core/moment.h"
 
 #include <ranges>
 
 namespace horvanta {
+namespace {
+
+/// Empty while a start has not finished.
+void WriteLaunchMark(std::string_view text) {
+    CurrentDesktop->Settings().Write(ProgramSettings, "Prog", "Launch", text);
+}
+
+void EnableNeeding(const WindowRow& row) {
+    for (MenuItem* item : row.needing) item->enabled = row.form.visible;
+}
+
+}  // namespace
 
 Horvanta::Horvanta() {
     BusyCount = 0;
     UpdateDepth = 0;
     Quitting = false;
-    UpdatePass = [this] { RunUpdatePass(*this); };
+    UpdatePass = [this] { RunUpdatePass(); };
     HangHandlers();
 }
 
@@ -31,26 +43,26 @@ void Horvanta::HangHandlers() {
     frame.PickBackColor.Click = [this] { frame.PickBackColor_Click(); };
     frame.PickForeColor.Click = [this] { frame.PickForeColor_Click(); };
     frame.MenuAbout.Click = [this] { MenuAbout_Click(); };
-    frame.AlwaysToday.Shows(AlwaysToday);
-    frame.AlwaysToday.Click = [] { AlwaysToday = !AlwaysToday; };
-    HangWindow(frame.GregCal, gregorian.form, &Horvanta::GregCal_Click);
-    HangWindow(frame.CalendarMonth, monthly.form, &Horvanta::CalendarMonth_Click);
-    OfferCalendars();
-    HangWindow(frame.QuaCal, quartane.form, &Horvanta::QuaCal_Click);
-    HangWindow(frame.SetUserLoc, userLocales.form, &Horvanta::SetUserLoc_Click);
+    frame.AlwaysToday.Shows(stepping::options.AlwaysToday);
+    frame.AlwaysToday.Click = [] { stepping::options.AlwaysToday = !stepping::options.AlwaysToday; };
     userLocales.Choose = [this](std::size_t slot, const LocaleRecord& place) {
         places.SetUserLocale(slot, place);
         places.UserLoc_Click(slot);
     };
-    HangWindow(frame.PersianCal, persian.form, &Horvanta::PersianCal_Click);
-    HangWindow(frame.JulianCal, julian.form, &Horvanta::JulianCal_Click);
+    for (WindowRow& row : windows) {
+        if (row.isThere()) HangWindow(row);
+    }
 }
 
 /// The item of a window is ticked while the window is shown; closing the window is the same command.
-void Horvanta::HangWindow(MenuItem& item, Form& form, void (Horvanta::*command)()) {
-    item.Shows(form.visible);
-    item.Click = [this, command] { (this->*command)(); };
-    form.Close = item.Click;
+void Horvanta::HangWindow(WindowRow& row) {
+    if (row.item) {
+        row.item->Shows(row.form.visible);
+        row.item->Click = row.form.Close = [this, &row] { ShowOrHide(row); };
+    }
+    if (row.colors) frame.OfferColors(*row.colors);
+    if (!row.form.KeyDown) row.form.KeyDown = frame.Form_KeyDown;
+    for (const GridCalendar& calendar : row.calendars) monthly.Offer(calendar);
 }
 
 void Horvanta::Start() {
@@ -62,13 +74,13 @@ void Horvanta::Start() {
     }
     UpdateStatus();
     timeAstro.TakeFocus();
-    SavePref("Prog", "Launch", "OK");
+    WriteLaunchMark("OK");
     CurrentDesktop->Settings().Flush();
 }
 
 void Horvanta::MarkLaunch() {
-    if (GetTextPref(ProgramSettings, "Prog", "Launch", "OK").empty()) DeleteAllPrefs();
-    SavePref("Prog", "Launch", "");
+    if (CurrentDesktop->Settings().Read(ProgramSettings, "Prog", "Launch") == "") DeleteAllPrefs();
+    WriteLaunchMark("");
     CurrentDesktop->Settings().Flush();
 }
 
@@ -76,28 +88,30 @@ void Horvanta::LoadWindows() {
     LoadFramePrefs(frame);
     CurrentDesktop->LoadFrame(frame);
     SetFixedDayEpoch(GregorianEpoch, 1, "rata die");  // January 1 of year 1 is day 1
-    for (Form* form : forms) CurrentDesktop->LoadForm(*form);
-    timeAstro.form.visible = true;
-    const StoredPlace stored = LoadPrefs(*this);
-    quartane.form.visible = true;  // whatever was kept of it
+    for (Form* form : Forms()) CurrentDesktop->LoadForm(*form);
+    LoadPrefs(*this);
+    for (WindowRow& row : windows) {
+        if (row.open == OpenAt::EveryStart) row.form.visible = true;
+        EnableNeeding(row);
+    }
     timeAstro.SetYearStepCaptions();
     timeAstro.fields.SetToggles();
     monthly.InitCalendars();
-    places.ChooseFirst(stored.name, stored.userSlot);
+    places.ChooseFirst();
     CurrentDesktop->LetEventsRun();
 }
 
 void Horvanta::ChooseMoment() {
     const bool firstRun = DisplayedMoment == 0;
-    if (AlwaysToday || firstRun) jumps.MenuJumpToToday_Click();
+    if (stepping::options.AlwaysToday || firstRun) jumps.MenuJumpToToday_Click();
     if (firstRun) jumps.SaveThisMoment_Click();
-    timeAstro.StepMenu_Click(firstRun ? 1 : StepIndex);
+    timeAstro.StepMenu_Click(firstRun ? 1 : stepping::options.StepIndex);
 }
 
 void Horvanta::Form_Unload() {
     SavePrefs(*this);
     Quitting = true;
-    for (Form* form : forms | std::views::reverse) form->visible = false;
+    for (const WindowRow& row : windows | std::views::reverse) row.form.visible = false;
 }
 
 void Horvanta::SavePreferences_Click() {
@@ -123,7 +137,7 @@ void Horvanta::MenuExit_Click() {
 void Horvanta::QuitWithoutSavePrefs_Click() { CurrentDesktop->End(); }
 
 void Horvanta::ResetPrefsAndQuit_Click() {
-    SaveUserPlaces(*this);
+    Save(places.UserRows());
     DeleteAllPrefs();
     CurrentDesktop->Settings().Flush();
     CurrentDesktop->End();
@@ -135,41 +149,34 @@ void Horvanta::ResetColorsAndQuit_Click() {
     CurrentDesktop->End();
 }
 
-/// The places of the list belong to the calendars, whether they are there yet or not.
-void Horvanta::OfferCalendars() {
-    const auto offer = [this](std::size_t place, const CalendarContract& contract, const Control& mainDate,
-                              MenuItem& window) {
-        const Form& form = mainDate.form;
-        monthly.Offer(place, {&contract, &mainDate, &window, [&form] { return form.visible; }});
-    };
-    offer(0, quartane::Calendar, quartane.QuartaneDateBox, frame.QuaCal);
-    offer(1, GregorianCalendar, gregorian.GregorianDate, frame.GregCal);
-    offer(2, ISOCalendar, gregorian.TheISOdate, frame.GregCal);
-    offer(3, JulianCalendar, julian.TheJulianDate, frame.JulianCal);
-    offer(4, RomanCalendar, julian.TheRomanDate, frame.JulianCal);
-    offer(5, PersianCalendar, persian.ThePersianDate, frame.PersianCal);
+void Horvanta::RunUpdatePass() {
+    day_events::Clear();
+    for (const auto stage : {&WindowRow::update, &WindowRow::finish}) {
+        for (const WindowRow& row : windows) {
+            if (row.form.visible && row.*stage) (row.*stage)();
+        }
+    }
 }
-
-void Horvanta::CalendarMonth_Click() { ShowOrHide(monthly.form, monthly.Days); }
-
-void Horvanta::GregCal_Click() { ShowOrHide(gregorian.form, gregorian.Dummy); }
-void Horvanta::PersianCal_Click() { ShowOrHide(persian.form, persian.Dummy); }
-void Horvanta::QuaCal_Click() { ShowOrHide(quartane.form, quartane.Dummy); }
-
-void Horvanta::SetUserLoc_Click() {
-    if (userLocales.isDirty() != YesNoCancel::Cancel) ShowOrHide(userLocales.form, userLocales.LocName);
-}
-void Horvanta::JulianCal_Click() { ShowOrHide(julian.form, julian.Dummy); }
 
 /// A window that is shown gets the focus; one that is hidden gives it to the time window.
-void Horvanta::ShowOrHide(Form& form, Control& first) {
-    form.visible = !form.visible;
+void Horvanta::ShowOrHide(WindowRow& row) {
+    if (row.mayToggle && !row.mayToggle()) return;
+    row.form.visible = !row.form.visible;
+    EnableNeeding(row);
     UpdateStatus();
-    if (form.visible) {
-        first.TakeFocus();
+    if (row.form.visible) {
+        row.first.TakeFocus();
     } else {
         timeAstro.TakeFocus();
     }
+}
+
+std::vector<Form*> Horvanta::Forms() const {
+    std::vector<Form*> forms;
+    for (const WindowRow& row : windows) {
+        if (row.isThere()) forms.push_back(&row.form);
+    }
+    return forms;
 }
 
 }  // namespace horvanta

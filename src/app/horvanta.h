@@ -3,15 +3,18 @@
 #include "app/jumps.h"
 #include "app/options.h"
 #include "app/places.h"
-#include "app/time_astro.h"
-#include "calendars/gregorian_window.h"
-#include "calendars/julian_window.h"
-#include "calendars/persian_window.h"
-#include "calendars/quartane_window.h"
-#include "calendars/world_window.h"
+#include "app/windows.h"
 #include "core/shell.h"
-#include "locale/user_locales_window.h"
+#include "views/gregorian_window.h"
+#include "views/julian_window.h"
 #include "views/monthly_window.h"
+#include "views/persian_window.h"
+#include "views/quartane_window.h"
+#include "views/time_astro.h"
+#include "views/user_locales_window.h"
+#include "views/world_window.h"
+
+#include <vector>
 
 namespace horvanta {
 
@@ -42,16 +45,6 @@ class Horvanta {
     void ResetPrefsAndQuit_Click();
     void ResetColorsAndQuit_Click();
 
-    // Each shows its window, or hides it.
-    void GregCal_Click();
-    void JulianCal_Click();
-    void QuaCal_Click();
-    void PersianCal_Click();
-    void CalendarMonth_Click();
-
-    /// Shows the window of the user's own places, or hides it unless the user stops that for the sake of changes.
-    void SetUserLoc_Click();
-
     HorvantaMDI frame;
     TimeAstro timeAstro{frame};
     GregorianWindow gregorian{frame};
@@ -65,18 +58,29 @@ class Horvanta {
     Jumps jumps{frame, timeAstro};
     Options options{frame};
 
-    /// In the order in which they are loaded.
-    Form* const forms[8] = {&timeAstro.form, &gregorian.form, &quartane.form,    &monthly.form,
-                            &julian.form,    &persian.form,   &userLocales.form, &world.form};
+    /// In the order in which they are loaded and update.
+    std::vector<WindowRow> windows{
+        timeAstro.Row(),
+        Below(timeAstro.form, quartane.Row()),
+        Beside(quartane.form, monthly.Row()),
+        Beside(timeAstro.form, gregorian.Row()),
+        Below(monthly.form, julian.Row()),
+        Below(gregorian.form, persian.Row()),
+        Beside(monthly.form, userLocales.Row()),
+        {world.form, world.Dummy},
+    };
+
+    /// The same, as far as they are there.
+    std::vector<Form*> Forms() const;
 
   private:
     void HangHandlers();
-    void HangWindow(MenuItem& item, Form& form, void (Horvanta::*command)());
-    void OfferCalendars();
+    void HangWindow(WindowRow& row);
     void MarkLaunch();
     void LoadWindows();
     void ChooseMoment();
-    void ShowOrHide(Form& form, Control& first);
+    void RunUpdatePass();
+    void ShowOrHide(WindowRow& row);
 };
 
 }  // namespace horvanta

@@ -1,12 +1,12 @@
 #include "app/jumps.h"
 
 #include "app/event_searches.h"
-#include "app/time_astro.h"
-#include "astro/timescales.h"
+#include "astro/local_time.h"
+#include "clock/zone_time.h"
 #include "core/desktop.h"
 #include "core/moment.h"
 #include "core/text.h"
-#include "locale/zone_time.h"
+#include "views/time_astro.h"
 
 #include <cstdlib>
 
@@ -18,7 +18,7 @@ void JumpToMoment(Moment universal) {
     UpdateStatus();
 }
 
-std::string_view CaptionOf(std::int32_t index) { return EventCaptions[static_cast<std::size_t>(index - 1)]; }
+const EventItem& ItemAt(std::int32_t index) { return EventItems[static_cast<std::size_t>(std::abs(index) - 1)]; }
 
 }  // namespace
 
@@ -36,7 +36,7 @@ Jumps::Jumps(HorvantaMDI& frame, TimeAstro& time) : frame_(frame), time_(time) {
 
 void Jumps::HangSearches() {
     for (std::size_t number = 1; number <= EventCaptions.size(); ++number) {
-        if (!FindEventSearch(EventCaptions[number - 1])) continue;
+        if (!FindEventSearch(EventItems[number - 1].event)) continue;
         const auto index = static_cast<std::int32_t>(number);
         frame_.PrevMenu[number].Click = [this, index] { PrevMenu_Click(index); };
         frame_.NextMenu[number].Click = [this, index] { NextMenu_Click(index); };
@@ -76,9 +76,12 @@ void Jumps::JumpAgain_Click() { JumpToEvent(nextPrevIndex_); }
 void Jumps::JumpToEvent(std::int32_t index) {
     nextPrevIndex_ = index;
     SetAgainCaption();
-    const EventSearch* search = FindEventSearch(CaptionOf(std::abs(index)));
-    const Moment found = (index < 0 ? search->before : search->after)(DisplayedMoment);
-    if (!isNever(found)) DisplayedMoment = found;
+    const Moment found = FindEventSearch(ItemAt(index).event)->jump(DisplayedMoment, Sign(index));
+    if (isNever(found)) {
+        CurrentDesktop->Beep();
+    } else {
+        DisplayedMoment = found;
+    }
     UpdateStatus();
     time_.TakeFocus();
 }
@@ -88,7 +91,7 @@ void Jumps::SetAgainCaption() {
     frame_.JumpAgain.enabled = time_.JumpAgainButton.enabled = known;
     if (!known) return;
     const std::string event =
-        (nextPrevIndex_ < 0 ? "Previous " : "Next ") + RemoveAmpersands(CaptionOf(std::abs(nextPrevIndex_)));
+        (nextPrevIndex_ < 0 ? "Previous " : "Next ") + RemoveAmpersands(ItemAt(nextPrevIndex_).caption);
     frame_.JumpAgain.caption = "Again (" + event + ")";
     time_.JumpAgainButton.tooltip = "Again invoke the \"" + event + "\" command";
 }

@@ -3,6 +3,7 @@
 #include "calendars/gregorian.h"
 #include "core/moment.h"
 #include "core/text.h"
+#include "hebrew/hebrew_options.h"
 #include "locale/locale_text.h"
 
 #include <utility>
@@ -41,34 +42,75 @@ static_assert(std::size(numberings) == decltype(HorvantaMDI::SetEpochOptMenu)::s
 Options::Options(HorvantaMDI& frame) : frame_(frame) {
     for (std::size_t number = 1; number <= frame_.SetEpochOptMenu.size(); ++number) {
         const auto index = static_cast<std::int32_t>(number);
-        frame_.SetEpochOptMenu[number].Shows(FixedDayOption, index);
+        frame_.SetEpochOptMenu[number].Shows(day_numbering::options.FixedDayOption, index);
         frame_.SetEpochOptMenu[number].Click = [this, index] { SetFixedDayNumberingOption(index); };
     }
     for (std::size_t number = 1; number <= frame_.MapServer.size(); ++number) {
         const auto index = static_cast<std::int32_t>(number);
-        frame_.MapServer[number].Shows(MapIndex, index);
+        frame_.MapServer[number].Shows(web_map::options.MapIndex, index);
         frame_.MapServer[number].Click = [this, index] { MapServer_Click(index); };
     }
     MenuItem* const formats[] = {&frame_.SetTempHMM, &frame_.SetTempHourMMM, &frame_.SetTempHourHHH};
     for (std::int32_t format = 1; MenuItem * item : formats) {
-        item->Shows(TempHourFormat, format);
+        item->Shows(time_text::options.TempHourFormat, format);
         item->Click = [this, format] { SetTempHourFormat(format); };
         ++format;
     }
 }
 
+/// `GE` is the day number of January 1 of year 1.
+Settings Options::NumberingRows() {
+    constexpr double farthest = 1e7;  // days; the displayable ones lie within
+    return {
+        WholeRow("Item", "FixOpt", day_numbering::options, &day_numbering::Options::FixedDayOption, 1,
+                 static_cast<std::int32_t>(std::size(numberings))),
+        {"Item", "GE", "-730484",
+         [](const std::string& text) {
+             return TakeIf(NumberOf(text, -farthest, farthest), [](double first) {
+                 SetFixedDayEpoch(GregorianEpoch + 1 - Floor(first), FixedEpochValue, FixedEpochName);
+             });
+         },
+         [] { return ExactText(GregorianEpoch); }},
+        {"Item", "FixEpoch", "1",
+         [](const std::string& text) {
+             return TakeIf(NumberOf(text, -farthest, farthest), [](double value) { FixedEpochValue = value; });
+         },
+         [] { return ExactText(FixedEpochValue); }},
+        {"Item", "FixNam", "",
+         [](const std::string& text) {
+             FixedEpochName = text;
+             return true;
+         },
+         [] { return FixedEpochName; }},
+    };
+}
+
+Settings Options::StoredRows() {
+    return {
+        WholeRow("Item", "THC", time_text::options, &time_text::Options::TempHourFormat, 1, 3),
+        WholeRow("Item", "Map", web_map::options, &web_map::Options::MapIndex, 1,
+                 static_cast<std::int32_t>(decltype(HorvantaMDI::MapServer)::size())),
+        {"Item", "MTF", "7",
+         [](const std::string& text) {
+             hebrew::options.MoladTimeFormat = text == "5" ? 5 : 7;
+             return true;
+         },
+         [] { return std::to_string(hebrew::options.MoladTimeFormat); }},
+    };
+}
+
 void Options::SetFixedDayNumberingOption(std::int32_t index) {
     const auto number = static_cast<std::size_t>(index);
     const Numbering& numbering = numberings[number - 1];
-    FixedDayOption = index;
+    day_numbering::options.FixedDayOption = index;
     ChangeFixedDayEpoch(numbering.dayOne(), numbering.value, RemoveAmpersands(frame_.SetEpochOptMenu[number].caption));
 }
 
 void Options::SetTempHourFormat(std::int32_t format) {
-    TempHourFormat = format;
+    time_text::options.TempHourFormat = format;
     UpdateStatus();
 }
 
-void Options::MapServer_Click(std::int32_t index) { MapIndex = index; }
+void Options::MapServer_Click(std::int32_t index) { web_map::options.MapIndex = index; }
 
 }  // namespace horvanta

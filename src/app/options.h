@@ -1,18 +1,31 @@
 #pragma once
 
+#include "core/preferences.h"
 #include "core/shell.h"
 
 #include <cstdint>
 
 namespace horvanta {
 
-/// Which item of the numbering menu was chosen last, from 1.
-inline std::int32_t FixedDayOption = 4;
+namespace day_numbering {
+
+struct Options {
+    std::int32_t FixedDayOption = 4;  ///< The item of the numbering menu that was chosen last, from 1.
+
+    bool operator==(const Options&) const = default;
+};
+inline Options options;
+
+}  // namespace day_numbering
 
 /// The commands of the Options menu that change how things are counted, told and linked.
 class Options {
   public:
     explicit Options(HorvantaMDI& frame);
+
+    /// The numbering, in the order in which it has to be read; and the formats.
+    static Settings NumberingRows();
+    static Settings StoredRows();
 
     /// Numbers the days by an item of the numbering menu, from 1. The displayed and the saved moment keep their dates
     /// and times of day.

@@ -1,13 +1,26 @@
 #pragma once
 
-#include "app/time_fields.h"
+#include "core/locale.h"
+#include "core/preferences.h"
 #include "core/shell.h"
-#include "locale/locale.h"
+#include "views/time_fields.h"
 
+#include <array>
 #include <cstddef>
 #include <string>
 
 namespace horvanta {
+
+/// A place of the user's as the settings tell it, key by key.
+struct PlaceEntry {
+    std::string name;
+    double latitude = 0;
+    double longitude = 0;
+    double elevation = 0;
+    double zone = 0;
+    bool noDST = false;
+    bool useLMT = false;
+};
 
 /// The places of the Locale menu, and the choice of one.
 class Places {
@@ -18,9 +31,13 @@ class Places {
     /// an offer to copy the report.
     void SelectLocale(const MenuItem& item, const LocaleRecord& place);
 
-    /// Chooses the place of a start without any question: the user's own one that was ticked, else the preset of that
-    /// short name, else Greenwich.
-    void ChooseFirst(const std::string& name, std::size_t userSlot);
+    /// Chooses the place of a start without any question: the user's own one that was ticked, else the preset whose
+    /// short name the settings tell, else Greenwich.
+    void ChooseFirst();
+
+    /// The user's own places, and these with the choice of one.
+    Settings UserRows();
+    Settings StoredRows();
 
     /// Stores a place in a slot of the user's, from 1, and shows it in the menu.
     void SetUserLocale(std::size_t slot, const LocaleRecord& place);
@@ -35,10 +52,14 @@ class Places {
 
   private:
     void ReportMove(const LocaleRecord& place);
+    void StoreRead(std::size_t slot);
 
     HorvantaMDI& frame_;
     TimeFields& fields_;
     const MenuItem* chosen_ = nullptr;
+    std::array<PlaceEntry, UserLocales.size()> read_;  ///< What the settings told of the slots.
+    std::size_t userSlot_ = 0;                         ///< The one that was the chosen place; 0 for none.
+    std::string storedName_;                           ///< Else the preset that was it.
 };
 
 }  // namespace horvanta

@@ -1,12 +1,12 @@
 #include "astro/earth_axis.h"
 
 #include "astro/sun_tables.h"
+#include "core/memo.h"
 #include "core/numerics.h"
 
 #include <algorithm>
 #include <array>
 #include <cmath>
-#include <limits>
 
 namespace horvanta {
 namespace {
@@ -64,12 +64,10 @@ double SumOfTerms(double c) {
 double ObliquityAt(double c) { return (((0.001813 * c - 0.00059) * c - 46.815) * c + 84381.448) / 3600; }
 
 double NutationAt(double centuries) {
-    static struct {
-        double centuries = std::numeric_limits<double>::quiet_NaN();
-        double degrees = 0;
-    } memo;
-    if (memo.centuries != centuries) memo = {centuries, SumOfTerms(centuries)};
-    return memo.degrees;
+    static Memo<1, double, double> memo;
+    return memo.Of(centuries, [=] { return SumOfTerms(centuries); });
 }
+
+double MeanSolarAnomalyAt(double c) { return 357.5291 + 35999.0503 * c - 0.0001559 * c * c - 0.00000048 * c * c * c; }
 
 }  // namespace horvanta

@@ -2,21 +2,24 @@
 
 #include "astro/earth_axis.h"
 #include "astro/ephemeris.h"
+#include "astro/local_time.h"
 #include "astro/sun_tables.h"
 #include "astro/timescales.h"
-#include "core/moment.h"
-#include "locale/locale.h"
+#include "astro/year_dates.h"
+#include "core/memo.h"
 
 #include <algorithm>
 #include <array>
 #include <cmath>
-#include <limits>
 #include <utility>
 
 namespace horvanta {
 namespace {
 
 constexpr double daysPerDegree = MeanTropicalYear / 360;
+
+/// Two passages of one longitude that are found from different moments differ by less.
+constexpr double sameEvent = 0.00002;  // days
 
 double CenturiesOf(double x, bool isCenturies) { return isCenturies ? x : JulianCenturies(x); }
 
@@ -67,31 +70,27 @@ Moment RootNear(const Bracket& bracket, Moment first, double degrees) {
 }  // namespace
 
 double SolarLongitude(Moment universal, bool normalise, bool isCenturies) {
-    static struct {
-        double centuries = std::numeric_limits<double>::quiet_NaN();
-        double degrees = 0;
-    } memo;
+    static Memo<1, double, double> memo;
     const double centuries = CenturiesOf(universal, isCenturies);
-    if (memo.centuries != centuries) {
-        const double degrees = LongitudeAt(centuries);
-        memo = {centuries, normalise ? Degrees(degrees) : degrees};
-    }
-    return memo.degrees;
+    const double degrees = memo.Of(centuries, [=] { return LongitudeAt(centuries); });
+    return normalise ? Degrees(degrees) : degrees;
 }
 
 double Aberration(Moment universal, bool isCenturies) { return AberrationAt(CenturiesOf(universal, isCenturies)); }
 double Nutation(Moment universal, bool isCenturies) { return NutationAt(CenturiesOf(universal, isCenturies)); }
 double Obliquity(Moment universal) { return ObliquityAt(JulianCenturies(universal)); }
 
+double MeanSolarAnomaly(Moment universal) { return MeanSolarAnomalyAt(JulianCenturies(universal)); }
+
 double SolarDeclination(Moment universal) {
     return ArcSinDeg(SinDeg(SolarLongitude(universal)) * SinDeg(Obliquity(universal)));
 }
 
-double SolarAltitude(Moment apparent) {
-    const double declination = Radians(SolarDeclination(ApparentToUniversal(apparent)));
+double SolarAltitude(Moment apparent, const LocaleRecord& place) {
+    const double declination = Radians(SolarDeclination(ApparentToUniversal(apparent, place)));
     const double hourAngle = SolarHourAngle(apparent);
-    return ArcSinDeg(std::cos(Locale.LatRad) * std::cos(declination) * CosDeg(hourAngle) +
-                     std::sin(Locale.LatRad) * std::sin(declination));
+    return ArcSinDeg(std::cos(place.LatRad) * std::cos(declination) * CosDeg(hourAngle) +
+                     std::sin(place.LatRad) * std::sin(declination));
 }
 
 double SolarHourAngle(Moment apparent) { return (0.5 - Modulo(apparent, 1)) * 360; }
@@ -121,17 +120,14 @@ Moment EstimateSolarLongitudeBefore(Moment universal, double degrees) {
 
 namespace {
 
-/// A request for a season and the universal moment found for it, under the numbering and the Delta T of the time.
-struct Season {
+/// A request for a season, under the numbering and the Delta T of the time.
+struct SeasonKey {
     std::int32_t year;
     double degrees;
     std::int64_t numbering;
     std::int64_t deltaT;
-    Moment moment = NeverMoment;
 
-    bool isSameRequest(const Season& other) const {
-        return year == other.year && degrees == other.degrees && numbering == other.numbering && deltaT == other.deltaT;
-    }
+    bool operator==(const SeasonKey&) const = default;
 };
 
 /// About when the year's mean passage of a longitude is.
@@ -152,14 +148,8 @@ Moment SeasonMoment(std::int32_t year, double degrees, double offset) {
     if (Modulo(degrees, 90) == 0) {
         if (const auto listed = SolexSolarLongitudeAfter(year, degrees)) return *listed + offset;
     }
-    static std::array<Season, 2> memo{{{0, NeverMoment, -1, -1}, {0, NeverMoment, -1, -1}}};
-    Season asked{year, degrees, NumberingSerial, DeltaTSerial};
-    for (const Season& season : memo) {
-        if (season.isSameRequest(asked)) return season.moment + offset;
-    }
-    asked.moment = FindSeason(year, degrees);
-    memo = {asked, memo[0]};
-    return asked.moment + offset;
+    static Memo<2, SeasonKey, Moment> memo;
+    return memo.Of({year, degrees, NumberingSerial, DeltaTSerial}, [=] { return FindSeason(year, degrees); }) + offset;
 }
 
 /// The mean longitude is a straight line but for the slow growth of Delta T, so that a second step hits it.
@@ -177,7 +167,31 @@ Moment SameLongitudeYearsLater(Moment universal, double years) {
     const double fraction = size - Floor(size);
     double longitude = SolarLongitude(universal);
     if (fraction != 0) longitude = Degrees(longitude + 360 * Sign(years) * fraction);
-    return SolarLongitudeAfter(ClampToRange(universal + MeanTropicalYear * years - 30), longitude);
+    const Moment begin = std::clamp<Moment>(universal + MeanTropicalYear * years - 30, MinFixedDay, MaxFixedDay);
+    return SolarLongitudeAfter(begin, longitude);
+}
+
+Moment SolarLongitudePassage(Moment universal, double degrees, int direction) {
+    if (direction > 0) {
+        const Moment found = SolarLongitudeAfter(universal, degrees);
+        return found > universal + sameEvent ? found : SolarLongitudeAfter(universal + 1, degrees);
+    }
+    const auto passageBefore = [degrees](Moment x) {  // the estimate may be off by hours
+        return SolarLongitudeAfter(EstimateSolarLongitudeBefore(x, degrees) - 1, degrees);
+    };
+    const Moment found = passageBefore(universal);
+    return found < universal - sameEvent ? found : passageBefore(universal - 5);
+}
+
+/// The anomaly runs so evenly that one step from its mean rate to its real one is enough.
+Moment SolarAnomalyPassage(Moment universal, double degrees, int direction) {
+    const auto passage = [degrees, direction](Moment from) {
+        const double ahead = Modulo(direction * (degrees - MeanSolarAnomaly(from)), 360);
+        const Moment mean = from + direction * ahead / DailyMeanSolarAnomaly;
+        return mean - ModuloRange(MeanSolarAnomaly(mean) - degrees, -180, 180) / DailyMeanSolarAnomaly;
+    };
+    const Moment found = passage(universal);
+    return direction * (found - universal) > sameEvent ? found : passage(universal + direction);
 }
 
 }  // namespace horvanta

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "core/locale.h"
 #include "core/numerics.h"
 
 #include <cstdint>
@@ -13,7 +14,7 @@ inline constexpr double MeanTropicalYear = 365.242189;  ///< Days.
 
 /// Apparent longitude (Bretagnon and Simon's series of 49 terms), in [0, 360), or with all its revolutions if not
 /// `normalise`. With `isCenturies` the argument is Julian centuries of Terrestrial Time from J2000 in place of a
-/// moment. Asked again for the same instant, it answers in the form of the first time.
+/// moment.
 double SolarLongitude(Moment universal, bool normalise = true, bool isCenturies = false);
 
 /// What the Earth's own motion takes from the longitude, in degrees.
@@ -25,11 +26,14 @@ double Nutation(Moment universal, bool isCenturies = false);
 /// Mean obliquity of the ecliptic, in degrees.
 double Obliquity(Moment universal);
 
+/// Mean anomaly in degrees, with all its revolutions.
+double MeanSolarAnomaly(Moment universal);
+
 /// Degrees north of the equator.
 double SolarDeclination(Moment universal);
 
-/// Degrees above the horizon of the current place, without refraction.
-double SolarAltitude(Moment apparent);
+/// Degrees above the horizon of a place, without refraction.
+double SolarAltitude(Moment apparent, const LocaleRecord& place = Locale);
 
 /// Degrees to noon: positive before it.
 double SolarHourAngle(Moment apparent);
@@ -51,8 +55,12 @@ Moment SeasonMoment(std::int32_t year, double degrees, double offset = 0);
 Moment MeanSeasonMoment(std::int32_t year, double degrees);
 
 /// The moment about so many years later at which the Sun reaches the longitude that it has at `universal`, shifted by
-/// the fraction of a year in `years`. A search that would begin out of the displayable range beeps and begins at its
-/// end.
+/// the fraction of a year in `years`. A search that would begin out of the displayable range begins at its end.
 Moment SameLongitudeYearsLater(Moment universal, double years);
+
+/// The first moment after `universal` (direction 1) or the last before it (-1) at which the Sun reaches a longitude,
+/// or its mean anomaly some degrees. A moment that such a passage was found at counts as the passage.
+Moment SolarLongitudePassage(Moment universal, double degrees, int direction);
+Moment SolarAnomalyPassage(Moment universal, double degrees, int direction);
 
 }  // namespace horvanta

@@ -1,8 +1,7 @@
 #include "astro/sun_events.h"
 
+#include "astro/local_time.h"
 #include "astro/sun.h"
-#include "astro/timescales.h"
-#include "locale/locale.h"
 
 #include <algorithm>
 #include <cmath>
@@ -18,93 +17,111 @@ double DeclinationInRadians(Moment universal) {
 
 }  // namespace
 
-double HorizonDip() {
+double HorizonDip(const LocaleRecord& place) {
     constexpr double earthRadius = 6367000;  // metres
-    return Locale.Elevation <= 0 ? 0 : ArcCosDeg(earthRadius / (earthRadius + Locale.Elevation));
+    return place.Elevation <= 0 ? 0 : ArcCosDeg(earthRadius / (earthRadius + place.Elevation));
 }
 
-double SunDepression() { return DegMinSec(0, 50, 29) + (UseElevation ? HorizonDip() : 0); }
+double SunDepression(const LocaleRecord& place) {
+    return DegMinSec(0, 50, 29) + (horizon::options.UseElevation ? HorizonDip(place) : 0);
+}
 
-double SineOffset(Moment universal, double depression) {
+double SineOffset(Moment universal, double depression, const LocaleRecord& place) {
     const double declination = DeclinationInRadians(universal);
-    return std::tan(Locale.LatRad) * std::tan(declination) +
-           SinDeg(depression) / (std::cos(declination) * std::cos(Locale.LatRad));
+    return std::tan(place.LatRad) * std::tan(declination) +
+           SinDeg(depression) / (std::cos(declination) * std::cos(place.LatRad));
 }
 
-Moment ApproxMomentOfDepression(Moment local, double depression, bool morning) {
+Moment ApproxMomentOfDepression(Moment local, double depression, bool morning, const LocaleRecord& place) {
     const FixedDay date = Floor(local);
     const Moment alternative = depression < 0 ? date + 0.5 : morning ? date : date + 1;
-    double value = SineOffset(local, depression);
-    if (std::fabs(value) > 1) value = SineOffset(alternative, depression);
+    double value = SineOffset(local, depression, place);
+    if (std::fabs(value) > 1) value = SineOffset(alternative, depression, place);
     if (!(std::fabs(value) <= 1)) return NeverMoment;
     const double offset = Modulo(ArcSinDeg(value) / 360 + 0.5, 1) - 0.25;
-    return ApparentToLocal(date + 0.5 + (morning ? -offset : offset));
+    return ApparentToLocal(date + 0.5 + (morning ? -offset : offset), place);
 }
 
 /// Near the poles the moments may run in a circle for ever; the later of two then stands.
-Moment MomentOfDepression(Moment local, double depression, bool morning) {
+Moment MomentOfDepression(Moment local, double depression, bool morning, const LocaleRecord& place) {
     constexpr double halfMinute = 1.0 / 2880;
     constexpr int patience = 100;
     Moment before = local;
-    Moment moment = ApproxMomentOfDepression(before, depression, morning);
+    Moment moment = ApproxMomentOfDepression(before, depression, morning, place);
     for (int repeats = 0; !isNever(moment) && std::fabs(before - moment) >= halfMinute; ++repeats) {
         if (repeats == patience) return std::max(before, moment);
-        before = std::exchange(moment, ApproxMomentOfDepression(moment, depression, morning));
+        before = std::exchange(moment, ApproxMomentOfDepression(moment, depression, morning, place));
     }
     return moment;
 }
 
-Moment Dawn(Moment date, double depression) {
+Moment Dawn(Moment date, double depression, const LocaleRecord& place) {
     const FixedDay day = Floor(date);
-    const Moment first = MomentOfDepression(day + 0.25, depression, true);
+    const Moment first = MomentOfDepression(day + 0.25, depression, true, place);
     if (isNever(first)) return NeverMoment;
-    const Moment second = MomentOfDepression(first >= day ? first : day, depression, true);
-    return isNever(second) ? NeverMoment : LocalToStandard(second);
+    const Moment second = MomentOfDepression(first >= day ? first : day, depression, true, place);
+    return isNever(second) ? NeverMoment : LocalToStandard(second, place);
 }
 
 /// The second search stays in the date: a first moment past midnight sends it to the date's last hundredth.
-Moment Dusk(Moment date, double depression) {
+Moment Dusk(Moment date, double depression, const LocaleRecord& place) {
     const FixedDay day = Floor(date);
-    const Moment first = MomentOfDepression(day + 0.75, depression, false);
+    const Moment first = MomentOfDepression(day + 0.75, depression, false, place);
     if (isNever(first)) return NeverMoment;
-    const Moment second = MomentOfDepression(first >= day + 1 ? day + 0.99 : first, depression, false);
-    return isNever(second) ? NeverMoment : LocalToStandard(second);
+    const Moment second = MomentOfDepression(first >= day + 1 ? day + 0.99 : first, depression, false, place);
+    return isNever(second) ? NeverMoment : LocalToStandard(second, place);
 }
 
-Moment Sunrise(Moment date) { return Dawn(date, SunDepression()); }
-Moment Sunset(Moment date) { return Dusk(date, SunDepression()); }
+Moment Sunrise(Moment date, const LocaleRecord& place) { return Dawn(date, SunDepression(place), place); }
+Moment Sunset(Moment date, const LocaleRecord& place) { return Dusk(date, SunDepression(place), place); }
 
-Moment SolarMidday(Moment date) { return UniversalToStandard(ApparentToUniversal(Floor(date) + 0.5)); }
-Moment SolarMidnight(Moment date) { return UniversalToStandard(ApparentToUniversal(Floor(date))); }
+Moment SolarMidday(Moment date, const LocaleRecord& place) {
+    return UniversalToStandard(ApparentToUniversal(Floor(date) + 0.5, place), place);
+}
+Moment SolarMidnight(Moment date, const LocaleRecord& place) {
+    return UniversalToStandard(ApparentToUniversal(Floor(date), place), place);
+}
 
-double DayTemporalHour(Moment date) { return PartOf(MomentDifference(Sunset(date), Sunrise(date)), 12); }
-double NightTemporalHour(Moment date) { return PartOf(MomentDifference(Sunrise(date + 1), Sunset(date)), 12); }
-double MorningTemporalHour(Moment date) { return PartOf(MomentDifference(SolarMidday(date), Sunrise(date)), 6); }
-double AfternoonTemporalHour(Moment date) { return PartOf(MomentDifference(Sunset(date), SolarMidday(date)), 6); }
-double EveningTemporalHour(Moment date) { return PartOf(MomentDifference(SolarMidnight(date + 1), Sunset(date)), 6); }
-double PreDawnTemporalHour(Moment date) { return PartOf(MomentDifference(Sunrise(date), SolarMidnight(date)), 6); }
+double DayTemporalHour(Moment date, const LocaleRecord& place) {
+    return PartOf(MomentDifference(Sunset(date, place), Sunrise(date, place)), 12);
+}
+double NightTemporalHour(Moment date, const LocaleRecord& place) {
+    return PartOf(MomentDifference(Sunrise(date + 1, place), Sunset(date, place)), 12);
+}
+double MorningTemporalHour(Moment date, const LocaleRecord& place) {
+    return PartOf(MomentDifference(SolarMidday(date, place), Sunrise(date, place)), 6);
+}
+double AfternoonTemporalHour(Moment date, const LocaleRecord& place) {
+    return PartOf(MomentDifference(Sunset(date, place), SolarMidday(date, place)), 6);
+}
+double EveningTemporalHour(Moment date, const LocaleRecord& place) {
+    return PartOf(MomentDifference(SolarMidnight(date + 1, place), Sunset(date, place)), 6);
+}
+double PreDawnTemporalHour(Moment date, const LocaleRecord& place) {
+    return PartOf(MomentDifference(Sunrise(date, place), SolarMidnight(date, place)), 6);
+}
 
-Moment SundialToStandard(Moment date, double hour) {
+Moment SundialToStandard(Moment date, double hour, const LocaleRecord& place) {
     const bool beforeSunrise = hour < 6;
     const bool byDay = !beforeSunrise && hour <= 18;
     const FixedDay day = beforeSunrise ? date - 1 : date;
-    const Moment base = byDay ? Sunrise(day) : Sunset(day);
-    const double temporalHour = byDay ? DayTemporalHour(day) : NightTemporalHour(day);
+    const Moment base = byDay ? Sunrise(day, place) : Sunset(day, place);
+    const double temporalHour = byDay ? DayTemporalHour(day, place) : NightTemporalHour(day, place);
     const double count = beforeSunrise ? hour + 6 : byDay ? hour - 6 : hour - 18;
     if (isNever(base) || isNever(temporalHour)) return NeverMoment;
     return base + count * temporalHour;
 }
 
-double RiseSetAzimuth(Moment date, bool centre, bool rise) {
+double RiseSetAzimuth(Moment date, bool centre, bool rise, const LocaleRecord& place) {
     constexpr double refraction = 0.5746480877314717;  // degrees, at the horizon
-    const double depression = centre ? HorizonDip() + refraction : SunDepression();
-    const Moment standardTime = rise ? Dawn(date, depression) : Dusk(date, depression);
+    const double depression = centre ? HorizonDip(place) + refraction : SunDepression(place);
+    const Moment standardTime = rise ? Dawn(date, depression, place) : Dusk(date, depression, place);
     if (isNever(standardTime)) return NeverMoment;
-    const double declination = DeclinationInRadians(StandardToUniversal(standardTime));
-    const double value = -std::tan(Locale.LatRad) * std::tan(declination);
+    const double declination = DeclinationInRadians(StandardToUniversal(standardTime, place));
+    const double value = -std::tan(place.LatRad) * std::tan(declination);
     if (!(value < 1)) return NeverMoment;
     const double sine = std::sqrt(std::max(0.0, 1 - value * value));
-    const double x = std::sin(Locale.LatRad) * value - std::cos(Locale.LatRad) * std::tan(declination);
+    const double x = std::sin(place.LatRad) * value - std::cos(place.LatRad) * std::tan(declination);
     const double angle = ArcTan2Deg(sine, x) - 90;
     return rise ? 90 - angle : angle + 270;
 }

@@ -1,12 +1,7 @@
 #include "astro/timescales.h"
 
-#include "astro/earth_axis.h"
-#include "core/numerics.h"
-#include "locale/locale.h"
-
 #include <algorithm>
 #include <array>
-#include <cmath>
 #include <limits>
 
 namespace horvanta {
@@ -14,7 +9,6 @@ namespace {
 
 constexpr double secondsPerDay = 86400;
 constexpr double daysPerCentury = 36525;
-constexpr double daysPerOrbitalYear = 365.242194;
 
 /// Delta T in seconds up to the year `until`: a polynomial in (year - origin) / unit, and for the last stretch a share
 /// of what the year lacks to 2150.
@@ -57,27 +51,6 @@ double DeltaTSeconds(double year) {
     return seconds - row->perYearBefore2150 * (2150 - year);
 }
 
-double MeanSolarAnomalyAt(double c) { return 357.5291 + 35999.0503 * c - 0.0001559 * c * c - 0.00000048 * c * c * c; }
-
-double EquationOfTimeAt(double c) {
-    constexpr double fullCircle = 6.28318530717958;
-    const double longitude = 280.46645 + 36000.76983 * c + 0.0003032 * c * c;
-    const double anomaly = MeanSolarAnomalyAt(c);
-    const double e = 0.016708617 - (0.000042037 - 0.0000001236 * c) * c;  // its square term is meant to be positive
-    const double tangent = TanDeg(ObliquityAt(c) / 2);
-    const double y = tangent * tangent;
-    const double sinAnomaly = SinDeg(anomaly);
-    const double equation =
-        (y * SinDeg(2 * longitude) - 2 * e * sinAnomaly + 4 * e * y * sinAnomaly * CosDeg(2 * longitude) -
-         y * y / 2 * SinDeg(4 * longitude) - 1.25 * e * e * SinDeg(2 * anomaly)) /
-        fullCircle;
-    return Sign(equation) * std::min(std::fabs(equation), 0.5);
-}
-
-// The rotation-adjusted year: the Sun's mean daily motion on January 1 of year 1, and what it gains each day.
-constexpr double motionGain = 0.000000000000555894094157348;
-constexpr double motionAtEpoch = 0.9856469813365;
-
 }  // namespace
 
 void SetDeltaTDisabled(bool disabled) {
@@ -94,38 +67,6 @@ double DeltaT(Moment x, double unit) {
 Moment UniversalToTerrestrial(Moment universal) { return universal + DeltaT(universal, secondsPerDay); }
 Moment TerrestrialToUniversal(Moment terrestrial) { return terrestrial - DeltaT(terrestrial, secondsPerDay); }
 
-Moment LocalToUniversal(Moment local) { return local - Locale.Longitude / 360; }
-
-Moment UniversalToLocal(Moment universal) {
-    return isNever(universal) ? universal : universal + Locale.Longitude / 360;
-}
-
-Moment UniversalToStandard(Moment universal) {
-    return isNever(universal) ? universal : universal + HoursToDays(Locale.Zone);
-}
-
-Moment StandardToUniversal(Moment standardTime) {
-    return isNever(standardTime) ? standardTime : standardTime - HoursToDays(Locale.Zone);
-}
-
-Moment LocalToStandard(Moment local) { return UniversalToStandard(LocalToUniversal(local)); }
-
-double MeanSolarAnomaly(Moment universal) { return MeanSolarAnomalyAt(JulianCenturies(universal)); }
-
-double EquationOfTime(Moment universal) {
-    static struct {
-        double centuries = std::numeric_limits<double>::quiet_NaN();
-        double days = 0;
-    } memo;
-    const double centuries = JulianCenturies(universal);
-    if (memo.centuries != centuries) memo = {centuries, EquationOfTimeAt(centuries)};
-    return memo.days;
-}
-
-Moment LocalToApparent(Moment local) { return local + EquationOfTime(LocalToUniversal(local)); }
-Moment ApparentToLocal(Moment apparent) { return apparent - EquationOfTime(LocalToUniversal(apparent)); }
-Moment ApparentToUniversal(Moment apparent) { return LocalToUniversal(ApparentToLocal(apparent)); }
-
 double JulianCenturies(Moment universal) { return (UniversalToTerrestrial(universal) - J2000) / daysPerCentury; }
 double JulianMillennia(Moment universal) { return (UniversalToTerrestrial(universal) - J2000) / (10 * daysPerCentury); }
 
@@ -133,43 +74,5 @@ double MomentToJD(Moment x) { return x - JDEpoch; }
 Moment JDToMoment(double julianDay) { return julianDay + JDEpoch; }
 double MomentToMJD(Moment x) { return x - MJDEpoch; }
 Moment MJDToMoment(double modifiedJulianDay) { return modifiedJulianDay + MJDEpoch; }
-
-double MomentToOrbitalDate(Moment universal) {
-    return (universal - GregorianEpoch + DeltaT(universal - 1, secondsPerDay)) / daysPerOrbitalYear + 1;
-}
-
-Moment OrbitalDateToMoment(double orbitalDate) {
-    return TerrestrialToUniversal((orbitalDate - 1) * daysPerOrbitalYear + GregorianEpoch);
-}
-
-double MomentToRAYDate(Moment universal) {
-    const double days = universal - GregorianEpoch;
-    return 1 + (motionGain * days + 1.971293962673) * days / 720;
-}
-
-Moment RAYDateToMoment(double rayDate) {
-    return (std::sqrt(0.00000000040024374779329054 * (rayDate - 1) + 0.9714999718177547) - motionAtEpoch) / motionGain +
-           GregorianEpoch;
-}
-
-double RAYYearLength(Moment universal) { return 360 / ((universal - GregorianEpoch) * motionGain + motionAtEpoch); }
-
-Moment StepByOrbitalYear(Moment universal, double years) { return RAYDateToMoment(MomentToRAYDate(universal) + years); }
-
-double MeanSiderealDegrees(Moment universal) {
-    const double c = (universal - J2000) / daysPerCentury;
-    return Modulo(280.46061837 + daysPerCentury * c * 360.98564736629 + 0.000387933 * c * c - c * c * c / 38710000,
-                  360);
-}
-
-double ApparentSiderealDegrees(Moment universal) {
-    const double centuries = JulianCenturies(universal);
-    return MeanSiderealDegrees(universal) + NutationAt(centuries) * CosDeg(ObliquityAt(centuries));
-}
-
-double SiderealDegrees(Moment universal) {
-    const double c = (universal - J2000) / daysPerCentury;
-    return Modulo(280.46061837 + 13185000.770053742 * c + 0.000387933 * c * c - c * c * c / 38710000, 360);
-}
 
 }  // namespace horvanta

@@ -1,17 +1,17 @@
 #pragma once
 
-#include "core/controls.h"
 #include "core/numerics.h"
 
 #include <array>
 #include <cstdint>
 #include <string>
 #include <string_view>
+#include <vector>
 
-/// What every calendar answers to whoever lays out its months, without either knowing the other.
+/// What every calendar answers to whoever lays out its months or takes its dates, without either knowing the other.
 namespace horvanta {
 
-/// The displayed date as a day in a month of a calendar. A calendar that can't give one leaves the month at 0.
+/// A day in a month of a calendar. A calendar that can't give one leaves the month at 0.
 struct GridDate {
     std::int32_t year = 0;
     std::int16_t month = 0;
@@ -20,10 +20,14 @@ struct GridDate {
     std::int16_t firstWeekday = 0;  ///< The column, 0 to 6, of the month's first day.
 };
 
-/// Weekday names by column.
-using DayNames = std::array<std::string, 7>;
+/// The names of a week's days by column, in full and short.
+struct NamesOfDays {
+    std::array<std::string, 7> full;
+    std::array<std::string, 7> brief;
+};
 
-constexpr bool HasNoYear0() { return false; }
+/// A list of names as texts.
+constexpr auto Texts = [](const auto& names) { return std::vector<std::string>(std::begin(names), std::end(names)); };
 
 /// A calendar as a row of operations.
 struct CalendarContract {
@@ -32,13 +36,13 @@ struct CalendarContract {
     /// The fixed day of a date.
     FixedDay (*ToFixed)(std::int32_t year, std::int32_t month, std::int32_t day);
 
-    /// The date of the displayed moment.
-    GridDate (*GetDate)();
+    /// The date of a moment's day.
+    GridDate (*DateOf)(Moment x);
 
-    /// Adds the names of the year's months to the list and selects the displayed one.
-    void (*SetMonthNames)(ChoiceList& list, std::int32_t year);
+    /// The names of a year's months, in their order.
+    std::vector<std::string> (*MonthNames)(std::int32_t year);
 
-    void (*SetDayNames)(DayNames& longNames, DayNames& shortNames);
+    NamesOfDays (*DayNames)();
 
     /// What the cell of a day of the month shows, where that is not its number.
     std::string (*CellText)(const GridDate& shown, std::int32_t day) = nullptr;
@@ -52,5 +56,8 @@ struct CalendarContract {
     /// The month behind which a leap month moves those that follow; 0 where no month moves.
     std::int16_t leapMonthAfter = 0;
 };
+
+/// For calendars that never have a year 0.
+constexpr bool HasNoYear0() { return false; }
 
 }  // namespace horvanta

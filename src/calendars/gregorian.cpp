@@ -2,7 +2,7 @@
 
 #include "calendars/calendar_text.h"
 #include "calendars/twelve_months.h"
-#include "core/moment.h"
+#include "core/memo.h"
 #include "core/text.h"
 
 #include <concepts>
@@ -122,7 +122,69 @@ std::string ISODateString(const ISODate& date) {
     return std::to_string(date.year) + "-W" + FormatNumber(date.week, "00") + "-" + std::to_string(date.weekday);
 }
 
-const GregorianDate& DisplayedGregorianDate() { return DisplayedDate<GregorianDate, FixedToGregorianDate>(); }
-const ISODate& DisplayedISODate() { return DisplayedDate<ISODate, FixedToISODate>(); }
+std::vector<std::string> EventsOf(const ISODate& date) {
+    std::vector<std::string> events;
+    if (date.ordinalDay == 1) events.push_back("Begin ISO Year " + std::to_string(date.year));
+    if (date.ordinalDay >= 365) events.emplace_back("ISO Standard Leap Week");
+    return events;
+}
+
+namespace {
+
+constexpr std::size_t daysOfWeek = 7;
+
+GridDate GregorianGridDate(Moment x) {
+    const GregorianDate& date = DateOn<FixedToGregorianDate>(x);
+    return {date.year, static_cast<std::int16_t>(date.month), date.day, GregorianMonthLength(date.year, date.month),
+            static_cast<std::int16_t>(DayOfWeek(date.fixed - date.day + 1))};
+}
+
+std::vector<std::string> GregorianMonths(std::int32_t) { return Texts(GregorianMonthNames); }
+
+/// The names of a week that begins on a weekday, 0 or 1.
+NamesOfDays WeekFrom(std::size_t first) {
+    NamesOfDays names;
+    for (std::size_t i = 0; i < daysOfWeek; ++i) {
+        names.full[i] = WeekdayNames[first + i];
+        names.brief[i] = ShortWeekdayNames[first + i];
+    }
+    return names;
+}
+
+NamesOfDays GregorianDays() { return WeekFrom(0); }
+NamesOfDays ISODays() { return WeekFrom(1); }
+
+FixedDay ISOBlockToFixed(std::int32_t year, std::int32_t block, std::int32_t day) {
+    const double week = 4.0 * block - 4 + Ceiling(day / 7.0);
+    return ISOToFixed(year, WholeNumber(week), WholeNumber(AdjustedModulo(day, 7)));
+}
+
+GridDate ISOGridDate(Moment x) {
+    const ISODate& date = DateOn<FixedToISODate>(x);
+    const auto block = static_cast<std::int16_t>(std::min(13, (date.week + 3) / 4));
+    const bool withLeapWeek = date.week > 48 && date.isLeap;
+    return {date.year, block, static_cast<std::int16_t>(date.ordinalDay - 28 * block + 28),
+            static_cast<std::int16_t>(withLeapWeek ? 35 : 28), 0};
+}
+
+std::vector<std::string> ISOBlocks(std::int32_t) {
+    std::vector<std::string> names;
+    for (int week = 1; week < 49; week += 4) {
+        names.push_back("Week " + std::to_string(week) + "-" + std::to_string(week + 3));
+    }
+    names.emplace_back("Week 49-End");
+    return names;
+}
+
+/// The week and its day, as "W13-4".
+std::string ISOCellText(const GridDate& shown, std::int32_t day) {
+    return "W" + std::to_string((day - 1) / 7 + 4 * shown.month - 3) + "-" + std::to_string((day - 1) % 7 + 1);
+}
+
+}  // namespace
+
+constinit const CalendarContract GregorianCalendar{"Gregorian", GregorianToFixed, GregorianGridDate, GregorianMonths,
+                                                   GregorianDays};
+constinit const CalendarContract ISOCalendar{"ISO", ISOBlockToFixed, ISOGridDate, ISOBlocks, ISODays, ISOCellText};
 
 }  // namespace horvanta

@@ -1,10 +1,12 @@
 #pragma once
 
+#include "calendars/calendar_contract.h"
 #include "core/numbering.h"
 
 #include <cstdint>
 #include <string>
 #include <string_view>
+#include <vector>
 
 /// The proleptic Gregorian calendar, through which the day numbers are defined, and the ISO week calendar. Both have
 /// a year 0 (1 BC) and negative years. The conversions follow Reingold and Dershowitz, Calendrical Calculations;
@@ -78,8 +80,11 @@ ISODate FixedToISODate(Moment x);
 /// The date as "2024-W03-1".
 std::string ISODateString(const ISODate& date);
 
-/// The dates of the displayed moment, converted once for each day and numbering.
-const GregorianDate& DisplayedGregorianDate();
-const ISODate& DisplayedISODate();
+/// What the day of a date is in its calendar.
+std::vector<std::string> EventsOf(const ISODate& date);
+
+/// The ISO year stands as 13 blocks of four weeks, the last of which takes the leap week.
+extern const CalendarContract GregorianCalendar;
+extern const CalendarContract ISOCalendar;
 
 }  // namespace horvanta

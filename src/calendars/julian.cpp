@@ -12,7 +12,7 @@ using twelve_months::Days;
 /// The year on a scale that has a year 0.
 constexpr Days YearFromZero(Days year, bool noYearZero) { return noYearZero && year < 0 ? year + 1 : year; }
 
-bool isRevised(bool allowRevised) { return julian::Revise && allowRevised; }
+bool isRevised(bool allowRevised) { return julian::options.Revise && allowRevised; }
 
 bool isLeap(Days yearFromZero, bool revised) {
     if (!revised || yearFromZero % 100 != 0) return yearFromZero % 4 == 0;

@@ -1,12 +1,14 @@
 #include "calendars/persian.h"
 
+#include "astro/local_time.h"
 #include "astro/sun.h"
 #include "astro/sun_events.h"
 #include "astro/timescales.h"
+#include "core/memo.h"
+#include "core/text.h"
 #include "locale/presets.h"
 
 #include <algorithm>
-#include <array>
 
 namespace horvanta {
 namespace {
@@ -20,10 +22,11 @@ constexpr std::int32_t farthestYear = 2'000'000'000;
 constexpr YearIndex IndexOf(YearIndex year) { return year > 0 ? year - 1 : year; }
 constexpr std::int32_t YearOf(YearIndex index) { return static_cast<std::int32_t>(index >= 0 ? index + 1 : index); }
 
-/// Degrees of the Sun past the equinox at apparent noon of the current place; less than 0 in the last sixth of the
+/// Degrees of the Sun past the equinox at apparent noon on Iran's meridian; less than 0 in the last sixth of the
 /// circle.
 double DegreesPastAtNoon(FixedDay day) {
-    const double longitude = SolarLongitude(StandardToUniversal(SolarMidday(day)));
+    const LocaleRecord& tehran = TehranMeridian();
+    const double longitude = SolarLongitude(StandardToUniversal(SolarMidday(day, tehran), tehran));
     return longitude > 300 ? longitude - 360 : longitude;
 }
 
@@ -34,7 +37,6 @@ FixedDay FindNorouz(YearIndex index) {
     constexpr double slowest = 0.94;  // degrees
     constexpr double fastest = 1.035;
     constexpr int patience = 50;
-    const LocaleScope tehran(TehranMeridian());
     FixedDay day = Floor(static_cast<double>(index) * meanYear + PersianEpoch);
     for (int tries = 0; tries < patience; ++tries) {
         const double past = DegreesPastAtNoon(day);
@@ -45,23 +47,18 @@ FixedDay FindNorouz(YearIndex index) {
     return NeverMoment;
 }
 
-/// A year's first day, under the numbering and the Delta T of the time.
-struct NewYear {
-    YearIndex index = 0;
-    std::int64_t numbering = -1;
-    std::int64_t deltaT = -1;
-    FixedDay day = 0;
+struct NewYearKey {
+    YearIndex index;
+    std::int64_t numbering;
+    std::int64_t deltaT;
+
+    bool operator==(const NewYearKey&) const = default;
 };
 
-/// Remembers the years that were asked for last, as many neighbours as there are slots.
+/// Remembers as many years as the searches and the windows ask for by turns.
 FixedDay NewYearOf(YearIndex index) {
-    constexpr YearIndex slots = 16;
-    static std::array<NewYear, slots> memo;
-    NewYear& slot = memo[static_cast<std::size_t>(index & (slots - 1))];
-    if (slot.index != index || slot.numbering != NumberingSerial || slot.deltaT != DeltaTSerial) {
-        slot = {index, NumberingSerial, DeltaTSerial, FindNorouz(index)};
-    }
-    return slot.day;
+    static Memo<16, NewYearKey, FixedDay> memo;
+    return memo.Of({index, NumberingSerial, DeltaTSerial}, [index] { return FindNorouz(index); });
 }
 
 /// A year's index, its first day and that of the next one.
@@ -133,9 +130,86 @@ std::string PersianDateString(const PersianDate& date) {
 }
 
 Moment PersianEquinoxOn(FixedDay day) {
-    const LocaleScope tehran(TehranMeridian());
-    const Moment equinox = UniversalToStandard(SolarLongitudeAfter(day - 10, 0));
+    const Moment equinox = UniversalToStandard(SolarLongitudeAfter(day - 10, 0), TehranMeridian());
     return Floor(equinox) == day ? equinox : NeverMoment;
 }
+
+namespace {
+
+struct YearlyEvent {
+    int month;
+    int day;
+    std::string_view text;
+};
+
+constexpr YearlyEvent yearlyEvents[] = {
+    {1, 1, "Norouz (new year)"},
+    {1, 13, "Sizdah Bedar (nature day)"},
+    {1, 19, "Farvardingân (memorial day)"},
+    {4, 13, "Tiregân (pray for rain)"},
+    {7, 10, "Mehregân (thanksgiving)"},
+    {9, 30, "Yalda (winter solstice, longest night)"},
+    {11, 10, "Sadeh (fire festival)"},
+    {11, 29, "Sepandar Mazgân (ladies' day)"},
+};
+
+std::string FirstOfMonthText(const PersianDate& date) {
+    if (date.day != 1 || date.month == 1) return "";
+    return "First day of " + std::string(PersianMonthNames[static_cast<std::size_t>(date.month - 1)]);
+}
+
+std::string_view YearlyText(const PersianDate& date) {
+    const auto* found = std::ranges::find_if(
+        yearlyEvents, [&](const YearlyEvent& event) { return event.month == date.month && event.day == date.day; });
+    return found == std::end(yearlyEvents) ? "" : found->text;
+}
+
+/// The day before the year's last Wednesday.
+std::string_view EveOfLastWednesdayText(const PersianDate& date) {
+    constexpr int tuesday = 3;    // of a week from Saturday
+    constexpr int wednesday = 3;  // of a week from Sunday
+    const bool isEve = date.month == 12 && date.weekday == tuesday &&
+                       CountKDaysInRange(wednesday, date.fixed, date.nextNewYear - 1) == 1;
+    return isEve ? "Eve of Charshanbe Suri" : "";
+}
+
+/// Only the first and the last day of a year can have the equinox.
+std::string EquinoxText(const PersianDate& date) {
+    if (date.fixed != date.newYear && date.fixed != date.nextNewYear - 1) return "";
+    const Moment equinox = PersianEquinoxOn(date.fixed);
+    if (isNever(equinox)) return "";
+    return "Tahvil-e sâl (spring equinox) at " + FormatTime(equinox, 2) + " Iran Standard Time";
+}
+
+}  // namespace
+
+std::vector<std::string> EventsOf(const PersianDate& date) {
+    std::vector<std::string> events{FirstOfMonthText(date), std::string(YearlyText(date)),
+                                    std::string(EveOfLastWednesdayText(date)), EquinoxText(date)};
+    std::erase(events, "");
+    return events;
+}
+
+namespace {
+
+GridDate PersianGridDate(Moment x) {
+    const PersianDate& date = DateOn<FixedToPersianDate>(x, DeltaTSerial);
+    return {date.year, date.month, date.day, date.monthLength,
+            static_cast<std::int16_t>(PersianWeekdayNum(date.fixed - date.day + 1))};
+}
+
+std::vector<std::string> PersianMonths(std::int32_t) { return Texts(PersianMonthNames); }
+
+NamesOfDays PersianDays() {
+    NamesOfDays names;
+    std::ranges::copy(PersianWeekdayNames, names.full.begin());
+    std::ranges::copy(ShortPersianWeekdayNames, names.brief.begin());
+    return names;
+}
+
+}  // namespace
+
+constinit const CalendarContract PersianCalendar{"Persian",   PersianToFixed, PersianGridDate, PersianMonths,
+                                                 PersianDays, nullptr,        HasNoYear0};
 
 }  // namespace horvanta

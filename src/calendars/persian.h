@@ -1,10 +1,12 @@
 #pragma once
 
+#include "calendars/calendar_contract.h"
 #include "core/numbering.h"
 
 #include <cstdint>
 #include <string>
 #include <string_view>
+#include <vector>
 
 /// The astronomical solar calendar of Iran, in use since 1925 and here in every year. Its year begins on the day at
 /// whose apparent noon, on the meridian of 52.5° E, the Sun has passed the northward equinox since the noon before.
@@ -63,5 +65,11 @@ std::string PersianDateString(const PersianDate& date);
 
 /// The moment of the northward equinox in Iran's standard time if it falls on `day` there; otherwise `NeverMoment`.
 Moment PersianEquinoxOn(FixedDay day);
+
+/// What the day of a date is in the calendar: feasts, first days of months, the equinox.
+std::vector<std::string> EventsOf(const PersianDate& date);
+
+/// Its weeks begin on Saturday.
+extern const CalendarContract PersianCalendar;
 
 }  // namespace horvanta

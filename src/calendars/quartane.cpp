@@ -3,12 +3,12 @@
 #include "astro/timescales.h"
 #include "calendars/calendar_text.h"
 #include "calendars/gregorian.h"
-#include "core/moment.h"
+#include "calendars/quartane_year_start.h"
+#include "core/memo.h"
+#include "core/text.h"
 
 #include <algorithm>
 #include <array>
-#include <optional>
-#include <tuple>
 
 namespace horvanta::quartane {
 namespace {
@@ -30,14 +30,14 @@ constexpr Structure structures[] = {
 };
 
 const Structure& StructureInForce() {
-    const auto* found = std::ranges::find(structures, QuarterStructure, &Structure::key);
+    const auto* found = std::ranges::find(structures, options.QuarterStructure, &Structure::key);
     return found == std::end(structures) ? structures[1] : *found;
 }
 
 /// The days of a month of a quarter without a leap week; 0 to 2.
 std::int16_t LengthInQuarter(const Structure& structure, std::int32_t month) {
     const auto place = static_cast<std::size_t>(month);
-    return static_cast<std::int16_t>(Qua454 ? 7 * structure.weeks[place] : structure.days[place]);
+    return static_cast<std::int16_t>(options.Qua454 ? 7 * structure.weeks[place] : structure.days[place]);
 }
 
 std::int32_t DaysOfQuarterBefore(const Structure& structure, std::int32_t month) {
@@ -67,13 +67,13 @@ void SetMonth(QuaDate& date) {
 
 }  // namespace
 
-bool QuaLeapUseZov() { return Qua454 ? UseZov454 : UseZov010; }
-bool HasZovember() { return QuaLeapUseZov() || QuarterStructure == "SSL"; }
-void ToggleUseZov(bool standsAlone) { (Qua454 ? UseZov454 : UseZov010) = standsAlone; }
+bool QuaLeapUseZov() { return options.Qua454 ? options.UseZov454 : options.UseZov010; }
+bool HasZovember() { return QuaLeapUseZov() || options.QuarterStructure == "SSL"; }
+void ToggleUseZov(bool standsAlone) { (options.Qua454 ? options.UseZov454 : options.UseZov010) = standsAlone; }
 
 void SetQuaQuarterStructure(std::string_view key) {
     const auto* found = std::ranges::find(structures, key, &Structure::key);
-    if (found != std::end(structures)) QuarterStructure = key;
+    if (found != std::end(structures)) options.QuarterStructure = key;
 }
 
 std::string_view NextQuarterStructure() {
@@ -87,7 +87,7 @@ std::string QuarterText(bool weeks) {
     return std::to_string(lengths[0]) + "+" + std::to_string(lengths[1]) + "+" + std::to_string(lengths[2]);
 }
 
-std::string CalendarName() { return Qua454 ? "Quartane454" : "Quartane010"; }
+std::string CalendarName() { return options.Qua454 ? "Quartane454" : "Quartane010"; }
 
 std::string_view MonthName(std::int32_t month) {
     return month == leapWeekMonth ? "Zovember" : GregorianMonthNames[month - 1];
@@ -120,8 +120,8 @@ QuaDate FixedToQuaDate(Moment x) {
     date.dayOfQuarter = static_cast<std::int16_t>(date.yearDay - quarterDays * (date.quarter - 1));
     date.weekOfQuarter = static_cast<std::int16_t>((date.dayOfQuarter + 6) / 7);
     SetMonth(date);
-    if (Qua454) date.weekOfMonth = static_cast<std::int16_t>((date.day + 6) / 7);
-    date.weekday = (StartWeekday + date.yearDay - 1) % 7;
+    if (options.Qua454) date.weekOfMonth = static_cast<std::int16_t>((date.day + 6) / 7);
+    date.weekday = (options.StartWeekday + date.yearDay - 1) % 7;
     date.weekdayName = WeekdayNames[date.weekday];
     return date;
 }
@@ -129,8 +129,8 @@ QuaDate FixedToQuaDate(Moment x) {
 std::int16_t DaysInMonth(std::int32_t year, std::int32_t month) {
     if (month == leapWeekMonth) return 7;
     const bool longMonth = FloorModulo(month, 3) == 2;
-    std::int32_t days = Qua454 ? 28 : 30;
-    if (longMonth) days += Qua454 ? 7 : 1;
+    std::int32_t days = options.Qua454 ? 28 : 30;
+    if (longMonth) days += options.Qua454 ? 7 : 1;
     if (month == 12 && !QuaLeapUseZov() && isQuaLeapYear(year)) days += 7;
     return static_cast<std::int16_t>(days);
 }
@@ -145,45 +145,49 @@ std::string FixedToQuaShortDate(Moment x) {
                        std::to_string(date.year));
 }
 
-const QuaDate& DisplayedQuaDate() {
-    using Key =
-        std::tuple<FixedDay, std::int64_t, std::int64_t, std::string, bool, std::int32_t, std::string, bool, bool>;
-    static std::optional<Key> memoKey;
-    static QuaDate memo;
-    Key key(Floor(DisplayedMoment), NumberingSerial, DeltaTSerial, LeapRuleKey, EvenCycleFlag, StartWeekday,
-            QuarterStructure, Qua454, QuaLeapUseZov());
-    if (memoKey != key) {
-        memo = FixedToQuaDate(DisplayedMoment);
-        memoKey = std::move(key);
-    }
-    return memo;
+std::vector<std::string> EventsOf(const QuaDate& date) {
+    std::vector<std::string> events;
+    if (date.weekOfYear == 53) events.emplace_back("Leap Week (Semaine de la Révolution)");
+    if (date.dayOfQuarter == 46) events.push_back(OrdinalString(date.quarter) + " Mid-Quarter Day");
+    return events;
 }
 
-FixedDay ToFixed(std::int32_t year, std::int32_t month, std::int32_t day) {
+const QuaDate& QuaDateOn(Moment x) { return DateOn<FixedToQuaDate>(x, DeltaTSerial, options); }
+
+namespace {
+
+FixedDay GridDateToFixed(std::int32_t year, std::int32_t month, std::int32_t day) {
     const FixedDay fixed = QuaToFixed(year, month, day);
     return fixed >= QuaNewYear(year + 1LL) ? fixed - 7 : fixed;
 }
 
-GridDate GetDate() {
-    const QuaDate& date = DisplayedQuaDate();
+GridDate GridDateOf(Moment x) {
+    const QuaDate& date = QuaDateOn(x);
     return {date.year, date.month, date.day, date.monthLength,
             static_cast<std::int16_t>(QuaDaysBeforeMonth(date.month) % 7)};
 }
 
-void SetMonthNames(ChoiceList& list, std::int32_t year) {
-    list.items.assign(std::begin(GregorianMonthNames), std::end(GregorianMonthNames));
-    if (HasZovember() && isQuaLeapYear(year)) list.items.emplace_back(MonthName(leapWeekMonth));
-    list.selected = std::min<int>(DisplayedQuaDate().month, static_cast<int>(list.items.size())) - 1;
+std::vector<std::string> MonthNames(std::int32_t year) {
+    std::vector<std::string> names = Texts(GregorianMonthNames);
+    if (HasZovember() && isQuaLeapYear(year)) names.emplace_back(MonthName(leapWeekMonth));
+    return names;
 }
 
-bool HasYear0() { return !LeapRuleKey.starts_with("RJISO"); }
-
-void SetDayNames(DayNames& longNames, DayNames& shortNames) {
-    for (std::size_t i = 0; i < 7; ++i) {
-        const std::size_t weekday = (i + static_cast<std::size_t>(StartWeekday)) % 7;
-        longNames[i] = WeekdayNames[weekday];
-        shortNames[i] = ShortWeekdayNames[weekday];
+NamesOfDays DayNames() {
+    NamesOfDays names;
+    for (std::size_t i = 0; i < names.full.size(); ++i) {
+        const std::size_t weekday = (i + static_cast<std::size_t>(options.StartWeekday)) % names.full.size();
+        names.full[i] = WeekdayNames[weekday];
+        names.brief[i] = ShortWeekdayNames[weekday];
     }
+    return names;
 }
+
+bool HasYear0() { return !options.LeapRuleKey.starts_with("RJISO"); }
+
+}  // namespace
+
+constinit const CalendarContract Calendar{"Quartane", GridDateToFixed, GridDateOf, MonthNames,
+                                          DayNames,   nullptr,         HasYear0,   CalendarName};
 
 }  // namespace horvanta::quartane

@@ -1,23 +1,17 @@
 #pragma once
 
 #include "calendars/calendar_contract.h"
-#include "calendars/quartane_leap_rules.h"
-#include "calendars/quartane_year_start.h"
+#include "calendars/quartane_options.h"
 #include "core/numbering.h"
 
 #include <cstdint>
 #include <string>
 #include <string_view>
+#include <vector>
 
 /// The Quartane calendar: perpetual, of whole weeks, with four quarters of one form. A common year has 364 days; a leap
 /// year ends in a week more. Years count with a year 0.
 namespace horvanta::quartane {
-
-// How the quarter is laid out.
-inline std::string QuarterStructure = "SLS";  ///< Where its long month stands: "LSS", "SLS" or "SSL".
-inline bool Qua454 = true;                    ///< Months are 4 or 5 weeks long, else 30 or 31 days.
-inline bool UseZov454 = false;                ///< The leap week stands alone behind December, with months of weeks
-inline bool UseZov010 = true;                 ///< and with months of days.
 
 /// The leap week stands alone in the layout chosen, if its quarters end in a short month.
 bool QuaLeapUseZov();
@@ -82,21 +76,14 @@ std::int16_t DaysInMonth(std::int32_t year, std::int32_t month);
 std::string QuaDateString(const QuaDate& date);
 std::string FixedToQuaShortDate(Moment x);
 
-/// The date of the displayed moment, converted once for each day, numbering, rule and layout.
-const QuaDate& DisplayedQuaDate();
+/// What the day of a date is in the calendar.
+std::vector<std::string> EventsOf(const QuaDate& date);
 
-// For month grids.
+/// The date of a moment, converted once for each day, numbering, rule and layout.
+const QuaDate& QuaDateOn(Moment x);
 
-/// The fixed day of a date; a date in the leap week of a year without one falls back by a week.
-FixedDay ToFixed(std::int32_t year, std::int32_t month, std::int32_t day);
-GridDate GetDate();
-void SetMonthNames(ChoiceList& list, std::int32_t year);
-void SetDayNames(DayNames& longNames, DayNames& shortNames);
-
-/// The grid steps over the year 0 of the rules by the Revised Julian calendar, which has none.
-bool HasYear0();
-
-inline constexpr CalendarContract Calendar{"Quartane",  ToFixed, GetDate,  SetMonthNames,
-                                           SetDayNames, nullptr, HasYear0, CalendarName};
+/// For month grids: a date in the leap week of a year without one falls back by a week, and the year 0 of the rules by
+/// the Revised Julian calendar, which has none, is stepped over.
+extern const CalendarContract Calendar;
 
 }  // namespace horvanta::quartane

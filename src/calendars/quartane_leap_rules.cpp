@@ -1,11 +1,11 @@
 #include "calendars/quartane_leap_rules.h"
 
 #include "calendars/gregorian.h"
+#include "core/memo.h"
 #include "core/numerics.h"
 #include "core/text.h"
 
 #include <algorithm>
-#include <charconv>
 #include <optional>
 
 namespace horvanta::quartane {
@@ -70,21 +70,21 @@ struct Cycle {
 constexpr Cycle gregorianCycle{71, 400};
 constexpr Cycle revisedJulianCycle{559, 3150};
 
+/// Whole positive numbers that may stand in a key.
 std::optional<std::int64_t> WholeNumberOf(std::string_view digits) {
-    std::int64_t number = 0;
-    const auto [end, error] = std::from_chars(digits.data(), digits.data() + digits.size(), number);
-    if (error != std::errc() || end != digits.data() + digits.size()) return {};
-    return number;
+    constexpr double most = 100'000;
+    const auto number = ParseNumber(digits);
+    if (!number || *number != Floor(*number) || *number < 1 || *number > most) return {};
+    return WholeNumber<std::int64_t>(*number);
 }
 
 /// The cycle that a key such as "52/293" writes.
 std::optional<Cycle> WrittenCycle(std::string_view key) {
-    constexpr std::int64_t longest = 100'000;
     const std::size_t slash = key.find('/');
     if (slash == std::string_view::npos) return {};
     const auto leapYears = WholeNumberOf(key.substr(0, slash));
     const auto years = WholeNumberOf(key.substr(slash + 1));
-    const bool sound = leapYears && years && *leapYears > 0 && *leapYears <= *years && *years <= longest;
+    const bool sound = leapYears && years && *leapYears <= *years;
     return sound ? std::optional(Cycle{*leapYears, *years}) : std::nullopt;
 }
 
@@ -124,7 +124,7 @@ LeapRule RuleOf(std::string_view key, bool commonYearFirst) {
 
 /// The text of the entries that tell of the ISO new year, by the weekday on which years begin.
 std::string ISOText(std::string_view key) {
-    const std::string name(WeekdayNames[StartWeekday]);
+    const std::string name(WeekdayNames[options.StartWeekday]);
     if (key == "ISO") return "Start on " + name + " closest to Gregorian new year 71/400";
     return "Start on " + name + " " + std::string(BesideISOWeekday()) + " ISO new year 71/400";
 }
@@ -135,27 +135,22 @@ std::string TextOf(const Choice& choice) {
     return std::string(choice.key) + " = " + text;
 }
 
-std::int32_t NumberOfChoices() { return static_cast<std::int32_t>(QuaSoupMix ? std::size(choices) : shortListLength); }
+std::int32_t NumberOfChoices() {
+    return static_cast<std::int32_t>(options.QuaSoupMix ? std::size(choices) : shortListLength);
+}
 
 }  // namespace
 
 const LeapRule& Rule() {
-    static struct {
-        std::string key;
-        bool commonYearFirst = false;
-        LeapRule rule;
-    } memo;
-    if (memo.key != LeapRuleKey || memo.commonYearFirst != EvenCycleFlag) {
-        memo = {LeapRuleKey, EvenCycleFlag, RuleOf(LeapRuleKey, EvenCycleFlag)};
-    }
-    return memo.rule;
+    static Memo<1, Options, LeapRule> memo;
+    return memo.Of(options, [] { return RuleOf(options.LeapRuleKey, options.EvenCycleFlag); });
 }
 
-bool isISORule() { return LeapRuleKey.find("ISO") != std::string::npos; }
+bool isISORule() { return options.LeapRuleKey.find("ISO") != std::string::npos; }
 
 std::string_view BesideISOWeekday() {
-    if (StartWeekday == 1) return "that starts";
-    return StartWeekday >= 2 && StartWeekday <= 4 ? "after" : "before";
+    if (options.StartWeekday == 1) return "that starts";
+    return options.StartWeekday >= 2 && options.StartWeekday <= 4 ? "after" : "before";
 }
 
 std::int32_t SetKoffset(std::int32_t weekday) {
@@ -165,7 +160,7 @@ std::int32_t SetKoffset(std::int32_t weekday) {
     return static_cast<std::int32_t>(FloorDivide(days * rule.CycleLength, 7) + rule.LeapNumerator);
 }
 
-void SetEvenCycleMode(bool middleLeapFirst) { EvenCycleFlag = !middleLeapFirst; }
+void SetEvenCycleMode(bool middleLeapFirst) { options.EvenCycleFlag = !middleLeapFirst; }
 
 std::int32_t CheckIfQuaCycle() {
     const LeapRule& rule = Rule();
@@ -198,8 +193,8 @@ void SetQuaLeapChoice(std::string_view key) { ChooseLeapRule(std::max(FindQuaLea
 
 void ChooseLeapRule(std::int32_t index) {
     if (index < 0 || index >= NumberOfChoices() || choices[index].key.empty()) return;
-    LeapRuleIndex = index;
-    LeapRuleKey = choices[index].key;
+    options.LeapRuleIndex = index;
+    options.LeapRuleKey = choices[index].key;
 }
 
 }  // namespace horvanta::quartane

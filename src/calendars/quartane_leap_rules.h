@@ -1,5 +1,7 @@
 #pragma once
 
+#include "calendars/quartane_options.h"
+
 #include <cstdint>
 #include <string>
 #include <string_view>
@@ -8,12 +10,6 @@
 /// The rules by which the Quartane calendar gives a year its leap week. A rule is either arithmetic, so many leap years
 /// spread over a cycle of so many years, or ties each new year to a moment of another calendar or of the Sun.
 namespace horvanta::quartane {
-
-inline std::string LeapRuleKey = "52/293";  ///< The rule in force, by the first word of its entry in the list.
-inline std::int32_t LeapRuleIndex = 0;      ///< Its entry in the list, from 0.
-inline std::int32_t StartWeekday = 1;       ///< On which every year and quarter begins, 0 = Sunday.
-inline bool QuaSoupMix = false;             ///< The list offers all rules, and the rest of the calendar may be changed.
-inline bool EvenCycleFlag = false;          ///< The middle of an even cycle is a common and a leap year, in this order.
 
 /// What follows from the key of a rule. The numbers of the cycle are 0 for a rule that has none.
 struct LeapRule {

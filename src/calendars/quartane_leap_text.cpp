@@ -1,9 +1,8 @@
 #include "calendars/quartane_leap_text.h"
 
-#include "astro/timescales.h"
+#include "astro/year_dates.h"
 #include "calendars/gregorian.h"
 #include "calendars/quartane_leap_rules.h"
-#include "core/desktop.h"
 #include "core/text.h"
 
 #include <algorithm>
@@ -14,7 +13,7 @@
 namespace horvanta::quartane {
 namespace {
 
-std::string StartWeekdayName() { return std::string(WeekdayNames[StartWeekday]); }
+std::string StartWeekdayName() { return std::string(WeekdayNames[options.StartWeekday]); }
 
 /// What is said of a rule that ties the new year to the Sun.
 struct SolarRule {
@@ -67,14 +66,14 @@ constexpr SolarRule solarRules[] = {
 };
 
 const SolarRule* FindSolarRule() {
-    const auto* found = std::ranges::find(solarRules, LeapRuleKey, &SolarRule::key);
+    const auto* found = std::ranges::find(solarRules, options.LeapRuleKey, &SolarRule::key);
     return found == std::end(solarRules) ? nullptr : found;
 }
 
 std::string ISOMethod() {
-    const bool revised = LeapRuleKey.starts_with("RJISO");
+    const bool revised = options.LeapRuleKey.starts_with("RJISO");
     const std::string start = "Each year starts on the " + StartWeekdayName() + " ";
-    if (LeapRuleKey.ends_with("alt")) {
+    if (options.LeapRuleKey.ends_with("alt")) {
         return start + std::string(BesideISOWeekday()) + " the " + (revised ? "RJISO" : "ISO") + " new year.";
     }
     return start + "closest to the " + (revised ? "Revised Julian" : "Gregorian") + " new year.";
@@ -121,7 +120,7 @@ constexpr std::string_view followsNextNewYear =
     "\n\nThe year has no fixed length, and has a leap week only if the next year starts >364 days later.";
 
 std::string ISOExplanation(const LeapRule& rule) {
-    const bool revised = LeapRuleKey.starts_with("RJISO");
+    const bool revised = options.LeapRuleKey.starts_with("RJISO");
     return ISOMethod() + std::string(followsNextNewYear) + "\n\nThere are " + std::to_string(rule.LeapNumerator) +
            " leap years in " + std::to_string(rule.CycleLength) + " years.\nThe mean year is " +
            GeneralText(rule.MeanYear) + " days (identical to the " + (revised ? "Revised Julian" : "Gregorian") +
@@ -137,8 +136,8 @@ double OrbitalYearLength(Moment x) {
 /// The days of the mean year, for rules that have one.
 std::optional<double> MeanYearAt(Moment x) {
     if (Rule().CycleLength != 0) return Rule().MeanYear;
-    if (LeapRuleKey == "RAY") return RAYYearLength(x);
-    if (LeapRuleKey == "MOY") return OrbitalYearLength(x);
+    if (options.LeapRuleKey == "RAY") return RAYYearLength(x);
+    if (options.LeapRuleKey == "MOY") return OrbitalYearLength(x);
     return {};
 }
 
@@ -209,8 +208,8 @@ std::string LeapRuleExplanation() {
 std::string MeanYearText(Moment x) {
     if (Rule().CycleLength != 0) return MeanYearSum(Rule()) + " days";
     if (const auto days = MeanYearAt(x)) return FormatNumber(*days, "0.000000") + " days";
-    if (LeapRuleKey.find("NE80") != std::string::npos) return "Northward Equinox Year";
-    if (LeapRuleKey.find("NS174") != std::string::npos) return "North Solstice Year";
+    if (options.LeapRuleKey.find("NE80") != std::string::npos) return "Northward Equinox Year";
+    if (options.LeapRuleKey.find("NS174") != std::string::npos) return "North Solstice Year";
     return "(varies)";
 }
 
@@ -223,7 +222,7 @@ std::string MeanYearFraction(Moment x) {
 std::string MeanYearSummary(Moment x) {
     const auto days = MeanYearAt(x);
     if (!days) return "mean year: " + MeanYearText(x);
-    const std::string source = Rule().CycleLength == 0 ? "" : " (" + LeapRuleKey + " leap cycle)";
+    const std::string source = Rule().CycleLength == 0 ? "" : " (" + options.LeapRuleKey + " leap cycle)";
     return "mean year = " + MeanYearText(x) + " = " + DurationString(*days) + source;
 }
 
@@ -252,10 +251,7 @@ std::string QuaGroupIntervals(std::string_view intervals) {
     while (letters.size() >= 3) {
         const Group& group = GroupOf(letters);
         if (letters.size() < 2 * group.left.size()) break;
-        if (!letters.starts_with(group.left) || !letters.ends_with(group.right)) {
-            CurrentDesktop->Beep();
-            return std::string(intervals);
-        }
+        if (!letters.starts_with(group.left) || !letters.ends_with(group.right)) return std::string(intervals);
         left.emplace_back(group.text);
         right.insert(right.begin(), std::string(group.text));
         letters.remove_prefix(group.left.size());

@@ -28,7 +28,7 @@ std::string MeanYearSummary(Moment x);
 std::string QuaLeapIntervals();
 
 /// Those intervals in larger groups, "45+79+45", mirrored around the middle: 45 stands for 17 + 11 + 17, 79 for twice
-/// 17 around 11, and a pair that stands alone is "(28)". Intervals that don't mirror beep, and come back as they were.
+/// 17 around 11, and a pair that stands alone is "(28)". Intervals that don't mirror come back as they were.
 std::string QuaGroupIntervals(std::string_view intervals);
 
 /// Groups that follow one another and are the same, as one behind their number: "(28)+(28)+79" is "2*(28) + 79".

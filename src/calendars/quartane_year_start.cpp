@@ -1,7 +1,7 @@
 #include "calendars/quartane_year_start.h"
 
 #include "astro/sun.h"
-#include "astro/timescales.h"
+#include "astro/year_dates.h"
 #include "calendars/gregorian.h"
 #include "calendars/julian.h"
 #include "calendars/quartane_leap_rules.h"
@@ -119,15 +119,15 @@ QuaYear YearByMoments(FixedDay fixed) {
 
 }  // namespace
 
-FixedDay QuaEpoch() { return static_cast<double>((StartWeekday + 2) % 7) + GregorianEpoch - 3; }
+FixedDay QuaEpoch() { return static_cast<double>((options.StartWeekday + 2) % 7) + GregorianEpoch - 3; }
 
 Moment QuaNewYear(std::int64_t year, bool wantMoment) {
     const LeapRule& rule = Rule();
     if (rule.IsCycleRule) {
         return wantMoment ? MeanNewYear(rule, year) : QuaEpoch() + static_cast<double>(DaysBeforeYear(rule, year));
     }
-    const Moment moment = StartOf(LeapRuleKey).moment(year);
-    return wantMoment ? moment : KDayOnOrBefore(StartWeekday, Floor(moment) + 3);
+    const Moment moment = StartOf(options.LeapRuleKey).moment(year);
+    return wantMoment ? moment : KDayOnOrBefore(options.StartWeekday, Floor(moment) + 3);
 }
 
 Moment LinApprox(std::int64_t year, double startYear, double endYear, double startFraction, double endFraction,

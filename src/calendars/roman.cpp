@@ -159,17 +159,17 @@ std::int32_t RomanToDecimal(std::string_view text) {
 }
 
 std::int32_t JulianToAUC(std::int32_t year) {
-    const bool betweenEras = julian::YRF <= year && year <= -1;
-    return static_cast<std::int32_t>(Years{year} - julian::YRF + (betweenEras ? 1 : 0));
+    const bool betweenEras = julian::options.YRF <= year && year <= -1;
+    return static_cast<std::int32_t>(Years{year} - julian::options.YRF + (betweenEras ? 1 : 0));
 }
 
 std::int32_t AUCToJulian(std::int32_t year) {
-    const bool betweenEras = 1 <= year && year <= -julian::YRF;
-    return static_cast<std::int32_t>(Years{year} + julian::YRF - (betweenEras ? 1 : 0));
+    const bool betweenEras = 1 <= year && year <= -julian::options.YRF;
+    return static_cast<std::int32_t>(Years{year} + julian::options.YRF - (betweenEras ? 1 : 0));
 }
 
 std::string JulianYearString(std::int32_t year, bool asRoman) {
-    if (!julian::UseAUC) return DigitsOrRoman(year, asRoman) + (year < 0 ? " BC" : " AD");
+    if (!julian::options.UseAUC) return DigitsOrRoman(year, asRoman) + (year < 0 ? " BC" : " AD");
     const std::int32_t sinceRome = JulianToAUC(year);
     return DigitsOrRoman(sinceRome, asRoman) + (sinceRome < 0 ? " PUC" : " AUC");
 }
@@ -186,7 +186,7 @@ std::string FixedToJulianMonthDay(Moment x) {
 }
 
 std::int32_t OlympiadStart(std::int32_t year) {
-    return year >= modernStart ? static_cast<std::int32_t>(modernStart) : julian::OSY;
+    return year >= modernStart ? static_cast<std::int32_t>(modernStart) : julian::options.OSY;
 }
 
 /// Years of an Olympiad are counted on a scale without a year 0, on which the half year before July of year 1 falls to
@@ -200,17 +200,72 @@ Olympiad JulianToOlympiad(std::int32_t year, std::int32_t month) {
 }
 
 std::int32_t OlympiadToJulian(std::int32_t cycle, std::int32_t year) {
-    const Years begun = 4 * Years{cycle} + julian::OSY + year - 5 - (julian::OSY == modernStart ? 1 : 0);
+    const Years begun =
+        4 * Years{cycle} + julian::options.OSY + year - 5 - (julian::options.OSY == modernStart ? 1 : 0);
     return static_cast<std::int32_t>(begun >= 0 ? begun + 1 : begun);
 }
 
 bool hasOlympiads(std::int32_t year) { return year <= 394 || year >= modernStart; }
 
 std::string YearToOlympiadString(double year) {
-    const bool held = year >= julian::OSY && (year < 394 || year >= static_cast<double>(modernStart));
+    const bool held = year >= julian::options.OSY && (year < 394 || year >= static_cast<double>(modernStart));
     if (!held) return "";
     const Olympiad olympiad = JulianToOlympiad(WholeNumber(year), 8);
     return "c" + std::to_string(olympiad.cycle) + " y" + std::to_string(olympiad.year);
 }
+
+std::vector<std::string> EventsOf(const RomanDate& date) {
+    constexpr const char* names[] = {"", "Kalends", "Nones", "Ides"};
+    return date.count == 1 ? std::vector<std::string>{names[date.event]} : std::vector<std::string>();
+}
+
+std::string JulianCalendarName() { return julian::options.Revise ? "Revised Julian" : "Julian"; }
+
+namespace {
+
+constexpr std::ptrdiff_t monthsOfYear = 12;
+
+FixedDay WrittenToFixed(std::int32_t year, std::int32_t month, std::int32_t day, bool allowRevised) {
+    return JulianToFixed(julian::options.UseAUC ? AUCToJulian(year) : year, month, day, allowRevised);
+}
+
+FixedDay JulianDateToFixed(std::int32_t year, std::int32_t month, std::int32_t day) {
+    return WrittenToFixed(year, month, day, true);
+}
+
+FixedDay LatinDateToFixed(std::int32_t year, std::int32_t month, std::int32_t day) {
+    return WrittenToFixed(year, month, day, false);
+}
+
+GridDate WrittenDate(Moment x, bool allowRevised) {
+    const JulianDate date = FixedToJulianDate(x, allowRevised);
+    const std::int32_t year = julian::options.UseAUC ? JulianToAUC(date.year) : date.year;
+    return {year, date.month, date.day, JulianMonthLength(year, date.month, allowRevised),
+            static_cast<std::int16_t>(DayOfWeek(date.fixed - date.day + 1))};
+}
+
+GridDate JulianGridDate(Moment x) { return WrittenDate(x, true); }
+GridDate LatinGridDate(Moment x) { return WrittenDate(x, false); }
+
+std::vector<std::string> JulianMonths(std::int32_t) { return Texts(GregorianMonthNames); }
+std::vector<std::string> LatinMonths(std::int32_t) {
+    return {std::begin(RomanMonthNames), std::begin(RomanMonthNames) + monthsOfYear};
+}
+
+NamesOfDays JulianDays() { return GregorianCalendar.DayNames(); }
+
+NamesOfDays LatinDays() {
+    NamesOfDays names;
+    std::ranges::copy(RomanWeekdayNames, names.full.begin());
+    std::ranges::transform(names.full, names.brief.begin(), [](const std::string& name) { return name.substr(0, 3); });
+    return names;
+}
+
+}  // namespace
+
+constinit const CalendarContract JulianCalendar{"Julian",   JulianDateToFixed, JulianGridDate, JulianMonths,
+                                                JulianDays, nullptr,           HasNoYear0,     JulianCalendarName};
+constinit const CalendarContract RomanCalendar{"Roman",   LatinDateToFixed, LatinGridDate, LatinMonths,
+                                               LatinDays, nullptr,          HasNoYear0};
 
 }  // namespace horvanta

@@ -1,31 +1,16 @@
 #pragma once
 
+#include "calendars/calendar_contract.h"
 #include "calendars/julian.h"
 
 #include <cstdint>
 #include <string>
 #include <string_view>
+#include <vector>
 
 /// How Romans and Greeks counted the days and years of the Julian calendar: towards the Kalends, Nones and Ides, from
 /// the founding of Rome, in Olympiads; their numerals; and how a Julian date is written.
 namespace horvanta {
-
-/// The years BC, negative, that a start of a count may be set to.
-struct YearChoice {
-    std::int32_t earliest;
-    std::int32_t latest;
-    std::int32_t usual;
-};
-inline constexpr YearChoice RomeFoundedChoice{-758, -728, -753};
-inline constexpr YearChoice OlympiadStartChoice{-884, -720, -776};
-
-namespace julian {
-
-inline bool UseAUC = false;                           ///< Years are written from the founding of Rome.
-inline std::int32_t YRF = RomeFoundedChoice.usual;    ///< The Julian year in which Rome was founded.
-inline std::int32_t OSY = OlympiadStartChoice.usual;  ///< The Julian year in which the ancient Olympiads began.
-
-}  // namespace julian
 
 /// The last one names the leap month of the calendar before Caesar's.
 inline constexpr std::string_view RomanMonthNames[] = {"Ianuarius", "Februarius", "Martius",   "Aprilis",   "Maius",
@@ -77,7 +62,7 @@ std::int32_t RomanToDecimal(std::string_view text);
 std::int32_t JulianToAUC(std::int32_t year);
 std::int32_t AUCToJulian(std::int32_t year);
 
-/// A Julian year by the count of `julian::UseAUC`, as "2024 AD", "MMXXIV AD", "44 BC", "2777 AUC" or "1 PUC".
+/// A Julian year by the count of the option `UseAUC`, as "2024 AD", "MMXXIV AD", "44 BC", "2777 AUC" or "1 PUC".
 std::string JulianYearString(std::int32_t year, bool asRoman);
 
 /// The Julian or Revised Julian date of a moment as "Mon, Jan 1, 2024 AD", and as "1 Jan".
@@ -95,7 +80,7 @@ std::int32_t OlympiadStart(std::int32_t year);
 /// The Olympiad of a month of a Julian year; its cycle is below 1 before the start.
 Olympiad JulianToOlympiad(std::int32_t year, std::int32_t month);
 
-/// The Julian year on whose July 1 a year of an Olympiad that counts from `julian::OSY` begins.
+/// The Julian year on whose July 1 a year of an Olympiad that counts from the option `OSY` begins.
 std::int32_t OlympiadToJulian(std::int32_t cycle, std::int32_t year);
 
 /// True while the games were held: until 394, and again since 1896.
@@ -103,5 +88,17 @@ bool hasOlympiads(std::int32_t year);
 
 /// The Olympiad of August of a Julian year as "c700 y3"; empty where there are none, and for 394.
 std::string YearToOlympiadString(double year);
+
+/// The Kalends, Nones and Ides on their day.
+std::vector<std::string> EventsOf(const RomanDate& date);
+
+/// "Julian", or "Revised Julian" under that rule.
+std::string JulianCalendarName();
+
+// The Julian months, and the same with Latin names, never by the revised rule. Years are those of the Christian era or
+// since Rome, as they are written. With years since Rome the length of February follows the divisibility of that
+// number.
+extern const CalendarContract JulianCalendar;
+extern const CalendarContract RomanCalendar;
 
 }  // namespace horvanta

@@ -40,6 +40,7 @@ struct ColorPair {
 
     /// The one of the two that `isBackground` names.
     Color& Part(bool isBackground) { return isBackground ? background : foreground; }
+    const Color& Part(bool isBackground) const { return isBackground ? background : foreground; }
 
     bool operator==(const ColorPair&) const = default;
 };
@@ -231,7 +232,7 @@ class Grid final : public Control {
 std::string AccessibleName(const Control& control);
 
 /// Where a window stands in the frame and how large it is, in twips, 15 to a pixel.
-struct Place {
+struct Position {
     double left = 0;
     double top = 0;
     double width = 0;
@@ -253,8 +254,8 @@ class Form {
     const std::string name;
     std::string text;  ///< The caption.
     bool visible = false;
-    bool placed = false;             ///< The user chose where it stands; the desktop may fit others into its frame.
-    Place place;                     ///< The desktop reports the size, and where the user moved the window.
+    bool positioned = false;         ///< The user chose where it stands; the desktop may fit others into its frame.
+    Position position;               ///< The desktop reports the size, and where the user moved the window.
     std::vector<Control*> controls;  ///< In the order of their construction.
     Control* focusWish = nullptr;    ///< Gets the focus, and its form is raised, when the desktop draws next.
 

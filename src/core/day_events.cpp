@@ -1,7 +1,5 @@
 #include "core/day_events.h"
 
-#include "core/moment.h"
-
 namespace horvanta::day_events {
 namespace {
 
@@ -13,13 +11,13 @@ const std::vector<Event>& List() { return events; }
 
 void Clear() { events.clear(); }
 
-void Add(std::string_view calendar, std::string_view date, std::string& holidays, std::string_view text,
-         const Control& control) {
-    if (text.empty()) return;
-    if (!holidays.empty()) holidays += ", ";
-    holidays += text;
-    if (BusyCount > 0) return;
+void Add(std::string_view calendar, std::string_view date, std::string_view text, const Control& control) {
     events.push_back({std::string(calendar), std::string(date), std::string(text), control.colors});
+}
+
+void AddAll(std::string_view calendar, std::string_view date, const std::vector<std::string>& texts,
+            const Control& control) {
+    for (const std::string& text : texts) Add(calendar, date, text, control);
 }
 
 }  // namespace horvanta::day_events

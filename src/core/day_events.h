@@ -21,10 +21,11 @@ const std::vector<Event>& List();
 
 void Clear();
 
-/// Appends the event to the running text `holidays`, joined by ", ", and to the list, in the colours of the control
-/// that shows its date. An event without a text is none. While updates are held only the running text grows: it then
-/// serves a report.
-void Add(std::string_view calendar, std::string_view date, std::string& holidays, std::string_view text,
-         const Control& control);
+/// Appends an event to the list, in the colours of the control that shows its date.
+void Add(std::string_view calendar, std::string_view date, std::string_view text, const Control& control);
+
+/// Appends what the day of a date is, one event a text.
+void AddAll(std::string_view calendar, std::string_view date, const std::vector<std::string>& texts,
+            const Control& control);
 
 }  // namespace horvanta::day_events

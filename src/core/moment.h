@@ -4,7 +4,6 @@
 
 #include <cstdint>
 #include <functional>
-#include <optional>
 
 /// The one moment that every window shows, and the update cycle that shows it.
 namespace horvanta {
@@ -12,12 +11,22 @@ namespace horvanta {
 inline Moment DisplayedMoment = 0;    ///< Universal Time. 0 at start means that none was ever set.
 inline Moment SavedMoment = 0;        ///< Universal Time; what Save This Moment keeps.
 inline double Increment = 1;          ///< Days to a step of the step keys.
-inline std::int32_t StepIndex = 1;    ///< Which item of the step menu is chosen, from 1.
-inline bool StepsBySolarYear = true;  ///< Steps of years keep the solar longitude, else the rotation-adjusted date.
-inline bool AlwaysToday = true;       ///< Each start shows the present day.
 inline std::int16_t BusyCount = 0;    ///< While above 0, `UpdateStatus` only clamps.
 inline std::int16_t UpdateDepth = 0;  ///< How many runs of `UpdateStatus` are pending.
 inline bool Quitting = false;         ///< The windows are being closed for good.
+
+namespace stepping {
+
+struct Options {
+    std::int32_t StepIndex = 1;    ///< Which item of the step menu is chosen, from 1.
+    bool StepsBySolarYear = true;  ///< Steps of years keep the solar longitude, else the rotation-adjusted date.
+    bool AlwaysToday = true;       ///< Each start shows the present day.
+
+    bool operator==(const Options&) const = default;
+};
+inline Options options;
+
+}  // namespace stepping
 
 /// Recomputes every open window from `DisplayedMoment`; one pass of `UpdateStatus`. The program hangs it here.
 inline std::function<void()> UpdatePass;
@@ -40,21 +49,6 @@ class BusyHold {
 
 /// `SetFixedDayEpoch` such that the displayed and the saved moment keep their dates and times of day; then an update.
 void ChangeFixedDayEpoch(Moment day, double value, const std::string& name);
-
-/// The date of the displayed moment in a calendar, kept for as long as its day and the numbering stay.
-template <class Date, Date (*Convert)(Moment)>
-const Date& DisplayedDate() {
-    static struct {
-        std::optional<FixedDay> fixed;
-        std::int64_t numbering = 0;
-        Date date;
-    } memo;
-    const FixedDay fixed = Floor(DisplayedMoment);
-    if (memo.fixed != fixed || memo.numbering != NumberingSerial) {
-        memo = {fixed, NumberingSerial, Convert(fixed)};
-    }
-    return memo.date;
-}
 
 /// The computer's local date, and the same with its time of day.
 FixedDay Today();

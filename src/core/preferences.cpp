@@ -1,66 +1,71 @@
 #include "core/preferences.h"
 
 #include "core/desktop.h"
+#include "core/numerics.h"
 #include "core/text.h"
 
-#include <limits>
+#include <iterator>
 
 namespace horvanta {
+namespace {
 
-std::string GetTextPref(std::string_view application, std::string_view section, std::string_view key,
-                        std::string_view otherwise) {
-    return CurrentDesktop->Settings().Read(application, section, key).value_or(std::string(otherwise));
+void Load(const Setting& setting) {
+    if (!setting.take) return;
+    const auto text = CurrentDesktop->Settings().Read(setting.application, setting.section, setting.key);
+    if (!text || !setting.take(*text)) setting.take(setting.standard);
 }
 
-bool GetBoolPref(std::string_view application, std::string_view section, std::string_view key, bool otherwise) {
-    const std::string text = GetTextPref(application, section, key, "");
+void Save(const Setting& setting) {
+    SettingsStore& store = CurrentDesktop->Settings();
+    const auto text = setting.give
+                          ? setting.give()
+                          : store.Read(setting.application, setting.section, setting.key).value_or(setting.standard);
+    if (text) store.Write(setting.application, setting.section, setting.key, *text);
+}
+
+}  // namespace
+
+void Append(Settings& all, Settings rows) {
+    all.insert(all.end(), std::make_move_iterator(rows.begin()), std::make_move_iterator(rows.end()));
+}
+
+void Load(const Settings& settings) {
+    for (const Setting& setting : settings) Load(setting);
+}
+
+void Save(const Settings& settings) {
+    for (const Setting& setting : settings) Save(setting);
+}
+
+std::string TruthText(bool value) { return value ? "True" : "False"; }
+
+std::optional<bool> TruthOf(const std::string& text) {
     if (text == "True") return true;
-    return text == "False" ? false : otherwise;
+    return text == "False" ? std::optional(false) : std::nullopt;
 }
 
-std::int32_t GetLongPref(std::string_view application, std::string_view section, std::string_view key,
-                         std::int32_t otherwise) {
-    const auto value = ParseNumber(GetTextPref(application, section, key, ""));
-    using Limits = std::numeric_limits<std::int32_t>;
-    const bool fits = value && *value >= Limits::min() && *value <= Limits::max();
-    return fits ? static_cast<std::int32_t>(Round(*value)) : otherwise;
+std::optional<std::int32_t> WholeOf(const std::string& text, std::int32_t least, std::int32_t greatest) {
+    const auto number = ParseNumber(text);
+    if (!number) return std::nullopt;
+    const double whole = Round(*number);
+    return whole >= least && whole <= greatest ? std::optional(WholeNumber(whole)) : std::nullopt;
 }
 
-double GetDoublePref(std::string_view application, std::string_view section, std::string_view key, double otherwise) {
-    return ParseLeadingNumber(GetTextPref(application, section, key, "")).value_or(otherwise);
+std::optional<double> NumberOf(const std::string& text, double least, double greatest) {
+    const auto number = ParseLeadingNumber(text);
+    return number && *number >= least && *number <= greatest ? number : std::nullopt;
 }
 
-void SavePref(std::string_view section, std::string_view key, std::string_view text) {
-    CurrentDesktop->Settings().Write(ProgramSettings, section, key, text);
+Setting WrittenRow(std::string_view section, std::string_view key, std::string_view text) {
+    return {std::string(section), std::string(key), std::string(text), {}, [text = std::string(text)] { return text; }};
 }
 
-void SaveBoolPref(std::string_view section, std::string_view key, bool value) {
-    SavePref(section, key, value ? "True" : "False");
-}
-
-void SaveLongPref(std::string_view section, std::string_view key, std::int32_t value) {
-    SavePref(section, key, std::to_string(value));
-}
-
-void SaveDoublePref(std::string_view section, std::string_view key, double value) {
-    SavePref(section, key, ExactText(value));
-}
-
-void SaveWindowPrefs(const Form& window, bool checked) {
-    SaveDoublePref(window.name, "Top", window.place.top);
-    SaveDoublePref(window.name, "Left", window.place.left);
-    SaveBoolPref(window.name, "Chk", checked);
-}
-
-void LoadWindowPrefs(Form& window, bool& check, double top, double left, bool checked) {
-    window.place.top = GetDoublePref(ProgramSettings, window.name, "Top", top);
-    window.place.left = GetDoublePref(ProgramSettings, window.name, "Left", left);
-    window.placed = window.place.top != top || window.place.left != left;
-    check = GetBoolPref(ProgramSettings, window.name, "Chk", checked);
+Setting KeptRow(std::string_view section, std::string_view key, std::string_view standard) {
+    return {std::string(section), std::string(key), std::string(standard), {}, {}};
 }
 
 void DeleteAllPrefs() {
-    SavePref("X", "X", "X");
+    CurrentDesktop->Settings().Write(ProgramSettings, "X", "X", "X");
     CurrentDesktop->Settings().DeleteApplication(ProgramSettings);
 }
 

@@ -3,9 +3,11 @@
 #include "core/controls.h"
 
 #include <cstdint>
+#include <functional>
 #include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 /// The per-user settings: application, section, key and a text. Every value is text; what can't be read is its default.
 namespace horvanta {
@@ -26,34 +28,89 @@ class SettingsStore {
     virtual void Flush() = 0;
 };
 
-/// The application that holds the program's options.
+/// The application that holds the program's options, and the one that holds what a reset of those leaves alone.
 inline constexpr std::string_view ProgramSettings = "Horvanta";
+inline constexpr std::string_view UserSettings = "Horvanta-UDLs";
 
-// Readers. A value that is absent, does not read as the type or does not fit it is the default.
-std::string GetTextPref(std::string_view application, std::string_view section, std::string_view key,
-                        std::string_view otherwise);
-bool GetBoolPref(std::string_view application, std::string_view section, std::string_view key, bool otherwise);
-std::int32_t GetLongPref(std::string_view application, std::string_view section, std::string_view key,
-                         std::int32_t otherwise);
+/// A key of the settings, and how its text becomes the value and comes of it.
+struct Setting {
+    std::string section;
+    std::string key;
+    std::string standard;  ///< The text it has where it is absent or can't be taken.
 
-/// Reads the number that the text begins with, with a point as decimal mark whatever the machine's locale.
-double GetDoublePref(std::string_view application, std::string_view section, std::string_view key, double otherwise);
+    /// Takes the value from its text; false if it can't be. A setting without it is only written.
+    std::function<bool(const std::string& text)> take;
 
-// Writers, into the program's options.
-void SavePref(std::string_view section, std::string_view key, std::string_view text);
-void SaveBoolPref(std::string_view section, std::string_view key, bool value);
-void SaveLongPref(std::string_view section, std::string_view key, std::int32_t value);
+    /// The text of the value; nothing if it is not to be written. A setting without it is written as it was found.
+    std::function<std::optional<std::string>()> give;
 
-/// Writes all digits, so that the same double is read back.
-void SaveDoublePref(std::string_view section, std::string_view key, double value);
+    std::string_view application = ProgramSettings;
+};
 
-/// Writes where a window stands, and the check of the menu item that goes with it, in the window's own section.
-void SaveWindowPrefs(const Form& window, bool checked);
+using Settings = std::vector<Setting>;
 
-/// Moves a window to where it was, or to the given place in twips, and sets the check that goes with it.
-void LoadWindowPrefs(Form& window, bool& check, double top, double left, bool checked);
+/// Appends the rows of one owner to those of others.
+void Append(Settings& all, Settings rows);
 
-/// Forgets all the program's options. The user's own places, an application of their own, stay.
+/// Takes and writes settings in their order.
+void Load(const Settings& settings);
+void Save(const Settings& settings);
+
+// Numbers and truths as texts, and the way back: nothing for what does not read as one or lies out of its bounds.
+
+/// "True" or "False".
+std::string TruthText(bool value);
+std::optional<bool> TruthOf(const std::string& text);
+
+/// A whole number of 32 bits.
+std::optional<std::int32_t> WholeOf(const std::string& text, std::int32_t least, std::int32_t greatest);
+
+/// The number that the text begins with, with a point as decimal mark whatever the machine's locale.
+std::optional<double> NumberOf(const std::string& text, double least, double greatest);
+
+// Rows for a field of an owner's options, whose default is the field's own.
+
+/// Calls `set` with a value that there is; false where there is none.
+template <class Value, class Set>
+bool TakeIf(const std::optional<Value>& value, const Set& set) {
+    if (value) set(*value);
+    return value.has_value();
+}
+
+template <class Options>
+Setting TruthRow(std::string_view section, std::string_view key, Options& options, bool Options::*field) {
+    return {std::string(section), std::string(key), TruthText(Options().*field),
+            [=, &options](const std::string& text) {
+                return TakeIf(TruthOf(text), [&](bool value) { options.*field = value; });
+            },
+            [=, &options] { return TruthText(options.*field); }};
+}
+
+/// A truth that is kept as 1 or 0.
+template <class Options>
+Setting FlagRow(std::string_view section, std::string_view key, Options& options, bool Options::*field) {
+    return {std::string(section), std::string(key), Options().*field ? "1" : "0",
+            [=, &options](const std::string& text) {
+                return TakeIf(WholeOf(text, 0, 1), [&](std::int32_t value) { options.*field = value == 1; });
+            },
+            [=, &options] { return options.*field ? "1" : "0"; }};
+}
+
+template <class Options>
+Setting WholeRow(std::string_view section, std::string_view key, Options& options, std::int32_t Options::*field,
+                 std::int32_t least, std::int32_t greatest) {
+    return {std::string(section), std::string(key), std::to_string(Options().*field),
+            [=, &options](const std::string& text) {
+                return TakeIf(WholeOf(text, least, greatest), [&](std::int32_t value) { options.*field = value; });
+            },
+            [=, &options] { return std::to_string(options.*field); }};
+}
+
+/// A text that is only written, and one that no one owns yet: it stays as a later version may have left it.
+Setting WrittenRow(std::string_view section, std::string_view key, std::string_view text);
+Setting KeptRow(std::string_view section, std::string_view key, std::string_view standard);
+
+/// Forgets all the program's options. What belongs to `UserSettings` stays.
 void DeleteAllPrefs();
 
 }  // namespace horvanta

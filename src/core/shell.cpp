@@ -5,6 +5,11 @@
 
 namespace horvanta {
 
+MenuItem& ItemOf(EventMenu& menu, MenuEvent event) {
+    const auto* found = std::ranges::find(EventItems, event, &EventItem::event);
+    return menu[static_cast<std::size_t>(found - EventItems) + 1];
+}
+
 void HorvantaMDI::SetClipboardText(const std::string& clip) {
     CurrentDesktop->SetClipboard(clip);
     ShowClipboardText(ReplaceAll(clip, "\n", "|"));
@@ -23,32 +28,27 @@ void HorvantaMDI::AskCopyToClipboard(const std::string& message, const std::stri
     TakeFocus();
 }
 
-namespace {
-
-Color Shown(const Control& mainDate, bool isBackground) {
-    return isBackground ? mainDate.colors->background : mainDate.colors->foreground;
+void HorvantaMDI::OfferColors(WindowColors& colors) {
+    colors.mainDate.DblClick = [this, &colors] { PickBackgroundColor(colors); };
+    colors.mainDate.RightClick = [this, &colors] { PickForegroundColor(colors); };
+    colors.mainDate.form.PickColor = [this, &colors](bool isBackground) { PickColor(colors, isBackground); };
 }
 
-}  // namespace
-
-void HorvantaMDI::PickColor(const Control& mainDate, bool isBackground,
-                            const std::function<void(Color, bool)>& setColor) {
-    const Color present = Shown(mainDate, isBackground);
+void HorvantaMDI::PickColor(WindowColors& colors, bool isBackground) {
+    const Color present = colors.Shown(isBackground);
     const auto chosen = CurrentDesktop->ChooseColor(present);
     if (!chosen) return;
-    undoColor_ = {present, &mainDate, isBackground, setColor};
+    undoColor_ = {present, &colors, isBackground};
     UndoLastColorChange.enabled = true;
-    setColor(*chosen, isBackground);
+    colors.SetColor(*chosen, isBackground);
 }
 
 void HorvantaMDI::UndoLastColorChange_Click() {
-    const Color present = Shown(*undoColor_.mainDate, undoColor_.isBackground);
-    undoColor_.setColor(undoColor_.color, undoColor_.isBackground);
-    undoColor_.color = present;
+    auto& [color, colors, isBackground] = undoColor_;
+    const Color present = colors->Shown(isBackground);
+    colors->SetColor(color, isBackground);
+    color = present;
 }
-
-void HorvantaMDI::PickBackColor_Click() { PickColorOfActive(true); }
-void HorvantaMDI::PickForeColor_Click() { PickColorOfActive(false); }
 
 void HorvantaMDI::PickColorOfActive(bool isBackground) {
     if (activeForm && activeForm->PickColor) {

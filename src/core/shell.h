@@ -1,9 +1,12 @@
 #pragma once
 
 #include "core/controls.h"
+#include "core/window_colors.h"
 
+#include <algorithm>
 #include <array>
 #include <functional>
+#include <iterator>
 #include <string>
 #include <string_view>
 
@@ -14,47 +17,103 @@ namespace horvanta {
 /// How the frame stands on the screen; the numbers are those of the settings.
 enum FrameState { FrameNormal = 0, FrameMinimized = 1, FrameMaximized = 2 };
 
-/// The items of the menus of previous and next events, in their order; "-" is a line.
-inline constexpr std::array<std::string_view, 38> EventCaptions = {
-    "Lunar Event",
-    "&New Moon",
-    "First New Crescent",
-    "&First Quarter Moon",
-    "&Full Moon",
-    "&Last Quarter Moon",
-    "Last Old Crescent",
-    "&Vedic Tithi",
-    "-",
-    "&Mean New Moon",
-    "Mean &Perigee",
-    "Mean &Apogee",
-    "Yerm",
-    "Yerm Era",
-    "-",
-    "&Leap Week",
-    "Qua New Year Moment",
-    "Qua Leap Cycle",
-    "Rotation-Adjusted New Year",
-    "&Mean Orbital New Year",
-    "&Besselian New Year",
-    "-",
-    "&Solar Event",
-    "Northward Equinox",
-    "North Solstice",
-    "Southward Equinox",
-    "South Solstice",
-    "Mean Peri&helion",
-    "Mean &Aphelion",
-    "-",
-    "&Chinese New Year",
-    "&Easter",
-    "&Uniform Easter",
-    "&Orthodox Easter",
-    "Fi&xed Easter",
-    "&Passover",
-    "&Rosh Hashanah",
-    "Molad Moment",
+/// What the menus of previous and next events search for.
+enum class MenuEvent {
+    None,
+    LunarEvent,
+    NewMoon,
+    FirstNewCrescent,
+    FirstQuarterMoon,
+    FullMoon,
+    LastQuarterMoon,
+    LastOldCrescent,
+    VedicTithi,
+    MeanNewMoon,
+    MeanPerigee,
+    MeanApogee,
+    Yerm,
+    YermEra,
+    LeapWeek,
+    QuaNewYearMoment,
+    QuaLeapCycle,
+    RotationAdjustedNewYear,
+    MeanOrbitalNewYear,
+    BesselianNewYear,
+    SolarEvent,
+    NorthwardEquinox,
+    NorthSolstice,
+    SouthwardEquinox,
+    SouthSolstice,
+    MeanPerihelion,
+    MeanAphelion,
+    ChineseNewYear,
+    Easter,
+    UniformEaster,
+    OrthodoxEaster,
+    FixedEaster,
+    Passover,
+    RoshHashanah,
+    MoladMoment,
 };
+
+struct EventItem {
+    MenuEvent event;
+    std::string_view caption;
+};
+
+/// The items of those menus in their order; no event is a line.
+inline constexpr EventItem EventItems[] = {
+    {MenuEvent::LunarEvent, "Lunar Event"},
+    {MenuEvent::NewMoon, "&New Moon"},
+    {MenuEvent::FirstNewCrescent, "First New Crescent"},
+    {MenuEvent::FirstQuarterMoon, "&First Quarter Moon"},
+    {MenuEvent::FullMoon, "&Full Moon"},
+    {MenuEvent::LastQuarterMoon, "&Last Quarter Moon"},
+    {MenuEvent::LastOldCrescent, "Last Old Crescent"},
+    {MenuEvent::VedicTithi, "&Vedic Tithi"},
+    {MenuEvent::None, "-"},
+    {MenuEvent::MeanNewMoon, "&Mean New Moon"},
+    {MenuEvent::MeanPerigee, "Mean &Perigee"},
+    {MenuEvent::MeanApogee, "Mean &Apogee"},
+    {MenuEvent::Yerm, "Yerm"},
+    {MenuEvent::YermEra, "Yerm Era"},
+    {MenuEvent::None, "-"},
+    {MenuEvent::LeapWeek, "&Leap Week"},
+    {MenuEvent::QuaNewYearMoment, "Qua New Year Moment"},
+    {MenuEvent::QuaLeapCycle, "Qua Leap Cycle"},
+    {MenuEvent::RotationAdjustedNewYear, "Rotation-Adjusted New Year"},
+    {MenuEvent::MeanOrbitalNewYear, "&Mean Orbital New Year"},
+    {MenuEvent::BesselianNewYear, "&Besselian New Year"},
+    {MenuEvent::None, "-"},
+    {MenuEvent::SolarEvent, "&Solar Event"},
+    {MenuEvent::NorthwardEquinox, "Northward Equinox"},
+    {MenuEvent::NorthSolstice, "North Solstice"},
+    {MenuEvent::SouthwardEquinox, "Southward Equinox"},
+    {MenuEvent::SouthSolstice, "South Solstice"},
+    {MenuEvent::MeanPerihelion, "Mean Peri&helion"},
+    {MenuEvent::MeanAphelion, "Mean &Aphelion"},
+    {MenuEvent::None, "-"},
+    {MenuEvent::ChineseNewYear, "&Chinese New Year"},
+    {MenuEvent::Easter, "&Easter"},
+    {MenuEvent::UniformEaster, "&Uniform Easter"},
+    {MenuEvent::OrthodoxEaster, "&Orthodox Easter"},
+    {MenuEvent::FixedEaster, "Fi&xed Easter"},
+    {MenuEvent::Passover, "&Passover"},
+    {MenuEvent::RoshHashanah, "&Rosh Hashanah"},
+    {MenuEvent::MoladMoment, "Molad Moment"},
+};
+
+/// Their first captions, as the menus are made with.
+inline constexpr auto EventCaptions = [] {
+    std::array<std::string_view, std::size(EventItems)> captions;
+    std::ranges::transform(EventItems, captions.begin(), &EventItem::caption);
+    return captions;
+}();
+
+using EventMenu = MenuArray<std::size(EventItems)>;
+
+/// The item of an event.
+MenuItem& ItemOf(EventMenu& menu, MenuEvent event);
 
 class HorvantaMDI {
   public:
@@ -70,16 +129,21 @@ class HorvantaMDI {
     /// Shows a text in a box that offers to copy it. The copy has the title behind the text.
     void AskCopyToClipboard(const std::string& message, const std::string& title);
 
-    /// Lets the user choose one of the colours of a window, starting from that of its main date, and sets it. The old
-    /// one is kept for `UndoLastColorChange_Click`.
-    void PickColor(const Control& mainDate, bool isBackground, const std::function<void(Color, bool)>& setColor);
+    /// Lets the user change the colours of a window by clicks on its main date: a double click for the background, a
+    /// right click for the text.
+    void OfferColors(WindowColors& colors);
+
+    /// Lets the user choose one of the colours of a window, starting from the present one. That one is kept for
+    /// `UndoLastColorChange_Click`.
+    void PickBackgroundColor(WindowColors& colors) { PickColor(colors, true); }
+    void PickForegroundColor(WindowColors& colors) { PickColor(colors, false); }
 
     /// Gives the window of the last change its old colour; done again, the new one.
     void UndoLastColorChange_Click();
 
     // The same for the window that has the focus, from the menu.
-    void PickBackColor_Click();
-    void PickForeColor_Click();
+    void PickBackColor_Click() { PickColorOfActive(true); }
+    void PickForeColor_Click() { PickColorOfActive(false); }
 
     /// Lets colours be chosen from the menu, or not.
     void ColorPicking(bool enable);
@@ -88,7 +152,7 @@ class HorvantaMDI {
     const std::string text = "Horvanta";
     FrameState state = FrameMaximized;
     Form* activeForm = nullptr;  ///< The window that has the focus, as the desktop reports it.
-    Place place;  ///< Of the frame that is neither minimised nor maximised; no size until the desktop gives one.
+    Position position;  ///< Of the frame that is neither minimised nor maximised; no size until the desktop gives one.
 
     // Acts of the time window.
     std::function<bool(int code, int shift)> Form_KeyDown;
@@ -142,9 +206,9 @@ class HorvantaMDI {
         "&Days", "&Weeks", "&Lunar Cycles", "Solar &Years", "Solar Decades", "Solar &Centuries"}};
 
     MenuItem GoToPrevious{menuBar, "GoToPrevious", "&Previous"};
-      MenuArray<EventCaptions.size()> PrevMenu{GoToPrevious, "PrevMenu", EventCaptions};
+      EventMenu PrevMenu{GoToPrevious, "PrevMenu", EventCaptions};
     MenuItem GoToNext{menuBar, "GoToNext", "&Next"};
-      MenuArray<EventCaptions.size()> NextMenu{GoToNext, "NextMenu", EventCaptions};
+      EventMenu NextMenu{GoToNext, "NextMenu", EventCaptions};
 
     MenuItem ReportS{menuBar, "ReportS", "&Reports"};
 
@@ -218,15 +282,16 @@ class HorvantaMDI {
     // clang-format on
 
   private:
+    void PickColor(WindowColors& colors, bool isBackground);
+
     /// Beeps where the window has no colours of its own.
     void PickColorOfActive(bool isBackground);
 
     /// One colour of a window, before it was changed.
     struct {
         Color color;
-        const Control* mainDate = nullptr;
+        WindowColors* colors = nullptr;
         bool isBackground = false;
-        std::function<void(Color, bool)> setColor;
     } undoColor_;
 };
 

@@ -242,7 +242,7 @@ std::string DurationString(double days, int style, bool longForm) {
 
 std::string TimeOfDayFormat(double days) {
     if (isNever(days)) return "never";
-    switch (TempHourFormat) {
+    switch (time_text::options.TempHourFormat) {
         case 2: return FormatNumber(days * 1440, "0.0");
         case 3: return FormatNumber(days * 24, "0.00");
         default: return FormatTime(days, 9);

@@ -35,7 +35,7 @@ std::optional<double> ParseLeadingNumber(std::string_view text);
 std::string SignedStr(double x);
 
 /// n with its English ending: 22nd. Only 11, 12 and 13 themselves take "th" against their last digit, so that 111 is
-/// "111st": the program's own rule. n is not negative; the ending of a negative n is "th".
+/// "111st". n is not negative; the ending of a negative n is "th".
 std::string OrdinalString(std::int32_t n);
 
 /// A blank and the ordinal of b - a; empty unless b exceeds a.
@@ -68,10 +68,18 @@ std::string FormatTime(Moment x, int style, bool longForm = false);
 /// A length of time in days: its whole days, if any, and the rest through `FormatTime`, rounded together.
 std::string DurationString(double days, int style = 1, bool longForm = false);
 
-/// How the user wants temporal hours printed: 1 as hours and minutes, 2 as minutes, 3 as hours, both with decimals.
-inline std::int32_t TempHourFormat = 1;
+namespace time_text {
 
-/// The length of a temporal hour (in days) under `TempHourFormat`; "never" for `NeverMoment`.
+struct Options {
+    std::int32_t TempHourFormat = 1;  ///< 1 is hours and minutes, 2 minutes and 3 hours, both with decimals.
+
+    bool operator==(const Options&) const = default;
+};
+inline Options options;
+
+}  // namespace time_text
+
+/// The length of a temporal hour (in days) as the user wants it; "never" for `NeverMoment`.
 std::string TimeOfDayFormat(double days);
 
 // Angles and fractions.

@@ -1,12 +1,12 @@
 #include "hebrew/hebrew_arithmetic.h"
 
-#include "core/moment.h"
+#include "core/memo.h"
 #include "hebrew/hebrew_modes.h"
 #include "hebrew/molad.h"
 
 #include <algorithm>
 #include <array>
-#include <optional>
+#include <utility>
 
 namespace horvanta {
 namespace {
@@ -24,9 +24,9 @@ constexpr Days partsOfFirstMolad = 12084;
 // that integer division gives the dates of `Floor`, faster. Days count from `HebrewEpoch`; years have 64 bits, so that
 // those before the first and after the last of 32 bits have their days too.
 
-bool isLeap(Days year) { return FloorModulo(7 * year + 1 + CycleShift, 19) < 7; }
+bool isLeap(Days year) { return FloorModulo(7 * year + 1 + hebrew::options.CycleShift, 19) < 7; }
 
-Days MonthsBeforeTishrei(Days year) { return FloorDivide(235 * year - 234 + CycleShift, 19); }
+Days MonthsBeforeTishrei(Days year) { return FloorDivide(235 * year - 234 + hebrew::options.CycleShift, 19); }
 
 /// The year whose Tishrei falls in the same spring-to-winter round as the month.
 constexpr Days YearOfTishrei(std::int32_t year, std::int32_t month) { return month < tishrei ? Days{year} + 1 : year; }
@@ -103,7 +103,7 @@ struct DayOfYear {
 /// days of a postponement it has not.
 DayOfYear DayOfYearOf(Days day) {
     const Days months = FloorDivide((day + 1) * partsPerDay - 1 - partsOfFirstMolad, partsPerMonth);
-    const Days year = FloorDivide(19 * months + 252 - CycleShift, 235);
+    const Days year = FloorDivide(19 * months + 252 - hebrew::options.CycleShift, 235);
     const YearSpan span = SpanOf(year);
     if (span.start <= day) return {year, span, day - span.start};
     const YearSpan before = SpanOf(year - 1);
@@ -129,7 +129,7 @@ constexpr NameList hebrewFontNames{
     {"iuatr ouh", "hba ouh", "hahka ouh", "hghcr ouh", "hahnj ouh", "haa ouh", ",ca ouh"},
 };
 
-const NameList& Names() { return UseHebrewFont ? hebrewFontNames : names; }
+const NameList& Names() { return hebrew::options.UseHebrewFont ? hebrewFontNames : names; }
 
 /// A pattern with { and } replaced by the marks of italics, and | by the separator.
 std::string Filled(std::string_view pattern, std::string_view separator, std::string_view open,
@@ -208,8 +208,6 @@ std::int32_t FixedToHebrewYear(Moment moment) {
     return static_cast<std::int32_t>(DayOfYearOf(DaysSinceEpoch(moment)).year);
 }
 
-const HebrewDateRecord& DisplayedHebrewDate() { return DisplayedDate<HebrewDateRecord, FixedToHebrewDate>(); }
-
 std::string_view HebrewMonthName(std::int32_t year, std::int32_t month) {
     if (month < 0 || month > 13) return {};
     return month == 12 && !isHebrewLeapYear19(year) ? Names().commonAdar : Names().months[month];
@@ -226,7 +224,7 @@ std::string HebrewDateString(const HebrewDateRecord& date, bool withWeekday, boo
     const std::string month = marked(HebrewMonthName(date.Year, date.Month));
     const std::string day = std::to_string(date.Day);
     const std::string year = withYear ? std::to_string(date.Year) : "";
-    if (UseHebrewFont) {
+    if (hebrew::options.UseHebrewFont) {
         return year + (withYear ? " ," : "") + month + " " + day + (withWeekday ? " ," : "") + weekday;
     }
     return weekday + (withWeekday ? ", " : "") + day + " " + month + (withYear ? ", " : "") + year;
@@ -299,12 +297,8 @@ std::string CharacterOf(std::int32_t year) {
 
 // The weekdays are the same under every numbering.
 std::string HebrewYearCharacter(std::int32_t year) {
-    static struct {
-        std::optional<std::int32_t> year;
-        std::string character;
-    } memo;
-    if (memo.year != year) memo = {year, CharacterOf(year)};
-    return memo.character;
+    static Memo<1, std::pair<std::int32_t, hebrew::Options>, std::string> memo;
+    return memo.Of({year, hebrew::options}, [year] { return CharacterOf(year); });
 }
 
 std::string HebrewYearType(std::int32_t year, bool withCycle, std::string_view separator, std::string_view openItalic,
@@ -379,35 +373,40 @@ std::string PostponeReason(std::int32_t year, std::string_view separator, bool i
     return Filled(pattern, separator, italics ? "<i>" : "", italics ? "</i>" : "");
 }
 
-namespace hebrew {
+namespace {
 
-FixedDay ToFixed(std::int32_t year, std::int32_t pickerMonth, std::int32_t day) {
+/// Months from Tishrei on, 1 to 12 or 13.
+FixedDay GridDateToFixed(std::int32_t year, std::int32_t month, std::int32_t day) {
     const std::int32_t monthsFromTishrei = MonthsInHebrewYear(year) - 6;
-    return HebrewToFixed(year, pickerMonth > monthsFromTishrei ? pickerMonth - monthsFromTishrei : pickerMonth + 6,
-                         day);
+    return HebrewToFixed(year, month > monthsFromTishrei ? month - monthsFromTishrei : month + 6, day);
 }
 
-GridDate GetDate() {
-    const HebrewDateRecord& date = DisplayedHebrewDate();
+GridDate GridDateOf(Moment x) {
+    const HebrewDateRecord& date = DateOn<FixedToHebrewDate>(x, hebrew::options);
     const std::int32_t place = date.Month >= tishrei ? date.Month - 6 : date.Month + MonthsInHebrewYear(date.Year) - 6;
     return {date.Year, static_cast<std::int16_t>(place), date.Day, LastDayOfHebrewMonth(date.Year, date.Month),
             WholeNumber<std::int16_t>(Modulo(date.WeekDay - date.Day, 7))};
 }
 
-void SetMonthNames(ChoiceList& list, std::int32_t year) {
+std::vector<std::string> MonthNames(std::int32_t year) {
     const std::int32_t months = MonthsInHebrewYear(year);
-    for (std::int32_t month = tishrei; month <= months; ++month) list.items.emplace_back(HebrewMonthName(year, month));
-    for (std::int32_t month = 1; month < tishrei; ++month) list.items.emplace_back(HebrewMonthName(year, month));
-    list.selected = GetDate().month - 1;
+    std::vector<std::string> list;
+    for (std::int32_t month = tishrei; month <= months; ++month) list.emplace_back(HebrewMonthName(year, month));
+    for (std::int32_t month = 1; month < tishrei; ++month) list.emplace_back(HebrewMonthName(year, month));
+    return list;
 }
 
-void SetDayNames(DayNames& longNames, DayNames& shortNames) {
-    for (std::size_t i = 0; i < 7; ++i) {
-        longNames[i] = Names().weekdays[i];
-        shortNames[i] = "( " + std::to_string(i + 1) + " )";
+NamesOfDays DayNames() {
+    NamesOfDays days;
+    for (std::size_t i = 0; i < days.full.size(); ++i) {
+        days.full[i] = Names().weekdays[i];
+        days.brief[i] = "( " + std::to_string(i + 1) + " )";
     }
+    return days;
 }
 
-}  // namespace hebrew
+}  // namespace
+
+constinit const CalendarContract hebrew::Calendar{"Hebrew", GridDateToFixed, GridDateOf, MonthNames, DayNames};
 
 }  // namespace horvanta

@@ -1,8 +1,8 @@
 #pragma once
 
 #include "calendars/calendar_contract.h"
-#include "core/controls.h"
 #include "core/numbering.h"
+#include "hebrew/hebrew_options.h"
 
 #include <cstdint>
 #include <string>
@@ -18,14 +18,6 @@
 ///
 /// A lunation is a whole number of months, counted from the molad of Tishrei of year 1 = 0.
 namespace horvanta {
-
-// Both are set before the first date is shown, if at all.
-
-/// Moves the leap years within the cycle of 19 years.
-inline std::int32_t CycleShift = 0;
-
-/// Texts take their names in the letters of a Hebrew display font, and run from right to left.
-inline bool UseHebrewFont = false;
 
 /// Days from one molad to the next: 29 days 12 hours 793 parts, of 1080 to the hour.
 inline constexpr double MoladInterval = 29.53059413580247;
@@ -84,9 +76,6 @@ FixedDay HebrewToFixed(std::int32_t year, std::int32_t month, std::int32_t day);
 /// The date of a moment's day; the nearest date of a year of 32 bits for a moment beyond them.
 HebrewDateRecord FixedToHebrewDate(Moment moment);
 std::int32_t FixedToHebrewYear(Moment moment);
-
-/// The date of the displayed moment, converted once for each day and numbering.
-const HebrewDateRecord& DisplayedHebrewDate();
 
 /// "Nisan" to "Adar Sheini" for months 1 to 13, where 12 is "Adar" or "Adar Rishon" as the year has it; "All" for 0,
 /// as pickers want it; empty for any other.
@@ -153,14 +142,9 @@ std::string HebrewYearType(std::int32_t year, bool withCycle, std::string_view s
 /// | 4    | the leap year before it would have 382 days (BeTUTaKPaT)                              |
 std::string PostponeReason(std::int32_t year, std::string_view separator, bool italics, bool asSentence);
 
-// For month grids, which count a year's months from Tishrei as 1 to 12 or 13.
+/// Grids count a year's months from Tishrei as 1 to 12 or 13.
 namespace hebrew {
-
-FixedDay ToFixed(std::int32_t year, std::int32_t pickerMonth, std::int32_t day);
-GridDate GetDate();
-void SetMonthNames(ChoiceList& list, std::int32_t year);
-void SetDayNames(DayNames& longNames, DayNames& shortNames);
-
+extern const CalendarContract Calendar;
 }  // namespace hebrew
 
 }  // namespace horvanta

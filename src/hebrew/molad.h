@@ -1,12 +1,7 @@
 #pragma once
 
-#include <cstdint>
-
 /// How the molad departs from the mean conjunction of the moon.
 namespace horvanta {
-
-/// How the time of a molad is told: 5 in hours and parts, 7 in hours, minutes and parts.
-inline std::int32_t MoladTimeFormat = 7;
 
 /// Days by which the progressive molad of lunation n, which keeps pace with the moon, is earlier than the traditional
 /// one: a parabola with its least value at lunation 50834. In whole parts of 1080 to the hour if rounded.

@@ -1,8 +1,10 @@
 #include "locale/locale_text.h"
 
+#include "astro/sun_events.h"
 #include "astro/timescales.h"
 #include "core/numerics.h"
 #include "core/text.h"
+#include "locale/distances.h"
 
 #include <algorithm>
 #include <cmath>
@@ -52,7 +54,9 @@ std::string DegreeText(double kilometres) {
 
 }  // namespace
 
-std::string_view ScaleName() { return DeltaTDisabled ? "Atomic" : Locale.UseLMT ? "Local Mean" : "Universal"; }
+std::string_view ScaleName(const LocaleRecord& place) {
+    return DeltaTDisabled ? "Atomic" : place.UseLMT ? "Local Mean" : "Universal";
+}
 
 std::string CompassPoint(double degrees) {
     constexpr const char* points[] = {"N", "NE", "E", "SE", "S", "SW", "W", "NW", "N"};
@@ -67,9 +71,9 @@ std::string CompassPoint(double degrees) {
 }
 
 std::string LocaleSummary(const LocaleRecord& place) {
-    const std::string elevation = !UseElevation          ? "ignore elevation"
-                                  : place.Elevation == 0 ? "sea level"
-                                                         : "elevation " + GeneralText(place.Elevation) + "m";
+    const std::string elevation = !horizon::options.UseElevation ? "ignore elevation"
+                                  : place.Elevation == 0         ? "sea level"
+                                                                 : "elevation " + GeneralText(place.Elevation) + "m";
     const std::string zone =
         (place.Zone < 0 ? "-" : "+") + FormatTime(HoursToDays(std::fabs(place.Zone)), place.UseLMT ? 0 : 2) + "UT";
     return place.Location + ":  " + AngleString(std::fabs(place.Latitude)) + (place.North ? "N" : "S") + ", " +
@@ -147,8 +151,9 @@ constexpr WebMap webMaps[] = {
 }  // namespace
 
 std::string MapLink(const LocaleRecord& place, bool html) {
-    if (MapIndex < 1 || MapIndex > static_cast<std::int32_t>(std::size(webMaps))) return "";
-    const WebMap& map = webMaps[MapIndex - 1];
+    if (web_map::options.MapIndex < 1 || web_map::options.MapIndex > static_cast<std::int32_t>(std::size(webMaps)))
+        return "";
+    const WebMap& map = webMaps[web_map::options.MapIndex - 1];
     const std::string url = "http://" + std::string(map.host) + map.query(place);
     if (!html) return url;
     const std::string location = ReplaceAll(place.Location, "&", "&amp;");

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "locale/locale.h"
+#include "core/locale.h"
 
 #include <cstdint>
 #include <string>
@@ -11,7 +11,7 @@ namespace horvanta {
 
 /// What the scale of the displayed moment is called: "Universal", "Local Mean" where the place keeps local mean time,
 /// "Atomic" while Delta T is off.
-std::string_view ScaleName();
+std::string_view ScaleName(const LocaleRecord& place = Locale);
 
 /// A direction in degrees by the points of the compass: "True NE" on one of the eight, otherwise how far it lies from
 /// the nearest toward a neighbour, "10° S of E".
@@ -24,8 +24,16 @@ std::string LocaleSummary(const LocaleRecord& place);
 /// the new one.
 std::string LocaleChangeReport(const LocaleRecord& from, const LocaleRecord& to);
 
-/// Which web map shows places, by its place in the menu, from 1.
-inline std::int32_t MapIndex = 1;
+namespace web_map {
+
+struct Options {
+    std::int32_t MapIndex = 1;  ///< The map that shows places, by its number in the menu, from 1.
+
+    bool operator==(const Options&) const = default;
+};
+inline Options options;
+
+}  // namespace web_map
 
 /// A link to a place on the chosen web map; for web pages with `html` the whole anchor. Empty for a map that has no
 /// form of link.

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "locale/locale.h"
+#include "core/locale.h"
 
 #include <span>
 #include <string_view>

@@ -31,8 +31,8 @@ int Pixels(double twips, double least, double greatest) {
 }
 
 void NoteSize(Form& form, const QSize& size) {
-    form.place.width = Twips(size.width());
-    form.place.height = Twips(size.height());
+    form.position.width = Twips(size.width());
+    form.position.height = Twips(size.height());
 }
 
 }  // namespace
@@ -153,12 +153,12 @@ void Frame::DrawPlace(Child& child) {
     QMdiSubWindow& window = *child.window;
     DrawSize(child);
 
-    const Place& place = child.form->place;
+    const Position& place = child.form->position;
     const QSize room = area_->viewport()->size();
     QRect wished = window.geometry();
     wished.moveTo(Pixels(place.left, reach - window.width(), room.width() - reach),
                   Pixels(place.top, 0, room.height() - reach));
-    if (!child.form->placed) wished.moveTo(FreePlace(child, wished));
+    if (!child.form->positioned) wished.moveTo(FreePlace(child, wished));
     if (window.pos() != wished.topLeft()) window.move(wished.topLeft());
 }
 
@@ -208,17 +208,17 @@ void Frame::GrantFocus(Child& child) {
 
 /// Without a window manager nothing maximises the frame, so it has the size of the screen to begin with.
 void Frame::ShowFirst() {
-    const bool placed = shell_.state == FrameNormal && shell_.place.width > 0 && shell_.place.height > 0;
+    const bool placed = shell_.state == FrameNormal && shell_.position.width > 0 && shell_.position.height > 0;
     if (!placed) {
         setGeometry(screen()->availableGeometry());
         showMaximized();
         return;
     }
     const QRect room = screen()->availableGeometry();
-    resize(Pixels(shell_.place.width, minimumSizeHint().width(), room.width()),
-           Pixels(shell_.place.height, minimumSizeHint().height(), room.height()));
-    move(Pixels(shell_.place.left, room.left(), room.right() - width()),
-         Pixels(shell_.place.top, room.top(), room.bottom() - height()));
+    resize(Pixels(shell_.position.width, minimumSizeHint().width(), room.width()),
+           Pixels(shell_.position.height, minimumSizeHint().height(), room.height()));
+    move(Pixels(shell_.position.left, room.left(), room.right() - width()),
+         Pixels(shell_.position.top, room.top(), room.bottom() - height()));
     show();
 }
 
@@ -246,9 +246,9 @@ bool Frame::eventFilter(QObject* watched, QEvent* event) {
             return true;
         case QEvent::Move:
             if (!drawing_) {
-                child->form->placed = true;
-                child->form->place.left = Twips(child->window->x());
-                child->form->place.top = Twips(child->window->y());
+                child->form->positioned = true;
+                child->form->position.left = Twips(child->window->x());
+                child->form->position.top = Twips(child->window->y());
             }
             return false;
         case QEvent::Resize: NoteSize(*child->form, child->window->size()); return false;
@@ -280,7 +280,7 @@ void Frame::NotePlace() {
     if (!isVisible()) return;
     shell_.state = isMinimized() ? FrameMinimized : isMaximized() ? FrameMaximized : FrameNormal;
     if (shell_.state != FrameNormal) return;
-    shell_.place = {Twips(x()), Twips(y()), Twips(width()), Twips(height())};
+    shell_.position = {Twips(x()), Twips(y()), Twips(width()), Twips(height())};
 }
 
 void Frame::closeEvent(QCloseEvent* event) {

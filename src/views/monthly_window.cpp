@@ -31,13 +31,22 @@ constexpr DayKey dayKeys[] = {
 
 MonthlyWindow::MonthlyWindow(HorvantaMDI& frame) : frame_(frame) {
     HangHandlers();
-    Days.across = isAcross();
+    ShowLayout();
+}
+
+WindowRow MonthlyWindow::Row() {
+    return {.form = form,
+            .first = Days,
+            .finish = [this] { Update(); },
+            .item = &frame_.CalendarMonth,
+            .open = OpenAt::FirstStart,
+            .settings = StoredRows()};
 }
 
 void MonthlyWindow::HangHandlers() {
     Calendars.Chosen = [this] {
         current_ = listed_[static_cast<std::size_t>(Calendars.selected)];
-        MonthCalendar = static_cast<std::int32_t>(current_);
+        monthly::options.MonthCalendar = static_cast<std::int32_t>(current_);
         Calendars_Click();
     };
     MonthNames.Chosen = [this] { MonthNames_Click(); };
@@ -49,11 +58,9 @@ void MonthlyWindow::HangHandlers() {
     ThisYear.KeyDown = [this](int code, int shift) { return ObeyYearKey(code, shift); };
     ThisYear.LostFocus = [this] { TakeYear(); };
     ChangeByYear.Step = [this](int direction, int shift) { ChangeYear(shown_.year + direction * YearsToAStep(shift)); };
-    form.PickColor = [this](bool isBackground) { Current().colorSource->form.PickColor(isBackground); };
+    form.PickColor = [this](bool isBackground) { Current().colors->mainDate.form.PickColor(isBackground); };
     form.KeyDown = [this](int code, int shift) { return frame_.Form_KeyDown(code, shift); };
 }
-
-void MonthlyWindow::Offer(std::size_t place, const GridCalendar& calendar) { calendars_[place] = calendar; }
 
 void MonthlyWindow::InitCalendars() {
     Calendars.items.clear();
@@ -63,11 +70,10 @@ void MonthlyWindow::InitCalendars() {
         Calendars.items.emplace_back();
     }
     const auto listed = std::span(listed_).first(Calendars.items.size());
-    const auto chosen = std::ranges::find(listed, static_cast<std::size_t>(MonthCalendar));
+    const auto chosen = std::ranges::find(listed, static_cast<std::size_t>(monthly::options.MonthCalendar));
     Calendars.selected = chosen == listed.end() ? 0 : static_cast<int>(chosen - listed.begin());
     current_ = listed_[static_cast<std::size_t>(Calendars.selected)];
-    Layout.text = MonthLayoutCaption;
-    Days.across = isAcross();
+    ShowLayout();
     Calendars_Click();
 }
 
@@ -75,30 +81,45 @@ void MonthlyWindow::InitCalendars() {
 void MonthlyWindow::Calendars_Click() {
     const GridCalendar& calendar = Current();
     ShowHeadings();
-    if (BusyCount == 0 && calendar.window && !calendar.isOpen()) calendar.window->Click();
+    if (BusyCount == 0 && !calendar.colors->mainDate.form.visible) calendar.window->Click();
     Update();
 }
 
 void MonthlyWindow::ShowHeadings() {
-    DayNames longNames;
-    DayNames shortNames;
-    Current().contract->SetDayNames(longNames, shortNames);
-    for (std::size_t i = 0; i < longNames.size(); ++i) {
-        const bool cut = !isAcross() && shortNames[i] != longNames[i];
-        Days.headings[i] = {isAcross() ? longNames[i] : shortNames[i], cut ? longNames[i] : ""};
+    const NamesOfDays names = Current().contract->DayNames();
+    for (std::size_t i = 0; i < names.full.size(); ++i) {
+        const bool cut = !Days.across && names.brief[i] != names.full[i];
+        Days.headings[i] = {Days.across ? names.full[i] : names.brief[i], cut ? names.full[i] : ""};
     }
+}
+
+/// The button offers the layout that is not shown.
+void MonthlyWindow::ShowLayout() {
+    Days.across = monthly::options.WeekdaysAsRows;
+    Layout.text = Days.across ? "&Across" : "&Down";
+}
+
+Settings MonthlyWindow::StoredRows() {
+    return {
+        {"Item", "AD", "&Across",
+         [](const std::string& text) {
+             monthly::options.WeekdaysAsRows = text != "&Down";
+             return true;
+         },
+         [] { return monthly::options.WeekdaysAsRows ? "&Across" : "&Down"; }},
+        WholeRow("Item", "MC", monthly::options, &monthly::Options::MonthCalendar, 0, CalendarCount - 1),
+    };
 }
 
 void MonthlyWindow::Update() {
     if (BusyCount > 0) return;
-    const GridDate date = Current().contract->GetDate();
+    const GridDate date = Current().contract->DateOf(DisplayedMoment);
     if (date.month == 0) return;
     shown_ = date;
     ShowNames();
     ShowHeadings();  // the week of a calendar may begin on a weekday of the user's choice
     ThisYear.text = std::to_string(date.year);
-    MonthNames.items.clear();
-    Current().contract->SetMonthNames(MonthNames, date.year);
+    MonthNames.items = Current().contract->MonthNames(date.year);
     MonthNames.selected = date.month - 1;
     WearColors();
     ShowCells(date);
@@ -118,7 +139,7 @@ bool MonthlyWindow::HasYear0() const {
 }
 
 void MonthlyWindow::WearColors() {
-    ThisYear.colors = MonthNames.colors = Calendars.colors = Days.activeColors = Current().colorSource->colors;
+    ThisYear.colors = MonthNames.colors = Calendars.colors = Days.activeColors = Current().colors->mainDate.colors;
 }
 
 void MonthlyWindow::ShowCells(const GridDate& date) {
@@ -150,11 +171,8 @@ void MonthlyWindow::SelectCell(std::size_t cell) {
 /// A day that the month does not have becomes its last one, or the last one of the same weekday where the month is all
 /// weeks.
 void MonthlyWindow::ShowMonth(std::int32_t year, std::int32_t month, bool keepTime) {
-    const Moment before = DisplayedMoment;
     const CalendarContract& calendar = *Current().contract;
-    DisplayedMoment = calendar.ToFixed(year, month, 1);
-    const std::int32_t length = calendar.GetDate().monthLength;
-    DisplayedMoment = before;
+    const std::int32_t length = calendar.DateOf(calendar.ToFixed(year, month, 1)).monthLength;
     std::int32_t day = shown_.day;
     if (day > length) day = length % 7 == 0 ? day - (day - length + 6) / 7 * 7 : length;
     MoveTo(year, month, day, keepTime);
@@ -180,10 +198,7 @@ void MonthlyWindow::NextMonth_Click() {
 }
 
 std::int32_t MonthlyWindow::MonthsIn(std::int32_t year) const {
-    Form scratch("", "");
-    ChoiceList months(scratch, "");
-    Current().contract->SetMonthNames(months, year);
-    return static_cast<std::int32_t>(months.items.size());
+    return static_cast<std::int32_t>(Current().contract->MonthNames(year).size());
 }
 
 std::int32_t MonthlyWindow::YearBeside(std::int32_t year, std::int32_t direction) const {
@@ -213,16 +228,15 @@ void MonthlyWindow::TakeYear() {
 }
 
 void MonthlyWindow::Layout_Click() {
-    MonthLayoutCaption = isAcross() ? "&Down" : "&Across";
-    Layout.text = MonthLayoutCaption;
-    Days.across = isAcross();
+    monthly::options.WeekdaysAsRows = !monthly::options.WeekdaysAsRows;
+    ShowLayout();
     ShowHeadings();
 }
 
 bool MonthlyWindow::ObeyCellKey(int code, int shift) {
     const auto* dayKey = std::ranges::find(dayKeys, code, &DayKey::code);
     if (dayKey != std::end(dayKeys)) {
-        frame_.DayUpDown(isAcross() ? dayKey->across : dayKey->down, 1);
+        frame_.DayUpDown(Days.across ? dayKey->across : dayKey->down, 1);
     } else if (code == KeyPageUp) {
         PrevMonth_Click();
     } else if (code == KeyPageDown) {

@@ -1,31 +1,25 @@
 #pragma once
 
-#include "calendars/calendar_contract.h"
 #include "core/controls.h"
 #include "core/shell.h"
+#include "views/window_row.h"
 
 #include <array>
 #include <cstdint>
-#include <functional>
-#include <string>
 
 namespace horvanta {
 
-/// A calendar as the month grid takes it: its answers, whose colours the grid wears, and the item that shows its
-/// window.
-struct GridCalendar {
-    const CalendarContract* contract = nullptr;
-    const Control* colorSource = nullptr;
-    MenuItem* window = nullptr;
-    std::function<bool()> isOpen;
+namespace monthly {
+
+struct Options {
+    bool WeekdaysAsRows = true;      ///< Else they stand as columns.
+    std::int32_t MonthCalendar = 0;  ///< The calendar that the user chose, by its place in the list of all, from 0.
+
+    bool operator==(const Options&) const = default;
 };
+inline Options options;
 
-/// Which layout the button of the month grid offers: "&Across" while the weekdays stand as rows, "&Down" while they
-/// stand as columns.
-inline std::string MonthLayoutCaption = "&Across";
-
-/// Which calendar the user chose for the month grid, by its place in the list of all, from 0.
-inline std::int32_t MonthCalendar = 0;
+}  // namespace monthly
 
 /// The displayed date as a month of a chosen calendar. It knows no calendar, only what their contracts answer.
 class MonthlyWindow {
@@ -35,11 +29,17 @@ class MonthlyWindow {
 
     explicit MonthlyWindow(HorvantaMDI& frame);
 
-    /// Takes a calendar into its place of the list.
-    void Offer(std::size_t place, const GridCalendar& calendar);
+    /// What the program has to know of it.
+    WindowRow Row();
 
-    /// Lists the calendars and chooses the one of `MonthCalendar`, or the first there is.
+    /// Takes a calendar into its place of the list.
+    void Offer(const GridCalendar& calendar) { calendars_[calendar.place] = calendar; }
+
+    /// Lists the calendars and chooses the one that the user chose, or the first there is.
     void InitCalendars();
+
+    /// The calendar and the layout.
+    static Settings StoredRows();
 
     /// Shows the month of the displayed moment.
     void Update();
@@ -65,7 +65,6 @@ class MonthlyWindow {
     // clang-format on
 
   private:
-    bool isAcross() const { return MonthLayoutCaption == "&Across"; }
     const GridCalendar& Current() const { return calendars_[current_]; }
     void HangHandlers();
     void ShowHeadings();
@@ -78,6 +77,7 @@ class MonthlyWindow {
     void ChangeYear(std::int32_t year);
     std::int32_t YearBeside(std::int32_t year, std::int32_t direction) const;
     std::int32_t MonthsIn(std::int32_t year) const;
+    void ShowLayout();
     bool ObeyCellKey(int code, int shift);
     bool ObeyYearKey(int code, int shift);
     void TakeYear();

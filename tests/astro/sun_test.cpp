@@ -2,8 +2,8 @@
 
 #include "astro/timescales.h"
 #include "calendars/gregorian.h"
+#include "core/locale.h"
 #include "core/numbering.h"
-#include "locale/locale.h"
 #include "locale/presets.h"
 
 #include <gtest/gtest.h>

@@ -1,11 +1,11 @@
 #include "calendars/julian.h"
 
 #include "calendars/gregorian.h"
-#include "calendars/julian_window.h"
 #include "calendars/roman.h"
 #include "core/moment.h"
 #include "core/text.h"
 #include "desk.h"
+#include "views/julian_window.h"
 
 #include <gtest/gtest.h>
 
@@ -14,10 +14,10 @@ namespace {
 
 /// Options as on a first start, but for the leap rule.
 void UseRule(bool revised) {
-    julian::Revise = revised;
-    julian::UseAUC = false;
-    julian::YRF = -753;
-    julian::OSY = -776;
+    julian::options.Revise = revised;
+    julian::options.UseAUC = false;
+    julian::options.YRF = -753;
+    julian::options.OSY = -776;
 }
 
 /// Published sample dates (Reingold and Dershowitz, Calendrical Calculations, appendix C).
@@ -195,7 +195,7 @@ TEST_F(JulianWindowTest, AsksForTheYearsOfTheCounts) {
     for (const auto& [typed, year] : rows) {
         desk_.Obey("answer text " + std::string(typed));
         desk_.Obey("menu JYRF");
-        EXPECT_EQ(julian::YRF, year) << typed;
+        EXPECT_EQ(julian::options.YRF, year) << typed;
     }
     Show(-775, 7, 1);
     desk_.Obey("answer text 780");

@@ -4,11 +4,11 @@
 #include "astro/sun_events.h"
 #include "astro/timescales.h"
 #include "calendars/gregorian.h"
-#include "calendars/persian_window.h"
 #include "core/day_events.h"
 #include "core/moment.h"
 #include "desk.h"
 #include "locale/presets.h"
+#include "views/persian_window.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "locale/locale.h"
+#include "core/locale.h"
 
 #include "core/text.h"
 #include "desk.h"

@@ -1,7 +1,7 @@
 #include "app/horvanta.h"
 #include "astro/timescales.h"
+#include "clock/zone_time.h"
 #include "core/moment.h"
-#include "locale/zone_time.h"
 #include "qt/arrow_pair.h"
 #include "qt/month_grid.h"
 #include "qt/panel_bar.h"
@@ -161,7 +161,7 @@ class FormTest final : public QObject {
 
     void everyControlHasItsWidgetAndEveryWidgetItsControl() {
         Session session;
-        for (Form* form : session.program.forms) {
+        for (Form* form : session.program.Forms()) {
             QWidget* content = session.Window(*form)->widget();
             std::set<QString> controls;
             for (const Control* control : form->controls) {
@@ -540,7 +540,7 @@ class FormTest final : public QObject {
     /// Large fonts may leave no room for all windows side by side.
     static void checkWindows(Session& session, bool apart) {
         QRegion together;
-        for (Form* form : session.program.forms) {
+        for (Form* form : session.program.Forms()) {
             const QMdiSubWindow* window = session.Window(*form);
             if (!form->visible) continue;
             QVERIFY(!apart || !together.intersects(window->geometry()));

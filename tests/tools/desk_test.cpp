@@ -57,7 +57,7 @@ std::vector<std::string> LinesOf(const Horvanta& program) {
                             "Enter", "Left", "Backspace ctrl", "End alt"}) {
         lines.push_back(std::string("press ") + key);
     }
-    for (const Form* form : program.forms) {
+    for (const Form* form : program.Forms()) {
         lines.push_back("close " + form->name);
         for (const Control* control : form->controls) {
             const std::string name = form->name + "." + control->name;

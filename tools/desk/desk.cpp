@@ -325,7 +325,7 @@ std::string Desk::Events(std::string_view) {
 std::string Desk::Asked(std::string_view) { return Joined(std::exchange(desktop.asked, {})); }
 
 Form& Desk::FormNamed(std::string_view name) const {
-    for (Form* form : program.forms) {
+    for (Form* form : program.Forms()) {
         if (form->name == name) return *form;
     }
     throw BadLine("no such window: " + std::string(name));

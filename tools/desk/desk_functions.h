@@ -24,7 +24,7 @@ std::string NumberAnswer(double x);
 
 /// A function of the engine that can be called by name.
 struct DeskFunction {
-    std::string_view name;
+    std::string name;
     std::function<std::string(Horvanta& program, std::span<const std::string> arguments)> call;
 };
 
@@ -33,11 +33,28 @@ const DeskFunction* FindDeskFunction(std::string_view name);
 
 /// Names and types of the plain variables that can be read and set.
 struct DeskVariable {
-    std::string_view name;
+    std::string name;
     std::function<std::string()> get;
     std::function<void(const std::string& word)> set;
 };
 
 const DeskVariable* FindDeskVariable(std::string_view name);
+
+// The rows of each folder, and those of the calendars by their contracts.
+std::vector<DeskFunction> CoreFunctions();
+std::vector<DeskFunction> AstroFunctions();
+std::vector<DeskFunction> LocaleFunctions();
+std::vector<DeskFunction> CalendarFunctions();
+std::vector<DeskFunction> ContractFunctions();
+std::vector<DeskFunction> HebrewFunctions();
+std::vector<DeskFunction> ClockFunctions();
+std::vector<DeskFunction> ViewFunctions();
+
+std::vector<DeskVariable> CoreVariables();
+std::vector<DeskVariable> AstroVariables();
+std::vector<DeskVariable> LocaleVariables();
+std::vector<DeskVariable> CalendarVariables();
+std::vector<DeskVariable> HebrewVariables();
+std::vector<DeskVariable> ClockVariables();
 
 }  // namespace horvanta

@@ -28,8 +28,8 @@ void MemorySettings::DeleteSection(std::string_view application, std::string_vie
 void MemorySettings::DeleteApplication(std::string_view application) { values.erase(std::string(application)); }
 
 void RecordingDesktop::LoadForm(Form& form) {
-    form.place.width = 5000;
-    form.place.height = 3000;
+    form.position.width = 5000;
+    form.position.height = 3000;
     forms.push_back(&form);
 }
 

@@ -1,0 +1,327 @@
+#include "views/time_fields.h"
+
+#include "astro/local_time.h"
+#include "astro/sun.h"
+#include "astro/sun_events.h"
+#include "astro/timescales.h"
+#include "astro/year_dates.h"
+#include "clock/zone_time.h"
+#include "core/day_events.h"
+#include "core/desktop.h"
+#include "core/locale.h"
+#include "core/moment.h"
+#include "core/text.h"
+#include "locale/locale_text.h"
+
+#include <cmath>
+#include <functional>
+#include <iterator>
+#include <utility>
+
+namespace horvanta {
+namespace {
+
+constexpr double minutesPerDay = 1440;
+constexpr double secondsPerDay = 86400;
+constexpr int deltaTDigits = 5;
+
+// On white, whatever the desktop's palette: daylight saving time that is on is red while it applies and blue otherwise.
+constexpr ColorPair daylightColors{Color::FromNumber(16777215), Color::FromNumber(255)};
+constexpr ColorPair standardColors{Color::FromNumber(16777215), Color::FromNumber(16711680)};
+
+constexpr std::string_view legends[] = {"Prior Sunset", "Night Hour", "Midnight", "Night Span", "Sunrise",
+                                        "Day Hour",     "Mid-Day",    "Day Span", "Sunset"};
+constexpr std::size_t panelsAtHorizon[] = {0, 4, 8};
+
+struct SolarEvent {
+    double longitude;
+    std::string_view name;
+};
+
+constexpr SolarEvent solarEvents[] = {
+    {0, "Northward Equinox"}, {90, "North Solstice"},      {180, "Southward Equinox"},
+    {270, "South Solstice"},  {280, "Besselian New Year"},
+};
+
+/// The ends of the mean orbit: the anomaly in degrees, and its word.
+constexpr std::pair<double, const char*> apsides[] = {{0, "Peri"}, {180, "Ap"}};
+
+constexpr std::string_view deltaTWarning =
+    "WARNING:  Delta T corrections switched OFF.\n"
+    "Astronomy calculations will ignore\n"
+    "tidal slowing of the Earth rotation rate.\n"
+    "\n"
+    "Calculations that are supposed to work in\n"
+    "local mean time will use atomic time instead.";
+
+/// What a toggle says: of the form that is shown, and of its value.
+struct Words {
+    const char* caption;
+    const char* tooltip;
+    const char* valueTooltip;
+};
+
+constexpr Words julianDayWords[] = {
+    {"Julian Day", "Julian Day", "Julian Day number since Nov 24, -4713 (Gregorian) at Noon"},
+    {"Mod Jul Day", "Modified Julian Day", "Modified Julian Day number since Nov 17, 1858 (Gregorian) at Midnight"},
+};
+
+constexpr Words yearWords[] = {
+    {"Orbital Date", "Mean Orbital Date", "Mean Orbital Years relative to 1.0 = January 1, 1"},
+    {"RAY Date", "Rotation-Adjusted Date", "Rotation-Adjusted Years relative to 1.0 = January 1, 1"},
+};
+
+void SetWords(Button& toggle, Label& value, const Words& words) {
+    toggle.text = words.caption;
+    toggle.tooltip = words.tooltip;
+    value.tooltip = words.valueTooltip;
+}
+
+std::string ClockText(Moment standardTime) { return FormatTime(StandardToDaylight(standardTime), 0); }
+std::string SpanText(double days) { return FormatTime(days, 11); }
+
+const char* Hemisphere(double declination) { return declination < 0 ? " S" : " N"; }
+
+/// Seconds, and the same in days and hours: "195700.5s = 2 days and 06:21:40".
+std::string LongDeltaTText(double seconds) {
+    const double size = std::fabs(seconds);
+    const double days = Floor(size / secondsPerDay);
+    const std::string dayCount = days == 0 ? "" : GeneralText(days) + (days == 1 ? " day" : " days") + " and ";
+    return (seconds < 0 ? "minus " : "") + GeneralText(RoundToDigits(size, deltaTDigits)) + "s = " + dayCount +
+           FormatTime(size / secondsPerDay, 0);
+}
+
+}  // namespace
+
+std::string LocalTimes(Moment universal) {
+    const Moment standardTime = UniversalToStandard(universal);
+    const Moment localTime = UniversalToLocal(universal);
+    return std::string(DeltaTDisabled ? "Atomic Time " : "Universal Time ") + FormatTime(universal, 0) +
+           (isDaylightTime(standardTime) ? ", DST " : ", Standard ") + ClockText(standardTime) + ", Local Mean " +
+           FormatTime(localTime, 0) + ", Local Apparent " + FormatTime(LocalToApparent(localTime), 0);
+}
+
+TimeFields::TimeFields(Form& owner, HorvantaMDI& frame, const Control& mainField)
+    : form(owner), frame_(frame), mainField_(mainField) {
+    MakePanels();
+    HangHandlers();
+}
+
+void TimeFields::MakePanels() {
+    for (const std::string_view legend : legends) {
+        DawnDuskLegends.panels.push_back({std::string(legend), std::string(legend), ""});
+        DawnDusk.panels.push_back({std::string(legend), "", ""});
+    }
+    DawnDusk.PanelClick = [this](std::size_t index) {
+        const StatusBar::Panel& panel = DawnDusk.panels[index];
+        frame_.SetClipboardText(panel.key + ": " + panel.text);
+    };
+}
+
+void TimeFields::HangHandlers() {
+    UseDeltaT.ShowsState([] { return DeltaTDisabled ? Unchecked : Checked; });
+    UseElevation.Shows(horizon::options.UseElevation);
+    AdjustDST.ShowsState([] { return static_cast<CheckState>(zone_time::options.AdjustDST); });
+    ShowDawnDusk.Shows(time_fields::options.ShowsDawnDusk);
+    UseDeltaT.Click = [this] { UseDeltaT_Click(); };
+    UseElevation.Click = [this] { UseElevation_Click(); };
+    AdjustDST.Click = [this] { AdjustDST_Click(); };
+    ShowDawnDusk.Click = [this] { ShowDawnDusk_Click(); };
+    JD_MJD_Toggle.Click = [this] { JD_MJD_Toggle_Click(); };
+    Orbital_RAY_Toggle.Click = [this] { Orbital_RAY_Toggle_Click(); };
+    for (Label* field : {&JD_MJD, &Orbital_RAY_Date, &EoT}) {
+        field->Click = [this, field] { frame_.CopyToClipboard(*field); };
+    }
+    SunDeclination.Click = [this] {
+        const double declination = SolarDeclination(DisplayedMoment);
+        frame_.SetClipboardText(SunDeclination.tooltip + ": " + GeneralText(std::fabs(declination)) + "°" +
+                                Hemisphere(declination));
+    };
+    SunLong.Click = [this] {
+        frame_.SetClipboardText(SunLong.tooltip + ": " + GeneralText(SolarLongitude(DisplayedMoment)) + "°");
+    };
+    DeltaTdisp.Click = [this] { frame_.SetClipboardText("Delta T: " + LongDeltaTText(DeltaT(DisplayedMoment, 1))); };
+}
+
+/// The three events at the horizon are found once; spans and hours follow from them.
+void TimeFields::ShowDay() {
+    const FixedDay day = Floor(DisplayedMoment);
+    const Moment priorSunset = Sunset(day - 1);
+    const Moment sunrise = Sunrise(day);
+    const Moment sunset = Sunset(day);
+    const double night = MomentDifference(sunrise, priorSunset);
+    const double daylight = MomentDifference(sunset, sunrise);
+    const std::string texts[] = {ClockText(priorSunset),
+                                 TimeOfDayFormat(PartOf(night, 12)),
+                                 ClockText(SolarMidnight(day)),
+                                 SpanText(night),
+                                 ClockText(sunrise),
+                                 TimeOfDayFormat(PartOf(daylight, 12)),
+                                 ClockText(SolarMidday(day)),
+                                 SpanText(daylight),
+                                 ClockText(sunset)};
+    static_assert(std::size(texts) == std::size(legends));
+    for (std::size_t i = 0; i < std::size(texts); ++i) DawnDusk.panels[i].text = texts[i];
+}
+
+void TimeFields::ShowAstronomy() {
+    const Moment universal = DisplayedMoment;
+    ShowYears(universal);
+    const double declination = SolarDeclination(universal);
+    SunDeclination.text = FormatNumber(std::fabs(declination), "0.0") + "°" + Hemisphere(declination);
+    SunLong.text = FormatNumber(Degrees(Round(SolarLongitude(universal), 1)), "0.0") + "°";
+    PostSolarEvents(universal);
+    JD_MJD.text =
+        GeneralText(time_fields::options.ShowsModifiedJulianDay ? MomentToMJD(universal) : MomentToJD(universal));
+    EoT.text = SignedStr(EquationOfTime(universal) * minutesPerDay);
+    DeltaTdisp.text = GeneralText(RoundToDigits(DeltaT(universal, secondsPerDay) * secondsPerDay, deltaTDigits));
+    DeltaTdisp.enabled = !DeltaTDisabled;
+}
+
+/// The date of years, and the beginning of the nearest one if it falls on the day.
+void TimeFields::ShowYears(Moment universal) {
+    const double date = time_fields::options.ShowsRAYDate ? MomentToRAYDate(universal) : MomentToOrbitalDate(universal);
+    const Moment newYear =
+        time_fields::options.ShowsRAYDate ? RAYDateToMoment(Round(date)) : OrbitalDateToMoment(Round(date));
+    Orbital_RAY_Date.text = GeneralText(date);
+    if (Floor(newYear) != Floor(universal)) return;
+    AstronomyEvent(newYear, time_fields::options.ShowsRAYDate ? "Rotation-Adjusted New Year" : "Mean Orbital New Year");
+}
+
+/// The search begins two days back, so that an event stays listed to the end of its day. What the Sun reaches within
+/// the three days from there lies less than 5° ahead.
+void TimeFields::PostSolarEvents(Moment universal) {
+    constexpr double reach = 5;  // degrees
+    const Moment start = universal - 2;
+    const double longitude = SolarLongitude(start);
+    for (const SolarEvent& event : solarEvents) {
+        if (Degrees(event.longitude - longitude) > reach) continue;
+        const Moment moment = SolarLongitudeAfter(start, event.longitude);
+        if (Floor(moment) != Floor(universal)) continue;
+        AstronomyEvent(moment, std::string(event.name) + " (Solar Longitude " + GeneralText(event.longitude) + "°)");
+    }
+    for (const auto& [anomaly, word] : apsides) {
+        const Moment moment = SolarAnomalyPassage(Floor(universal) - 1, anomaly, 1);
+        if (Floor(moment) != Floor(universal)) continue;
+        AstronomyEvent(moment, std::string("Mean ") + word + "helion of Earth-Moon Barycenter");
+    }
+}
+
+void TimeFields::AstronomyEvent(Moment universal, const std::string& text) {
+    day_events::Add("Astronomy", FormatTime(universal, 0) + (DeltaTDisabled ? " TT" : " UT"), text, mainField_);
+}
+
+void TimeFields::UpdateLocaleCaption() { form.text = LocaleSummary(Locale); }
+
+void TimeFields::SetSunBelowHorizon() {
+    const std::string depression = "Solar Depression " + AngleString(SunDepression()) + " (elevation " +
+                                   (horizon::options.UseElevation ? "adjusted)" : "ignored)");
+    for (StatusBar* bar : {&DawnDuskLegends, &DawnDusk}) {
+        for (const std::size_t index : panelsAtHorizon) bar->panels[index].tooltip = depression;
+    }
+}
+
+void TimeFields::SetDSTinfo() {
+    UseElevation.enabled = Locale.Elevation != 0;
+    AdjustDST.enabled = !Locale.NoDST;
+    SetDSTcolour();
+}
+
+void TimeFields::SetDSTcolour() {
+    if (zone_time::options.AdjustDST != Checked || Locale.NoDST) {
+        AdjustDST.colors.reset();
+        AdjustDST.tooltip = "Daylight Saving Time disabled";
+        return;
+    }
+    const bool applies = isDaylightTime(DisplayedMoment);
+    AdjustDST.colors = applies ? daylightColors : standardColors;
+    AdjustDST.tooltip = applies ? "Daylight Saving Time applied for the displayed moment"
+                                : "Standard Time applied for the displayed moment";
+}
+
+namespace {
+
+/// A choice between two that is kept as the caption of its toggle: this word in it stands for the second.
+Setting CaptionRow(std::string_view key, std::string_view word, bool time_fields::Options::*field,
+                   const Words (&words)[2]) {
+    return {"Item", std::string(key), words[0].caption,
+            [=](const std::string& text) {
+                time_fields::options.*field = text.find(word) != std::string::npos;
+                return true;
+            },
+            [=, &words] { return words[time_fields::options.*field].caption; }};
+}
+
+}  // namespace
+
+Settings TimeFields::StoredRows() {
+    using time_fields::options;
+    return {
+        CaptionRow("OrbRAY", "RAY", &time_fields::Options::ShowsRAYDate, yearWords),
+        CaptionRow("JDMJD", "Mod", &time_fields::Options::ShowsModifiedJulianDay, julianDayWords),
+        FlagRow("Item", "ShowDD", options, &time_fields::Options::ShowsDawnDusk),
+        FlagRow("Item", "Elev", horizon::options, &horizon::Options::UseElevation),
+        WholeRow("Item", "AdjDST", zone_time::options, &zone_time::Options::AdjustDST, Unchecked, Undecided),
+        {"Item", "dT", "1",
+         [](const std::string& text) {
+             return TakeIf(WholeOf(text, 0, 1), [](std::int32_t used) { SetDeltaTDisabled(used == 0); });
+         },
+         [] { return DeltaTDisabled ? "0" : "1"; }},
+    };
+}
+
+void TimeFields::SetToggles() {
+    DawnDusk.visible = DawnDuskLegends.visible = time_fields::options.ShowsDawnDusk;
+    SetWords(JD_MJD_Toggle, JD_MJD, julianDayWords[time_fields::options.ShowsModifiedJulianDay]);
+    SetWords(Orbital_RAY_Toggle, Orbital_RAY_Date, yearWords[time_fields::options.ShowsRAYDate]);
+}
+
+/// The moment moves to the other scale, so that it stays the same instant. The conversions are not exact inverses, and
+/// a midnight must not end up just before itself: a moment that was not moved meanwhile gets its old number back.
+void TimeFields::UseDeltaT_Click() {
+    if (DeltaTDisabled) {
+        SetDeltaTDisabled(false);
+        const bool unmoved = DisplayedMoment == switchedOff_.terrestrial;
+        DisplayedMoment = unmoved ? switchedOff_.universal : TerrestrialToUniversal(DisplayedMoment);
+        UpdateStatus();
+        return;
+    }
+    switchedOff_ = {DisplayedMoment, UniversalToTerrestrial(DisplayedMoment)};
+    DisplayedMoment = switchedOff_.terrestrial;
+    SetDeltaTDisabled(true);
+    UpdateStatus();
+    CurrentDesktop->Tell(deltaTWarning, "Delta T Disabled");
+}
+
+void TimeFields::UseElevation_Click() {
+    horizon::options.UseElevation = !horizon::options.UseElevation;
+    SetSunBelowHorizon();
+    UpdateLocaleCaption();
+    UpdateStatus();
+}
+
+void TimeFields::AdjustDST_Click() {
+    zone_time::options.AdjustDST = zone_time::options.AdjustDST == Unchecked ? Checked : Unchecked;
+    SetDSTcolour();
+    UpdateStatus();
+}
+
+void TimeFields::ShowDawnDusk_Click() {
+    time_fields::options.ShowsDawnDusk = !time_fields::options.ShowsDawnDusk;
+    SetToggles();
+    UpdateStatus();
+}
+
+void TimeFields::JD_MJD_Toggle_Click() {
+    time_fields::options.ShowsModifiedJulianDay = !time_fields::options.ShowsModifiedJulianDay;
+    SetToggles();
+    UpdateStatus();
+}
+
+void TimeFields::Orbital_RAY_Toggle_Click() {
+    time_fields::options.ShowsRAYDate = !time_fields::options.ShowsRAYDate;
+    SetToggles();
+    UpdateStatus();
+}
+
+}  // namespace horvanta

@@ -1,0 +1,105 @@
+#include "clock/zone_time.h"
+
+#include "calendars/gregorian.h"
+#include "core/locale.h"
+#include "core/numbering.h"
+#include "locale/presets.h"
+
+#include <gtest/gtest.h>
+
+namespace horvanta {
+namespace {
+
+constexpr double hour = 1 / 24.0;
+constexpr double minute = 1 / 1440.0;
+
+struct Year {
+    std::int32_t year;
+    std::pair<std::int32_t, std::int32_t> start;  ///< Month and day.
+    std::pair<std::int32_t, std::int32_t> end;
+};
+
+/// The United States' days by the acts of 1986 and 2005, which the program applies to all the world.
+constexpr Year american[] = {{1990, {4, 1}, {10, 28}}, {2000, {4, 2}, {10, 29}}, {2006, {4, 2}, {10, 29}},
+                             {2007, {3, 11}, {11, 4}}, {2015, {3, 8}, {11, 1}},  {2024, {3, 10}, {11, 3}}};
+
+/// Israel's days as they were kept (tz database, Rule Zion).
+constexpr Year israeli[] = {{2005, {4, 1}, {10, 9}},   {2006, {3, 31}, {10, 1}},  {2007, {3, 30}, {9, 16}},
+                            {2008, {3, 28}, {10, 5}},  {2009, {3, 27}, {9, 27}},  {2010, {3, 26}, {9, 12}},
+                            {2011, {4, 1}, {10, 2}},   {2012, {3, 30}, {9, 23}},  {2013, {3, 29}, {10, 27}},
+                            {2019, {3, 29}, {10, 27}}, {2024, {3, 29}, {10, 27}}, {2026, {3, 27}, {10, 25}}};
+
+/// Expects the switches of a year, at 2 h, and the whole days around them asked as their noons.
+void ExpectSwitches(const Year& row, bool north) {
+    const FixedDay start = GregorianToFixed(row.year, row.start.first, row.start.second);
+    const FixedDay end = GregorianToFixed(row.year, row.end.first, row.end.second);
+    EXPECT_NEAR(DaylightStart(row.year), start + 2 * hour, minute / 60);
+    EXPECT_NEAR(DaylightEnd(row.year), end + 2 * hour, minute / 60);
+    const Moment summer[] = {start,          DaylightStart(row.year),        start + 3 * hour, (start + end) / 2,
+                             end + 1 * hour, DaylightEnd(row.year) - minute, end - 1};
+    const Moment winter[] = {end,
+                             DaylightEnd(row.year),
+                             end + 3 * hour,
+                             start + 1 * hour,
+                             DaylightStart(row.year) - minute,
+                             start - 1,
+                             GregorianToFixed(row.year, 1, 1),
+                             GregorianYearEnd(row.year) + 0.999};
+    for (const Moment m : summer) EXPECT_EQ(isDaylightTime(m), north) << FixedToGregorianString(m) << ", " << m;
+    for (const Moment m : winter) EXPECT_EQ(isDaylightTime(m), !north) << FixedToGregorianString(m) << ", " << m;
+}
+
+TEST(DaylightTime, SwitchesOnItsDaysUnderEveryNumbering) {
+    struct Place {
+        const char* name;
+        std::span<const Year> years;
+        bool north;
+    };
+    constexpr Place places[] = {{"Times Square", american, true},
+                                {"Vatican", american, true},
+                                {"Melbourne", american, false},
+                                {"Jerusalem", israeli, true}};
+    for (const double day : {1.0, 730487.0, -1721424.0}) {
+        SetFixedDayEpoch(GregorianEpoch + day - 1, day, "test");
+        for (const auto& [name, years, north] : places) {
+            const LocaleScope scope(PresetLocale(name));
+            for (const Year& row : years) {
+                SCOPED_TRACE(testing::Message() << name << " " << row.year << ", numbering of " << day);
+                ExpectSwitches(row, north);
+            }
+        }
+    }
+}
+
+TEST(DaylightTime, IsKeptOnlyWhereAndWhenItIsWanted) {
+    const Moment july = GregorianToFixed(2024, 7, 4) + 0.5;
+    const Moment january = GregorianToFixed(2024, 1, 15) + 0.5;
+    for (const char* const name : {"Tokyo", "Greenwich", "N-E Mid"}) {
+        const LocaleScope scope(PresetLocale(name));
+        EXPECT_FALSE(isDaylightTime(july)) << name;
+        EXPECT_EQ(StandardToDaylight(july), july) << name;
+    }
+    const LocaleScope scope(PresetLocale("Times Square"));
+    for (const std::int32_t state : {0, 1, 2}) {
+        AdjustDST = state;
+        const double shift = state == 1 ? hour : 0;
+        EXPECT_EQ(isDaylightTime(july), state == 1) << state;
+        EXPECT_NEAR(StandardToDaylight(july), july + shift, 1e-9) << state;
+        EXPECT_NEAR(DaylightToStandard(july), july - shift, 1e-9) << state;
+        EXPECT_EQ(StandardToDaylight(january), january) << state;
+        EXPECT_EQ(DaylightToStandard(january), january) << state;
+        EXPECT_EQ(StandardToDaylight(NeverMoment), NeverMoment) << state;
+        EXPECT_EQ(DaylightToStandard(NeverMoment), NeverMoment) << state;
+    }
+}
+
+TEST(DaylightTime, TellsItsSwitches) {
+    const LocaleScope scope(PresetLocale("Times Square"));
+    EXPECT_EQ(DaylightSwitchText(DaylightStart(2024), true),
+              "Switch to Daylight Saving Time on Sunday, March 10, 2024 at 02:00 h");
+    EXPECT_EQ(DaylightSwitchText(DaylightEnd(2024), false),
+              "Switch to Standard Time on Sunday, November 3, 2024 at 02:00 h");
+}
+
+}  // namespace
+}  // namespace horvanta

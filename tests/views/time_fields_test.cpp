@@ -1,0 +1,194 @@
+#include "views/time_fields.h"
+
+#include "astro/sun.h"
+#include "astro/timescales.h"
+#include "clock/zone_time.h"
+#include "core/day_events.h"
+#include "core/moment.h"
+#include "core/text.h"
+#include "desk.h"
+
+#include <gtest/gtest.h>
+
+#include <tuple>
+
+namespace horvanta {
+namespace {
+
+/// A desk under rata die numbering at a place of the menu.
+class TimeFieldsTest : public testing::Test {
+  protected:
+    TimeFieldsTest() { desk.Obey("call ChangeFixedDayEpoch 1 1 \"rata die\""); }
+
+    void Show(Moment universal) { desk.Obey("set DisplayedMoment " + ExactText(universal)); }
+
+    StoredSettings settings{{"Horvanta", {{"Item", {{"GE", "1"}}}, {"Events", {{"Top", "0"}}}}}};
+    Desk desk{settings};
+    TimeFields& fields = desk.program.timeAstro.fields;
+};
+
+TEST_F(TimeFieldsTest, SwitchDeltaTOffAndOnAtTheSameInstant) {
+    for (const Moment moment : {-2533803.0, -1.25, 500'000.0, 730120.5, 739000.0, 1'500'000.0, 4'000'000.0}) {
+        Show(moment);
+        desk.Obey("asked");
+        desk.Obey("click TimeAstro.UseDeltaT");
+        EXPECT_NE(DisplayedMoment, moment);
+        EXPECT_EQ(DeltaT(moment, 1), 0);
+        EXPECT_EQ(fields.DeltaTdisp.text, "0");
+        EXPECT_FALSE(fields.DeltaTdisp.enabled);
+        EXPECT_EQ(desk.program.timeAstro.UT.text, "Atomic Time");
+        EXPECT_EQ(desk.Obey("asked").substr(0, 28), "box \"Delta T Disabled\" \"WARN") << moment;
+        const Moment atomic = DisplayedMoment;
+        desk.Obey("click TimeAstro.UseDeltaT");
+        EXPECT_EQ(DisplayedMoment, moment);
+        EXPECT_EQ(UniversalToTerrestrial(moment), atomic);
+
+        desk.Obey("click TimeAstro.UseDeltaT");
+        desk.Obey("call JumpDate 1 false");
+        desk.Obey("click TimeAstro.UseDeltaT");
+        EXPECT_NEAR(DisplayedMoment, moment + 1, 1e-4) << moment;
+    }
+}
+
+TEST_F(TimeFieldsTest, TellDaylightSavingTime) {
+    constexpr std::tuple<const char*, Moment, bool, int, const char*> rows[] = {
+        {"SetJerusalem", 738900, true, 16711680, "Standard Time applied for the displayed moment"},
+        {"SetJerusalem", 739080, true, 255, "Daylight Saving Time applied for the displayed moment"},
+        {"SetMelbourne", 738900, true, 255, "Daylight Saving Time applied for the displayed moment"},
+        {"SetMelbourne", 739080, true, 16711680, "Standard Time applied for the displayed moment"},
+        {"SetMelbourne", 738900, false, -1, "Daylight Saving Time disabled"},
+        {"SetTehran", 739080, true, -1, "Daylight Saving Time disabled"},
+    };
+    for (const auto& [place, moment, on, color, tooltip] : rows) {
+        if ((AdjustDST == 1) != on) fields.AdjustDST_Click();
+        desk.Obey(std::string("menu ") + place);
+        Show(moment);
+        EXPECT_EQ(fields.AdjustDST.tooltip, tooltip) << place << moment;
+        EXPECT_EQ(fields.AdjustDST.colors ? fields.AdjustDST.colors->foreground.Number() : -1, color) << place;
+        EXPECT_EQ(fields.AdjustDST.enabled, std::string(place) != "SetTehran");
+    }
+    AdjustDST = Undecided;
+    fields.AdjustDST_Click();
+    EXPECT_EQ(AdjustDST, Unchecked);
+}
+
+/// Each clock time follows the rule of its own moment: in the night of a switch the bar shows both.
+TEST_F(TimeFieldsTest, ShowTheSunInTheTimeOfTheClock) {
+    desk.Obey("menu SetTimesSquare");
+    Show(GregorianToFixed(2024, 3, 10));
+    const std::vector<StatusBar::Panel>& panels = fields.DawnDusk.panels;
+    EXPECT_EQ(panels[0].text.substr(0, 5), "17:57");
+    EXPECT_EQ(panels[2].text.substr(0, 5), "00:06");
+    EXPECT_EQ(panels[4].text.substr(0, 5), "07:14");
+    EXPECT_EQ(panels[8].text.substr(0, 5), "18:58");
+    EXPECT_EQ(panels[7].text.substr(0, 5), "11:44");
+    desk.Obey("click TimeAstro.DawnDusk 5");
+    EXPECT_EQ(desk.program.timeAstro.ClipBoardStatus.text, "Sunrise: " + panels[4].text);
+    EXPECT_EQ(panels[4].tooltip, "Solar Depression 1°01'52.9\" (elevation adjusted)");
+}
+
+TEST_F(TimeFieldsTest, ShowNoSunriseWhereThereIsNone) {
+    desk.Obey("menu SetCFSalert");
+    for (const FixedDay day : {GregorianToFixed(2024, 6, 21), GregorianToFixed(2024, 12, 21)}) {
+        Show(day);
+        const std::vector<StatusBar::Panel>& panels = fields.DawnDusk.panels;
+        for (const std::size_t i : {0, 1, 3, 4, 5, 7, 8}) EXPECT_EQ(panels[i].text, "never") << i;
+        for (const std::size_t i : {2, 6}) EXPECT_NE(panels[i].text, "never") << i;
+    }
+    EXPECT_FALSE(fields.UseElevation.enabled);
+}
+
+TEST_F(TimeFieldsTest, StepByYears) {
+    constexpr std::tuple<const char*, const char*, double> rows[] = {
+        {"4", "press Up", 1},          {"4", "press Down", -1},
+        {"4", "press PageUp", 10},     {"5", "press Up", 10},
+        {"5", "press PageDown", -100}, {"6", "press Down", -100},
+        {"6", "press PageUp", 1000},   {"4", "call JumpDate 2.25 false", 2.25}};
+    for (const auto& [step, line, years] : rows) {
+        desk.Obey(std::string("menu StepMenu ") + step);
+        for (const Moment moment : {500'000.25, 739000.0}) {
+            desk.Obey("menu StepBySolarYear");
+            Show(moment);
+            desk.Obey(line);
+            EXPECT_NEAR(DisplayedMoment, moment + years * MeanTropicalYear, 3) << line;
+            const double turned = SolarLongitude(DisplayedMoment) - SolarLongitude(moment) - 360 * years;
+            EXPECT_NEAR(Modulo(turned + 180, 360), 180, 2e-5) << line;
+
+            desk.Obey("menu StepByOrbitalYear");
+            Show(moment);
+            desk.Obey(line);
+            EXPECT_NEAR(MomentToRAYDate(DisplayedMoment), MomentToRAYDate(moment) + years, 1e-6) << line;
+        }
+    }
+    EXPECT_EQ(desk.program.timeAstro.IncrementDisplay.text, "Step by Orbital Years");
+    EXPECT_EQ(desk.Obey("menu StepMenu 3"), "error: no such menu item: StepMenu 3");
+}
+
+std::string AstronomyEvents() {
+    std::string texts;
+    for (const day_events::Event& event : day_events::List()) {
+        if (event.calendar == "Astronomy") texts += event.date + " " + event.text + ";";
+    }
+    return texts;
+}
+
+TEST_F(TimeFieldsTest, PostTheSolarEventsOfTheWholeDay) {
+    const std::pair<Moment, const char*> rows[] = {
+        {GregorianToFixed(2024, 3, 19) + 0.99, ""},
+        {GregorianToFixed(2024, 3, 20), "03:05 Northward Equinox (Solar Longitude 0°)"},
+        {GregorianToFixed(2024, 3, 20) + 0.99, "03:05 Northward Equinox (Solar Longitude 0°)"},
+        {GregorianToFixed(2024, 3, 21), ""},
+        {GregorianToFixed(2024, 6, 20) + 0.5, "20:50 North Solstice (Solar Longitude 90°)"},
+        {GregorianToFixed(2024, 9, 22), "12:43 Southward Equinox (Solar Longitude 180°)"},
+        {GregorianToFixed(2024, 12, 21), "09:19 South Solstice (Solar Longitude 270°)"},
+        {GregorianToFixed(2024, 12, 30), ""},
+        {GregorianToFixed(2024, 1, 4), "05:41 Mean Perihelion of Earth-Moon Barycenter"},
+        {GregorianToFixed(2023, 12, 31) + 0.9,
+         "22:58 Mean Orbital New Year;23:04:25 UT Besselian New Year (Solar Longitude 280°)"},
+    };
+    for (const auto& [moment, event] : rows) {
+        Show(moment);
+        std::string posted = AstronomyEvents();
+        if (!posted.empty()) posted.erase(5, 6);  // the seconds and the scale
+        EXPECT_EQ(posted, std::string(event) + (*event ? ";" : "")) << moment;
+    }
+}
+
+TEST_F(TimeFieldsTest, PostTheNewYearOfTheDateThatIsShown) {
+    const Moment orbital = OrbitalDateToMoment(2024);
+    const Moment rotationAdjusted = RAYDateToMoment(2024);
+    for (const bool shown : {true, false}) {
+        desk.Obey("click TimeAstro.Orbital_RAY_Toggle");
+        EXPECT_EQ(ShowsRAYDate, shown);
+        Show(Floor(shown ? rotationAdjusted : orbital));
+        EXPECT_NE(AstronomyEvents().find(shown ? "Rotation-Adjusted New Year" : "Mean Orbital New Year"),
+                  std::string::npos);
+        Show(DisplayedMoment + 2);
+        EXPECT_EQ(AstronomyEvents().find("New Year"), std::string::npos);
+    }
+}
+
+TEST_F(TimeFieldsTest, CopyWhatIsClicked) {
+    constexpr std::pair<const char*, const char*> rows[] = {
+        {"TimeAstro.TimeOfDay", "Universal Time 06:00:00, DST 09:00:00, Local Mean 08:20:56, Local Apparent 08:15:00"},
+        {"TimeAstro.JD_MJD", "Julian Day number since Nov 24, -4713 (Gregorian) at Noon: 2460505.75"},
+        {"TimeAstro.DeltaTdisp", "Delta T: 74.188s = 00:01:14"},
+        {"TimeAstro.SavedDiffBox", "181.25 days before saved date. = 181 days 06:00:00"},
+        {"TimeAstro.FixedDayNumLabel",
+         "Universal Days relative to day 1 on Monday, January 1, 1 (Gregorian) at Midnight: 739081.25"},
+    };
+    desk.Obey("menu SetJerusalem");
+    Show(738900);
+    desk.Obey("menu SaveThisMoment");
+    Show(739081.25);
+    for (const auto& [control, copied] : rows) {
+        EXPECT_EQ(desk.Obey(std::string("click ") + control), "ok");
+        EXPECT_EQ(desk.program.timeAstro.ClipBoardStatus.text, copied);
+    }
+    Show(-2000000);
+    desk.Obey("click TimeAstro.DeltaTdisp");
+    EXPECT_EQ(desk.program.timeAstro.ClipBoardStatus.text.substr(0, 16), "Delta T: 170270s");
+}
+
+}  // namespace
+}  // namespace horvanta

@@ -1,0 +1,23 @@
+#include "clock/zone_time.h"
+#include "desk_rows.h"
+
+namespace horvanta {
+
+std::vector<DeskFunction> ClockFunctions() {
+    return {
+        PlaceRow("isDaylightTime", isDaylightTime),
+        PlaceRow("DaylightStart", DaylightStart),
+        PlaceRow("DaylightEnd", DaylightEnd),
+        PlaceRow("StandardToDaylight", StandardToDaylight),
+        PlaceRow("DaylightToStandard", DaylightToStandard),
+        Row("DaylightSwitchText", DaylightSwitchText),
+    };
+}
+
+std::vector<DeskVariable> ClockVariables() {
+    return {
+        Variable("AdjustDST", zone_time::options.AdjustDST),
+    };
+}
+
+}  // namespace horvanta
