@@ -45,9 +45,9 @@ Settings ProgramRows() {
 /// The position of the Events window marks settings of this layout. Others are cleared, but for the mark of a start
 /// that has not finished.
 Setting LayoutMark(const Form& time) {
-    return {"Events", "Top", "",
+    return {"Events", "Top", "-",
             [](const std::string& text) {
-                if (!text.empty()) return true;
+                if (text != "-") return true;
                 DeleteAllPrefs();
                 CurrentDesktop->Settings().Write(ProgramSettings, "Prog", "Launch", "");
                 return true;

@@ -4,7 +4,7 @@
 #include "core/moment.h"
 #include "core/text.h"
 #include "desk.h"
-#include "hebrew/molad.h"
+#include "hebrew/hebrew_options.h"
 #include "locale/presets.h"
 
 #include <gtest/gtest.h>
@@ -105,7 +105,7 @@ TEST(StoredSettings, ReadNumbersAsTheyAreWritten) {
     settings["Horvanta"]["Item"]["MTF"] = "3";
     const Desk desk(settings);
     EXPECT_EQ(DisplayedMoment, 739000);
-    EXPECT_EQ(MoladTimeFormat, 7);
+    EXPECT_EQ(hebrew::options.MoladTimeFormat, 7);
 }
 
 /// The numbering is that of the last run, its date and its jump too.
@@ -132,7 +132,7 @@ TEST(StoredSettings, OfAnOlderLayoutAreCleared) {
     settings["Horvanta"].erase("Events");
     const Desk desk(settings);
     EXPECT_EQ(Locale.Name, "Greenwich");
-    EXPECT_EQ(StepIndex, 1);
+    EXPECT_EQ(stepping::options.StepIndex, 1);
 }
 
 TEST(StoredSettings, ChooseTheUsersOwnPlaceWithoutAQuestion) {
