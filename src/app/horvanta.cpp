@@ -162,6 +162,7 @@ void Horvanta::RunUpdatePass() {
         }
     }
     jumps.SetAgainCaption();
+    history.Note();
 }
 
 /// A window that is shown gets the focus; one that is hidden gives it to the time window.

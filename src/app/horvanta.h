@@ -1,5 +1,6 @@
 #pragma once
 
+#include "app/history.h"
 #include "app/jumps.h"
 #include "app/options.h"
 #include "app/places.h"
@@ -57,6 +58,7 @@ class Horvanta {
     Places places{frame, timeAstro.fields};
     Jumps jumps{frame, timeAstro};
     Options options{frame};
+    History history{frame, places};
 
     /// In the order in which they are loaded and update.
     std::vector<WindowRow> windows{

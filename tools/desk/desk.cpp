@@ -171,8 +171,14 @@ std::string Desk::Get(std::string_view rest) {
 std::string Desk::Press(std::string_view rest) {
     const int code = CodeOf(TakeWord(rest));
     int shift = 0;
-    while (!rest.empty()) shift |= ShiftOf(TakeWord(rest));
-    if (!desktop.Press(code, shift)) throw BadLine("no window has the focus");
+    while (!rest.empty()) {
+        const std::string_view word = TakeWord(rest);
+        KeyHeld = KeyHeld || word == "held";
+        shift |= word == "held" ? 0 : ShiftOf(word);
+    }
+    const bool pressed = desktop.Press(code, shift);
+    KeyHeld = false;
+    if (!pressed) throw BadLine("no window has the focus");
     return "ok";
 }
 
