@@ -1,23 +1,16 @@
 #include "astro/lunar_phases.h"
 #include "astro/moon.h"
 #include "astro/moon_events.h"
-#include "core/numbering.h"
 #include "locale/presets.h"
 #include "ratios.h"
 #include "samples.h"
 
-#include <benchmark/benchmark.h>
-
 #include <cmath>
+#include <cstdint>
 #include <vector>
 
 namespace horvanta {
 namespace {
-
-const std::vector<Moment>& Moments() {
-    static const std::vector<Moment> moments = RandomNumbers(MinFixedDay, MaxFixedDay, 10'000);
-    return moments;
-}
 
 const std::vector<double>& Lunations() {
     static const std::vector<double> lunations = RandomNumbers(-60'000, 140'000, 10'000);
@@ -29,27 +22,27 @@ const LocaleRecord& Jerusalem() {
     return place;
 }
 
-void Longitude(benchmark::State& state) { ForEach(state, Moments(), lunar::Longitude); }
-void Latitude(benchmark::State& state) { ForEach(state, Moments(), lunar::Latitude); }
-void Distance(benchmark::State& state) { ForEach(state, Moments(), lunar::Distance); }
+void Longitude(benchmark::State& state) { ForEach(state, RandomMoments(), lunar::Longitude); }
+void Latitude(benchmark::State& state) { ForEach(state, RandomMoments(), lunar::Latitude); }
+void Distance(benchmark::State& state) { ForEach(state, RandomMoments(), lunar::Distance); }
 
 void NewMoon(benchmark::State& state) {
     ForEach(state, Lunations(), [](double n) { return NthNewMoon(static_cast<std::int64_t>(n)); });
 }
 
 void PhaseOf(benchmark::State& state) {
-    ForEach(state, Moments(), [](Moment x) { return lunar::Phase(x); });
+    ForEach(state, RandomMoments(), [](Moment x) { return lunar::Phase(x); });
 }
 
 void NextPhase(benchmark::State& state) {
-    ForEach(state, Moments(), [](Moment x) { return PhaseAfter(x, x - 360 * std::floor(x / 360)); });
+    ForEach(state, RandomMoments(), [](Moment x) { return PhaseAfter(x, x - 360 * std::floor(x / 360)); });
 }
 
-void NextNewMoon(benchmark::State& state) { ForEach(state, Moments(), NewMoonAfter); }
+void NextNewMoon(benchmark::State& state) { ForEach(state, RandomMoments(), NewMoonAfter); }
 
 /// What the search for the next new moon may cost: a phase and six new moons.
 void PhaseAndSixNewMoons(benchmark::State& state) {
-    ForEach(state, Moments(), [](Moment x) {
+    ForEach(state, RandomMoments(), [](Moment x) {
         const std::int64_t n = ApproxNthMoon(x);
         double sum = 0;
         for (std::int64_t i = 3; i < 9; ++i) sum += NthNewMoon(n + i);
@@ -58,7 +51,7 @@ void PhaseAndSixNewMoons(benchmark::State& state) {
 }
 
 void ObservedAltitude(benchmark::State& state) {
-    ForEach(state, Moments(), [](Moment x) { return lunar::ObservedAltitude(x, Jerusalem()); });
+    ForEach(state, RandomMoments(), [](Moment x) { return lunar::ObservedAltitude(x, Jerusalem()); });
 }
 
 void MoonriseOverAYear(benchmark::State& state) {

@@ -1,22 +1,13 @@
 #include "astro/sun.h"
 #include "astro/sun_events.h"
-#include "core/numbering.h"
 #include "locale/presets.h"
 #include "ratios.h"
 #include "samples.h"
 
-#include <benchmark/benchmark.h>
-
 #include <cmath>
-#include <vector>
 
 namespace horvanta {
 namespace {
-
-const std::vector<Moment>& Moments() {
-    static const std::vector<Moment> moments = RandomNumbers(MinFixedDay, MaxFixedDay, 10'000);
-    return moments;
-}
 
 /// So many that a processor can't learn them: those of the series are not learned either.
 void Sine(benchmark::State& state) {
@@ -25,11 +16,11 @@ void Sine(benchmark::State& state) {
 }
 
 void Longitude(benchmark::State& state) {
-    ForEach(state, Moments(), [](Moment x) { return SolarLongitude(x); });
+    ForEach(state, RandomMoments(), [](Moment x) { return SolarLongitude(x); });
 }
 
 void LongitudeAfter(benchmark::State& state) {
-    ForEach(state, Moments(), [](Moment x) { return SolarLongitudeAfter(x, x - 360 * std::floor(x / 360)); });
+    ForEach(state, RandomMoments(), [](Moment x) { return SolarLongitudeAfter(x, x - 360 * std::floor(x / 360)); });
 }
 
 /// Each day of a year at Jerusalem, over and over.
