@@ -6,7 +6,7 @@ namespace horvanta {
 
 QString PlainToolTip(const std::string& text) {
     const QString plain = QString::fromStdString(text);
-    return Qt::mightBeRichText(plain) ? Qt::convertFromPlainText(plain) : plain;
+    return Qt::mightBeRichText(plain) ? Qt::convertFromPlainText(plain, Qt::WhiteSpaceNormal) : plain;
 }
 
 /// Doubled, the sign stands for itself.

@@ -87,48 +87,53 @@ void SettingsFile::DeleteSection(std::string_view application, std::string_view 
     FileOf(application).values.erase(std::string(section));
 }
 
+/// What can't be cleared for good stays in use.
 void SettingsFile::DeleteApplication(std::string_view application) {
     File& file = FileOf(application);
     file.isForgotten = file.isDamaged || isWorthKeeping(file.stored);
-    file.values.clear();
+    if (file.refusal.empty()) file.values.clear();
 }
 
-/// Replaces a file that differs, and returns why that failed; empty if it did not. What was forgotten is moved aside
-/// before: even if the new settings do not fit on the disk the old ones must not be read again.
-std::string SettingsFile::Replace(std::string_view application, File& file, FlushReport& report) {
+/// Even if the new settings do not fit on the disk, the old ones must not be read again.
+std::string SettingsFile::PutAside(File& file) {
+    std::string failure = isFile(file.path) ? MoveFile(file.path, KeptOf(file.path)) : "";
+    if (!failure.empty()) return failure;
+    file.isForgotten = file.isDamaged = false;
+    file.stored.clear();
+    return "";
+}
+
+std::string SettingsFile::Bring(std::string_view application, File& file) {
+    const bool isOnDisk = file.values == file.stored && isFile(file.path);
+    if (isOnDisk || file.values.empty()) return "";
+    const std::string kept = file.isDamaged ? KeptOf(file.path) : "";
+    std::string failure = ReplaceFile(file.path, SettingsText(application, file.values), kept);
+    if (!failure.empty()) return failure;
+    file.isDamaged = false;
+    file.stored = file.values;
+    return "";
+}
+
+std::string SettingsFile::Flush(std::string_view application, File& file, FlushReport& report) {
     const bool isSame = file.values == file.stored && !file.isForgotten;
     if (!file.refusal.empty()) return isSame ? "" : file.refusal;
     SetMark(file.path, file.isStarting);
-    if (isSame && (file.stored.empty() || isFile(file.path))) return "";
-
-    const std::string kept = KeptOf(file.path);
-    const bool isKept = file.isDamaged || file.isForgotten;
-    if (std::exchange(file.isForgotten, false)) {
-        if (std::string failure = MoveFile(file.path, kept); !failure.empty()) {
-            file.isForgotten = true;
-            return failure;
-        }
-        file.isDamaged = false;
-        file.stored.clear();
-    }
-    const std::string failure = file.values.empty() ? ""
-                                                    : ReplaceFile(file.path, SettingsText(application, file.values),
-                                                                  file.isDamaged ? kept : "");
-    if (failure.empty()) {
-        file.stored = file.values;
-        file.isDamaged = false;
-    }
-    if (isKept && !file.isDamaged) report.kept = "The former settings are kept in " + kept + ".";
+    const bool isToBeKept = file.isForgotten || (file.isDamaged && !isSame);
+    std::string failure = file.isForgotten ? PutAside(file) : "";
+    if (failure.empty()) failure = Bring(application, file);
+    const bool isKept = isToBeKept && !file.isForgotten && !file.isDamaged;
+    if (isKept) report.kept = "The former settings are kept in " + KeptOf(file.path) + ".";
     return failure;
 }
 
 FlushReport SettingsFile::Flush() {
     FlushReport report;
     for (auto& [application, file] : files_) {
-        const std::string failure = Replace(application, file, report);
+        const std::string failure = Flush(application, file, report);
         if (failure.empty()) continue;
         if (!report.failure.empty()) report.failure += "\n";
-        report.failure += "The settings could not be saved in " + file.path + ": " + failure + ".";
+        report.failure +=
+            "The settings could not be saved in " + PathOf(application).toStdString() + ": " + failure + ".";
     }
     Complain(report);
     return report;

@@ -46,7 +46,12 @@ class SettingsFile final : public SettingsStore {
 
     File& FileOf(std::string_view application);
     static File Load(const std::string& path);
-    static std::string Replace(std::string_view application, File& file, FlushReport& report);
+
+    // Each returns why it failed; empty if it did not.
+    static std::string Flush(std::string_view application, File& file, FlushReport& report);
+    static std::string PutAside(File& file);
+    static std::string Bring(std::string_view application, File& file);
+
     void Complain(const FlushReport& report);
 
     std::map<std::string, File, std::less<>> files_;
