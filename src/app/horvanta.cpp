@@ -5,6 +5,7 @@
 #include "core/day_events.h"
 #include "core/desktop.h"
 #include "core/moment.h"
+#include "core/text.h"
 
 #include <ranges>
 
@@ -14,6 +15,11 @@ namespace {
 /// Empty while a start has not finished.
 void WriteLaunchMark(std::string_view text) {
     CurrentDesktop->Settings().Write(ProgramSettings, "Prog", "Launch", text);
+}
+
+bool isNumberStored(std::string_view key) {
+    const auto text = CurrentDesktop->Settings().Read(ProgramSettings, "Item", key);
+    return text && ParseLeadingNumber(*text);
 }
 
 void EnableNeeding(const WindowRow& row) {
@@ -109,13 +115,15 @@ void Horvanta::TakeSettings() {
     CurrentDesktop->LetEventsRun();
 }
 
+/// In a first run there is no moment yet, and neither where a damaged line lost it. Where it is there, but the line
+/// that tells whether to start with today was lost, it is not given up for that.
 void Horvanta::ChooseMoment() {
-    SettingsStore& settings = CurrentDesktop->Settings();
-    const bool firstRun =
-        !settings.Read(ProgramSettings, "Item", "RD") && !settings.Read(ProgramSettings, "Item", "SD");
-    if (stepping::options.AlwaysToday || firstRun) jumps.MenuJumpToToday_Click();
-    if (firstRun) jumps.SaveThisMoment_Click();
-    timeAstro.StepMenu_Click(firstRun ? 1 : stepping::options.StepIndex);
+    const bool hasMoment = isNumberStored("RD");
+    const auto wish = CurrentDesktop->Settings().Read(ProgramSettings, timeAstro.form.name, "Chk");
+    if (hasMoment && !TruthOf(wish.value_or(""))) stepping::options.AlwaysToday = false;
+    if (stepping::options.AlwaysToday || !hasMoment) jumps.MenuJumpToToday_Click();
+    if (!isNumberStored("SD")) jumps.SaveThisMoment_Click();
+    timeAstro.StepMenu_Click(stepping::options.StepIndex);
 }
 
 bool Horvanta::Form_Unload() {

@@ -7,11 +7,13 @@
 namespace horvanta {
 namespace {
 
-/// Where it stands is only written while it is neither minimised nor maximised.
+/// Where it stands is only written while it is neither minimised nor maximised. A size that was lost is that of the
+/// screen, which is the largest that the desktop allows.
 Settings FrameRows(HorvantaMDI& frame) {
     constexpr double farthest = 1e6;  // twips
-    const auto edge = [&](std::string_view key, double Position::*number) {
+    const auto edge = [&](std::string_view key, double Position::*number, double standard = 0) {
         Setting row = NumberRow(frame.name, key, frame.position, number, -farthest, farthest);
+        row.standard = ExactText(standard);
         row.give = [&frame, give = row.give] { return frame.state == FrameNormal ? give() : std::nullopt; };
         return row;
     };
@@ -23,8 +25,8 @@ Settings FrameRows(HorvantaMDI& frame) {
              [&frame] { return std::to_string(frame.state); }},
             edge("Top", &Position::top),
             edge("Left", &Position::left),
-            edge("Width", &Position::width),
-            edge("Height", &Position::height)};
+            edge("Width", &Position::width, farthest),
+            edge("Height", &Position::height, farthest)};
 }
 
 Settings ProgramRows() {

@@ -149,6 +149,25 @@ TEST(StoredSettings, ReadNumbersAsTheyAreWritten) {
     EXPECT_EQ(hebrew::options.MoladTimeFormat, 7);
 }
 
+/// A damaged line for the displayed moment, or for whether to start with today, costs neither the other nor the saved
+/// moment or the step.
+TEST(StoredSettings, KeepMomentsApart) {
+    for (const char* damage : {"", "beige"}) {
+        StoredSettings settings = AllRows();
+        settings["Horvanta"]["TimeAstro"]["Chk"] = damage;
+        {
+            const Desk desk(settings);
+            EXPECT_EQ(DisplayedMoment, 739000.125);
+        }
+        settings = AllRows();
+        settings["Horvanta"]["Item"]["RD"] = damage;
+        const Desk desk(settings);
+        EXPECT_EQ(DisplayedMoment, 738900);
+        EXPECT_EQ(SavedMoment, 700000.5);
+        EXPECT_EQ(stepping::options.StepIndex, 5);
+    }
+}
+
 /// The numbering is that of the last run, its date and its jump too.
 TEST(StoredSettings, KeepTheDateUnderEveryNumbering) {
     for (const double epoch : {1.0, -730484.0, 1721426.0, -678575.0, 1373430.0}) {
