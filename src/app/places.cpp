@@ -85,7 +85,7 @@ Settings Places::SlotRows(std::size_t slot) {
     PlaceEntry& entry = entries_[slot];
     Settings rows{{section, "Name", "",
                    [&entry](const std::string& text) {
-                       entry.name = text;
+                       entry.name = NameText(text);
                        return true;
                    },
                    [&entry] { return entry.name; }},
