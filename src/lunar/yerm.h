@@ -43,7 +43,7 @@ FixedDay YermDateToFixed(std::int32_t era, std::int32_t yerm, std::int32_t month
 /// The month of a date, with the fraction that is over.
 double YermDateToLunation(std::int32_t era, std::int32_t yerm, std::int32_t month, std::int32_t day);
 
-/// The date as "20+43(7(12": era or cycle, yerm, month and day; a dash where there is none.
+/// The date as "21+3(5(24": era or cycle, yerm, month and day; a dash where there is none.
 std::string FixedToYermString(Moment x);
 
 /// True if the moment has a date in a yerm that its era has, and the date leads back to its day.

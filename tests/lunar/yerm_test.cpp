@@ -42,18 +42,16 @@ class Yerm : public testing::Test {
     void ExpectFixedCycle() {
         EXPECT_FALSE(PresentYermForm().Progressive);
         EXPECT_EQ(PresentYermForm().EraFilePath, "");
-        EXPECT_EQ(FixedToYermString(730120), "20+46(14(24");
+        EXPECT_EQ(FixedToYermString(730120), "21+3(5(24");
     }
 
   private:
     std::string path_ = std::filesystem::temp_directory_path() / ("yerm_test_" + std::to_string(getpid()));
 };
 
-constexpr int eraOf30Yerms = 14470 + 502 - 1447 * 0;  // ten subcycles and the last yerm
-
-/// With a yerm zero, without; three equal ones as one span, which are a subcycle shorter than the one before; four as
-/// long as that; and a last one that goes on.
-const std::vector<int> lengths{24598, 25544, 3 * 24097, 4 * 24097, 25101};
+/// Without and with a yerm zero; three equal ones as one span, which are a subcycle shorter than the one before; four
+/// as long as that; and a last one that goes on.
+const std::vector<int> lengths{25101, 25544, 3 * 24097, 4 * 24097, 25101};
 
 /// Day by day to the date and back, where each day follows the one before it.
 void WalkDays(double first, double last) {
@@ -87,14 +85,14 @@ TEST_F(Yerm, DaysOfAListFollowEachOther) {
 
 TEST_F(Yerm, SpansOfAListAreTakenApart) {
     ASSERT_TRUE(OpenYermEraList(List(lengths)));
-    const int expected[] = {24598, 25544, 24097, 24097, 24097, 24097, 24097, 24097, 24097, 25101, 25101, 25101};
+    const int expected[] = {25101, 25544, 24097, 24097, 24097, 24097, 24097, 24097, 24097, 25101, 25101, 25101};
     double start = 201853.5;
     for (int number = 1; const int days : expected) {
         const YermEra era = YermEraLookup(number, YermKey::Number).value();
         EXPECT_EQ(era.EraDays, days) << number;
         EXPECT_EQ(era.EraStart, start) << number;
         EXPECT_EQ(YermEraLookup(era.LunationEnd - 1, YermKey::Lunation)->EraNumber, number);
-        EXPECT_EQ(era.HasYermZero, number == 2) << number;
+        EXPECT_EQ(era.HasYermZero, number >= 2 && number <= 9) << number;
         EXPECT_NEAR(era.MeanMonth(), 29.5306, 0.0001) << number;
         EXPECT_EQ(era.N29() * 29 + era.N30() * 30, days) << number;
         EXPECT_EQ(era.N29() + era.N30(), era.EraMonths) << number;
@@ -115,7 +113,7 @@ TEST_F(Yerm, CycleHas52Yerms) {
 /// A month begins on the day of the mean new moon or beside it, as long as the cycle's mean month holds.
 TEST_F(Yerm, MonthsKeepToTheMoon) {
     for (double lunation = -17889; lunation < 6000; ++lunation) {
-        ASSERT_NEAR(LunationEraToFixed(lunation) + 0.5, MeanNewMoonUT(lunation), 1.6) << lunation;
+        ASSERT_NEAR(LunationEraToFixed(lunation) + 0.5, MeanNewMoonUT(lunation), 1.7) << lunation;
         ASSERT_NEAR(LunationEraToMoment(lunation), MeanNewMoonUT(lunation), 0.5) << lunation;
     }
     EXPECT_NEAR(LunationEraToMoment(-17889 + 850), MeanNewMoonUT(-17889 + 850) + 1.0 / 12, 1e-6);
