@@ -246,8 +246,8 @@ TEST_F(Yerm, GridCountsYerms) {
     EXPECT_EQ(YermCalendar.ToFixed(52 * 20 + 3, 2, 7), YermDateToFixed(20, 3, 2, 7) + 0.5);
     EXPECT_EQ(YermCalendar.DateOf(730120.9).day, YermCalendar.DateOf(730120).day);
     ASSERT_TRUE(OpenYermEraList(List(lengths)));
-    EXPECT_EQ(YermCalendar.MonthNames(51).size(), 15U);  // yerm 0 of era 2
-    EXPECT_EQ(YermCalendar.MonthNames(51).back(), "Yerm 0, month 15");
+    EXPECT_EQ(YermCalendar.MonthNames(53).size(), 15U);  // yerm 0 of era 2
+    EXPECT_EQ(YermCalendar.MonthNames(53).back(), "Yerm 0, month 15");
     for (double day = 201854; day < 500000; day += 11) {
         const GridDate date = YermCalendar.DateOf(day);
         ASSERT_EQ(YermCalendar.ToFixed(date.year, date.month, date.day), day);
