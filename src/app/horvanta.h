@@ -66,9 +66,9 @@ class Horvanta {
     std::vector<WindowRow> windows{
         timeAstro.Row(),
         Beside(timeAstro.form, gregorian.Row()),
-        Below(gregorian.form, lunar.Row()),
         Below(timeAstro.form, quartane.Row()),
         Beside(quartane.form, monthly.Row()),
+        Below(gregorian.form, lunar.Row()),
         Below(monthly.form, julian.Row()),
         Below(gregorian.form, persian.Row()),
         Beside(monthly.form, userLocales.Row()),

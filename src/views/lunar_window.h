@@ -55,7 +55,7 @@ class LunarWindow {
     Label YLCera{form, "YLCera", Tip("Yerms of the era, or of the cycle of the fixed calendar"), Widest("Cycle -100 = 52 yerms")};
     Button InfoYLC{form, "InfoYLC", Caption("Yerm info"), Tip("Click here for Yerm Lunar Calendar information")};
     // clang-format on
-    WindowColors colors{"L", {Color::FromNumber(6250335), Color::FromNumber(16777215)}, MoonName, {{YLCdate}}};
+    WindowColors colors{"L", {Color::FromNumber(6250335), Color::FromNumber(16777215)}, MoonName};
 
   private:
     void HangHandlers();
