@@ -73,7 +73,7 @@ class Horvanta {
         Below(gregorian.form, persian.Row()),
         Beside(monthly.form, userLocales.Row()),
         {world.form, world.Dummy},
-        Below(julian.form, events.Row()),
+        Below(monthly.form, events.Row()),
     };
 
     /// The same, as far as they are there.
