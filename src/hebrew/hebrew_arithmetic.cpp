@@ -240,6 +240,9 @@ std::string HebrewShortDateString(const HebrewDateRecord& date, bool withYear) {
 
 std::string FixedToHebrewShortDate(Moment moment) { return HebrewShortDateString(FixedToHebrewDate(moment), false); }
 
+constinit const HebrewReckoning TraditionalReckoning{HebrewToFixed, FixedToHebrewDate, MonthsInHebrewYear,
+                                                     LastDayOfHebrewMonth, HebrewMonthName};
+
 double ElapsedMonths19(std::int32_t year, std::int32_t month) {
     return Quotient(235.0 * static_cast<double>(YearOfTishrei(year, month)) - 234, 19) + (month - 7.0);
 }

@@ -92,6 +92,19 @@ std::string FixedToHebrewString(Moment moment);
 std::string HebrewShortDateString(const HebrewDateRecord& date, bool withYear);
 std::string FixedToHebrewShortDate(Moment moment);
 
+// Reckonings.
+
+/// A way to count days into months, as a row of the operations above: the traditional one, or one of the modes.
+struct HebrewReckoning {
+    FixedDay (*ToFixed)(std::int32_t year, std::int32_t month, std::int32_t day);
+    HebrewDateRecord (*DateOf)(Moment moment);
+    std::int32_t (*MonthsInYear)(std::int32_t year);
+    std::int16_t (*LastDayOfMonth)(std::int32_t year, std::int32_t month);
+    std::string_view (*MonthName)(std::int32_t year, std::int32_t month);
+    bool astronomical = false;
+};
+extern const HebrewReckoning TraditionalReckoning;
+
 // Molad.
 
 /// Lunations before a month by the traditional cycle.

@@ -1,13 +1,23 @@
 #include "desk_rows.h"
 #include "hebrew/hebrew_arithmetic.h"
 #include "hebrew/hebrew_modes.h"
+#include "hebrew/holidays.h"
 #include "hebrew/molad.h"
+#include "hebrew/torah.h"
 
 namespace horvanta {
 
 std::string AnswerOf(const HebrewDateRecord& d) {
     return RecordAnswer("Fixed Year Month Day YearDay WeekDay WeekDayName", d.Fixed, d.Year, d.Month, d.Day, d.YearDay,
                         d.WeekDay, d.WeekDayName);
+}
+
+std::string AnswerOf(const HebrewDay& d) {
+    return AnswerOf(d.date) + " " +
+           RecordAnswer(
+               "BirkatHachodesh MoladText RoshChodesh ShabbatName YomTov CholHamoed Holiday Fast OmerText Notes Chanukah",
+               d.BirkatHachodesh, d.MoladText, d.RoshChodesh, d.ShabbatName, d.YomTov, d.CholHamoed, d.Holiday, d.Fast,
+               d.OmerText, d.Notes, d.Chanukah);
 }
 
 std::vector<DeskFunction> HebrewFunctions() {
@@ -52,6 +62,23 @@ std::vector<DeskFunction> HebrewFunctions() {
         Row("HebrewYearCharacter", HebrewYearCharacter),
         Row("HebrewYearType", HebrewYearType),
         Row("PostponeReason", PostponeReason),
+        PlaceRow("HebrewDayOf", HebrewDayOf),
+        PlaceRow(
+            "HebrewEvents", +[](Moment x, const LocaleRecord& place) { return HebrewDayOf(x, place).texts; }),
+        PlaceRow(
+            "TorahPortion",
+            +[](Moment x, bool keepHolidayText, const LocaleRecord& place) {
+                return TorahPortion(HebrewDayOf(x, place), keepHolidayText, place);
+            }),
+        Row("TorahPortionName", TorahPortionName),
+        Row(
+            "Passover", +[](std::int32_t gregorianYear) { return Passover(gregorianYear); }),
+        Row(
+            "Omer", +[](Moment x) { return Omer(x); }),
+        Row(
+            "YomHaZikaron", +[](std::int32_t year) { return YomHaZikaron(year); }),
+        Row("TzomTammuz", TzomTammuz),
+        Row("TishaBAv", TishaBAv),
     };
 }
 
