@@ -81,7 +81,10 @@ std::int32_t FixedToHebrewYear(Moment moment);
 /// as pickers want it; empty for any other.
 std::string_view HebrewMonthName(std::int32_t year, std::int32_t month);
 
-/// "Yom Rishon" (Sunday) to "Yom Shabbat", the weekday of a moment's day.
+/// "Yom Rishon" for 0 = Sunday to "Yom Shabbat" for 6.
+std::string_view WeekdayName(std::int32_t weekday);
+
+/// The weekday of a moment's day.
 std::string_view WeekdayLabel(Moment x);
 
 /// The date as "Yom Sheini, 1 Tishrei, 5773", with the tags of italics around weekday and month if asked.

@@ -53,8 +53,8 @@ TEST(Holidays, FallAsTheyAreKept) {
         {diaspora, 5784, 6, 26, "Start of Selichot"},
         {israel, 5784, 8, 7, "Begin Sh'elah in Israel (request for rain); Aliyah Day (observed in Israeli schools)"},
         {diaspora, 5784, 8, 7, ""},
-        {diaspora, 5784, 10, 2, "Chanukah 7"},  // Kislev of 30 days
-        {diaspora, 5781, 10, 3, "Chanukah 8"},  // of 29
+        {diaspora, 5783, 10, 2, "Chanukah 8"},  // Kislev of 30 days
+        {diaspora, 5784, 10, 3, "Chanukah 8"},  // of 29
         {diaspora, 5784, 12, 14, "Purim Katan"},
         {diaspora, 5784, 13, 14, "Purim"},
         {diaspora, 5784, 13, 15, ""},

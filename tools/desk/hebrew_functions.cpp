@@ -3,7 +3,10 @@
 #include "hebrew/hebrew_modes.h"
 #include "hebrew/holidays.h"
 #include "hebrew/molad.h"
+#include "hebrew/tekufot.h"
 #include "hebrew/torah.h"
+#include "hebrew/year_types.h"
+#include "hebrew/zmanim.h"
 
 namespace horvanta {
 
@@ -18,6 +21,33 @@ std::string AnswerOf(const HebrewDay& d) {
                "BirkatHachodesh MoladText RoshChodesh ShabbatName YomTov CholHamoed Holiday Fast OmerText Notes Chanukah",
                d.BirkatHachodesh, d.MoladText, d.RoshChodesh, d.ShabbatName, d.YomTov, d.CholHamoed, d.Holiday, d.Fast,
                d.OmerText, d.Notes, d.Chanukah);
+}
+
+std::string AnswerOf(const HebrewYearTypeCount& type) {
+    return RecordAnswer("character years", type.character, type.years);
+}
+
+std::string AnswerOf(const Zman& z) {
+    return RecordAnswer("key legend name rule mark moment isDue", z.key, z.legend, z.name, z.rule, z.mark, z.moment,
+                        z.isDue);
+}
+
+/// A list of records.
+template <class Record>
+std::string AnswerOf(const std::vector<Record>& list) {
+    std::string text;
+    for (const Record& record : list) text += (text.empty() ? "" : "; ") + AnswerOf(record);
+    return text;
+}
+
+std::string AnswerOf(const WeekdayCounts& counts) {
+    std::string text;
+    for (const std::int32_t years : counts.years) text += AnswerOf(years) + " ";
+    return text + "of " + AnswerOf(counts.total);
+}
+
+std::vector<Zman> ZmanimOfDay(Moment x, const LocaleRecord& place) {
+    return ZmanimOf(HebrewDayOf(x, place), HebrewDayOf(x + 1, place), place);
 }
 
 std::vector<DeskFunction> HebrewFunctions() {
@@ -77,6 +107,36 @@ std::vector<DeskFunction> HebrewFunctions() {
             "Omer", +[](Moment x) { return Omer(x); }),
         Row(
             "YomHaZikaron", +[](std::int32_t year) { return YomHaZikaron(year); }),
+        PlaceRow("Zmanim", ZmanimOfDay),
+        PlaceRow("JewishRecognition", JewishRecognition),
+        PlaceRow("ZmanToStandard", ZmanToStandard),
+        PlaceRow(
+            "ShabbatOrFestivalName",
+            +[](Moment x, const LocaleRecord& place) { return ShabbatOrFestivalName(HebrewDayOf(x, place)); }),
+        Row("MomentToMazzal", MomentToMazzal),
+        Row("MomentToMazzalName", MomentToMazzalName),
+        Row("RMBM_SolarMeanLongitude", RMBM_SolarMeanLongitude),
+        Row("RMBM_ApogeeLongitude", RMBM_ApogeeLongitude),
+        Row("RMBM_LunarMeanLongitude", RMBM_LunarMeanLongitude),
+        Row("RMBM_LunarPathMeanLongitude", RMBM_LunarPathMeanLongitude),
+        Row("RMBM_LunarRoshLongitude", RMBM_LunarRoshLongitude),
+        Row("RMBM_LunarZanavLongitude", RMBM_LunarZanavLongitude),
+        Row("RMBM_SolarLongitudeAdjust", RMBM_SolarLongitudeAdjust),
+        Row("RMBM_SolarTrueLongitude", RMBM_SolarTrueLongitude),
+        Row("RMBM_SolarLongitudeAfter", RMBM_SolarLongitudeAfter),
+        Row("RMBM_DoubleElongation", RMBM_DoubleElongation),
+        Row("RMBM_LunarTrueLongitude", RMBM_LunarTrueLongitude),
+        Row("RMBM_LunarLatitude", RMBM_LunarLatitude),
+        Row("RMBM_DegreesInConstellation", RMBM_DegreesInConstellation),
+        Row("RMBM_TekufatShmuel", RMBM_TekufatShmuel),
+        Row("RMBM_TekufatAdda", RMBM_TekufatAdda),
+        Row("RMBM_TekufatTesselby", RMBM_TekufatTesselby),
+        Row("PossibleWeekdayCounts", PossibleWeekdayCounts),
+        Row("PossibleWeekdays", PossibleWeekdays),
+        Row("YearTypeAfter", YearTypeAfter),
+        Row("FullCycleFreq", FullCycleFreq),
+        Row("TypeFreq", TypeFreq),
+        Row("ExplainCharacter", ExplainCharacter),
         Row("TzomTammuz", TzomTammuz),
         Row("TishaBAv", TishaBAv),
     };
@@ -85,6 +145,7 @@ std::vector<DeskFunction> HebrewFunctions() {
 std::vector<DeskVariable> HebrewVariables() {
     return {
         Variable("MoladTimeFormat", hebrew::options.MoladTimeFormat),
+        Variable("CandlesBeforeSunset", hebrew::options.CandlesBeforeSunset),
         Variable("CycleShift", hebrew::options.CycleShift),
         Variable("UseHebrewFont", hebrew::options.UseHebrewFont),
     };
