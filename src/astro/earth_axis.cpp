@@ -1,12 +1,8 @@
 #include "astro/earth_axis.h"
 
+#include "astro/series.h"
 #include "astro/sun_tables.h"
 #include "core/memo.h"
-#include "core/numerics.h"
-
-#include <algorithm>
-#include <array>
-#include <cmath>
 
 namespace horvanta {
 namespace {
@@ -29,34 +25,14 @@ Arguments ArgumentsAt(double c) {
             .omega = 125.04452 - 1934.136261 * c + 0.0020708 * c * c + c * c * c / 450000};
 }
 
-constexpr std::size_t termCount = std::size(nutationTerms);
-
-/// One field of all terms, side by side for the loop that goes over them several at once.
-constexpr std::array<double, termCount> Column(double NutationTerm::*field) {
-    std::array<double, termCount> column{};
-    for (std::size_t i = 0; i < termCount; ++i) column[i] = nutationTerms[i].*field;
-    return column;
-}
-
-constexpr auto timesD = Column(&NutationTerm::d);
-constexpr auto timesM = Column(&NutationTerm::m);
-constexpr auto timesMPrime = Column(&NutationTerm::mPrime);
-constexpr auto timesF = Column(&NutationTerm::f);
-constexpr auto timesOmega = Column(&NutationTerm::omega);
+constexpr auto nutationSeries = series::MakeTable(nutationTerms, [](const NutationTerm& term) {
+    return series::Term{.angle = {term.m, term.d, term.mPrime, term.f, term.omega},
+                        .coefficient = {term.coefficient, term.perCentury}};
+});
 
 double SumOfTerms(double c) {
     const Arguments at = ArgumentsAt(c);
-    std::array<double, termCount> angles;
-    for (std::size_t i = 0; i < termCount; ++i) {
-        angles[i] = timesM[i] * at.m + timesD[i] * at.d + timesMPrime[i] * at.mPrime + timesF[i] * at.f +
-                    timesOmega[i] * at.omega;
-    }
-    ToRadians(angles);
-    double sum = 0;
-    for (std::size_t i = 0; i < termCount; ++i) {
-        sum += (nutationTerms[i].coefficient + nutationTerms[i].perCentury * c) * std::sin(angles[i]);
-    }
-    return sum / 10000 / 3600;
+    return series::SumOfSines(nutationSeries, {at.m, at.d, at.mPrime, at.f, at.omega}, {1, c}) / 10000 / 3600;
 }
 
 }  // namespace

@@ -1,25 +1,22 @@
 #include "astro/sun.h"
 
+#include "astro/bisection.h"
 #include "astro/earth_axis.h"
 #include "astro/ephemeris.h"
 #include "astro/local_time.h"
+#include "astro/series.h"
 #include "astro/sun_tables.h"
 #include "astro/timescales.h"
 #include "astro/year_dates.h"
 #include "core/memo.h"
 
 #include <algorithm>
-#include <array>
 #include <cmath>
-#include <utility>
 
 namespace horvanta {
 namespace {
 
 constexpr double daysPerDegree = MeanTropicalYear / 360;
-
-/// Two passages of one longitude that are found from different moments differ by less.
-constexpr double sameEvent = 0.00002;  // days
 
 double CenturiesOf(double x, bool isCenturies) { return isCenturies ? x : JulianCenturies(x); }
 
@@ -29,43 +26,17 @@ constexpr double meanDegreesPerCentury = 36000.76953744;
 
 double MeanLongitudeAt(double c) { return 282.7771834 + meanDegreesPerCentury * c; }
 
+constexpr auto longitudeSeries = series::MakeTable(solarTerms, [](const SolarTerm& term) {
+    return series::Term{.angle = {term.addend, term.multiplier}, .coefficient = {term.coefficient}};
+});
+
 double LongitudeAt(double c) {
-    std::array<double, std::size(solarTerms)> angles;
-    std::ranges::transform(solarTerms, angles.begin(),
-                           [c](const SolarTerm& term) { return term.addend + term.multiplier * c; });
-    ToRadians(angles);
-    double sum = 0;
-    for (std::size_t i = 0; i < angles.size(); ++i) sum += solarTerms[i].coefficient * std::sin(angles[i]);
+    const double sum = series::SumOfSines(longitudeSeries, {1, c}, {1});
     return MeanLongitudeAt(c) + 0.00000572957795130823 * sum + AberrationAt(c) + NutationAt(c);
 }
 
 /// How far the Sun is past a longitude at a moment, in [-180, 180).
 double DegreesPast(Moment x, double degrees) { return ModuloRange(SolarLongitude(x) - degrees, -180, 180); }
-
-struct Bracket {
-    Moment from;
-    Moment to;
-
-    /// For a longitude past all reason the ends may be the wrong way round.
-    Moment Nearest(Moment x) const { return std::max(from, std::min(x, to)); }
-};
-
-/// The passage of a longitude within a bracket of days, within 0.00002 days: the first step goes by the mean rate,
-/// which is up to 4 % off, the others are secants.
-Moment RootNear(const Bracket& bracket, Moment first, double degrees) {
-    constexpr double close = 0.0005;  // days
-    Moment before = first;
-    double pastBefore = DegreesPast(before, degrees);
-    Moment x = bracket.Nearest(before - pastBefore * daysPerDegree);
-    for (int tries = 0; tries < 8 && std::fabs(x - before) > close; ++tries) {
-        const double past = DegreesPast(x, degrees);
-        if (past == pastBefore) break;
-        const Moment next = x - past * (x - before) / (past - pastBefore);
-        before = std::exchange(x, bracket.Nearest(next));
-        pastBefore = past;
-    }
-    return x;
-}
 
 }  // namespace
 
@@ -95,22 +66,9 @@ double SolarAltitude(Moment apparent, const LocaleRecord& place) {
 
 double SolarHourAngle(Moment apparent) { return (0.5 - Modulo(apparent, 1)) * 360; }
 
-/// Halves a bracket of 10 days until it is 0.00001 days wide. Only the halves whose middle comes near the root, which
-/// secants find with a few longitudes, have to be decided by the longitude there: elsewhere it is known on which side
-/// of the root the middle lies. `doubt` covers the jumps of Delta T from one polynomial to the next.
 Moment SolarLongitudeAfter(Moment universal, double degrees) {
-    constexpr double doubt = 0.00003;  // days
-    const double estimate = universal + daysPerDegree * Modulo(degrees - SolarLongitude(universal), 360);
-    Bracket bracket{std::max(universal, estimate - 5), estimate + 5};
-    const Moment root = RootNear(bracket, estimate, degrees);
-    for (;;) {
-        const Moment middle = (bracket.from + bracket.to) / 2;
-        const bool between = middle > bracket.from && middle < bracket.to;
-        if (!between || bracket.to - bracket.from < 0.00001) return middle;
-        const bool near = std::fabs(middle - root) < doubt;
-        const bool reached = near ? Modulo(SolarLongitude(middle) - degrees, 360) < 180 : middle > root;
-        (reached ? bracket.to : bracket.from) = middle;
-    }
+    constexpr AngleSearch search{.daysPerDegree = daysPerDegree, .reach = 5, .width = 0.00001};
+    return ArrivalAfter(universal, degrees, search, [](Moment x) { return SolarLongitude(x); });
 }
 
 Moment EstimateSolarLongitudeBefore(Moment universal, double degrees) {
@@ -174,24 +132,17 @@ Moment SameLongitudeYearsLater(Moment universal, double years) {
 Moment SolarLongitudePassage(Moment universal, double degrees, int direction) {
     if (direction > 0) {
         const Moment found = SolarLongitudeAfter(universal, degrees);
-        return found > universal + sameEvent ? found : SolarLongitudeAfter(universal + 1, degrees);
+        return found > universal + SameEvent ? found : SolarLongitudeAfter(universal + 1, degrees);
     }
     const auto passageBefore = [degrees](Moment x) {  // the estimate may be off by hours
         return SolarLongitudeAfter(EstimateSolarLongitudeBefore(x, degrees) - 1, degrees);
     };
     const Moment found = passageBefore(universal);
-    return found < universal - sameEvent ? found : passageBefore(universal - 5);
+    return found < universal - SameEvent ? found : passageBefore(universal - 5);
 }
 
-/// The anomaly runs so evenly that one step from its mean rate to its real one is enough.
 Moment SolarAnomalyPassage(Moment universal, double degrees, int direction) {
-    const auto passage = [degrees, direction](Moment from) {
-        const double ahead = Modulo(direction * (degrees - MeanSolarAnomaly(from)), 360);
-        const Moment mean = from + direction * ahead / DailyMeanSolarAnomaly;
-        return mean - ModuloRange(MeanSolarAnomaly(mean) - degrees, -180, 180) / DailyMeanSolarAnomaly;
-    };
-    const Moment found = passage(universal);
-    return direction * (found - universal) > sameEvent ? found : passage(universal + direction);
+    return EvenPassage(universal, degrees, direction, DailyMeanSolarAnomaly, MeanSolarAnomaly);
 }
 
 }  // namespace horvanta

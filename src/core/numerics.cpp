@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <array>
-#include <bit>
 #include <charconv>
 #include <string>
 #include <utility>
@@ -106,31 +105,6 @@ double MinOf(std::span<const double> list) {
     double least = 1e308;
     for (const double x : list) least = x < least ? x : least;
     return least;
-}
-
-/// The loop has neither branches nor calls, so that it runs on several angles at once. Where an angle lies next to a
-/// whole turn, and `Floor` looks at its digits, `slack` is negative, and all are left to `Radians`.
-void ToRadians(std::span<double> degrees) {
-    constexpr double wholeNumbersOnly = 6755399441055744;  // 1.5 * 2^52: a sum with it has no fraction
-    constexpr double margin = 1e-9;
-    constexpr std::size_t chunk = 64;
-    std::array<double, chunk> radians;
-    for (std::size_t count; !degrees.empty(); degrees = degrees.subspan(count)) {
-        count = std::min(chunk, degrees.size());
-        std::uint64_t signs = 0;
-        for (std::size_t i = 0; i < count; ++i) {
-            const double turns = degrees[i] / 360;
-            const double below = turns - 0.5 + wholeNumbersOnly - wholeNumbersOnly;
-            const double slack = (turns - below - margin) * (1 - margin - (turns - below));
-            signs |= std::bit_cast<std::uint64_t>(slack);
-            radians[i] = (degrees[i] - below * 360) * RadiansPerDegree;
-        }
-        if (signs >> 63 == 0) {
-            std::copy_n(radians.begin(), count, degrees.begin());
-        } else {
-            std::ranges::transform(degrees.first(count), degrees.begin(), Radians);
-        }
-    }
 }
 
 double ArcSinRad(double x) { return std::atan(x / std::sqrt(1 - x * x)); }

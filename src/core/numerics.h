@@ -111,9 +111,6 @@ inline double Degrees(double degrees) { return Modulo(degrees, 360); }
 /// Radians of an angle in degrees, which is first brought into [0, 360): a negative angle gives a positive result.
 inline double Radians(double degrees) { return Degrees(degrees) * RadiansPerDegree; }
 
-/// `Radians` of each of many angles, in place; several times faster than one by one.
-void ToRadians(std::span<double> degrees);
-
 /// Degrees of an angle in radians, not reduced.
 constexpr double RadToDeg(double radians) { return radians * DegreesPerRadian; }
 

@@ -5,6 +5,7 @@
 #include "calendars/quartane.h"
 #include "calendars/roman.h"
 #include "hebrew/hebrew_arithmetic.h"
+#include "lunar/yerm.h"
 
 #include <gtest/gtest.h>
 
@@ -28,6 +29,7 @@ const Law laws[] = {
     {"Roman", RomanCalendar},
     {"Persian", PersianCalendar},
     {"Hebrew", hebrew::Calendar},
+    {"Yerm", YermCalendar},
     {"Quartane", quartane::Calendar},
     {"Quartane by the ISO year", quartane::Calendar, [] { quartane::options.LeapRuleKey = "ISOalt"; }},
     {"Quartane by days", quartane::Calendar, [] { quartane::options.Qua454 = false; }},

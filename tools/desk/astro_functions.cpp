@@ -1,4 +1,6 @@
 #include "astro/local_time.h"
+#include "astro/lunar_phases.h"
+#include "astro/moon.h"
 #include "astro/sidereal.h"
 #include "astro/sun.h"
 #include "astro/sun_events.h"
@@ -7,6 +9,26 @@
 #include "desk_rows.h"
 
 namespace horvanta {
+namespace lunar {
+
+std::string AnswerOf(const Apsis& apsis) { return RecordAnswer("moment distance", apsis.moment, apsis.distance); }
+
+}  // namespace lunar
+
+namespace {
+
+/// A convention by its name.
+const LunationConvention& ConventionOf(std::string_view name) {
+    const auto found = std::ranges::find(LunationConventions, name, &LunationConvention::Name);
+    if (found == LunationConventions.end()) throw BadLine("no such convention: " + std::string(name));
+    return *found;
+}
+
+Moment LunationByName(double number, std::string_view convention) {
+    return NumberedLunation(number, ConventionOf(convention));
+}
+
+}  // namespace
 
 std::vector<DeskFunction> AstroFunctions() {
     return {
@@ -70,6 +92,57 @@ std::vector<DeskFunction> AstroFunctions() {
         PlaceRow("PreDawnTemporalHour", PreDawnTemporalHour),
         PlaceRow("SundialToStandard", SundialToStandard),
         PlaceRow("RiseSetAzimuth", RiseSetAzimuth),
+        Row("SolarLongitudePassage", SolarLongitudePassage),
+        Row("SolarAnomalyPassage", SolarAnomalyPassage),
+        Row("lunar::Longitude", lunar::Longitude),
+        Row("lunar::Latitude", lunar::Latitude),
+        Row("lunar::Distance", lunar::Distance),
+        Row("lunar::Declination", lunar::Declination),
+        Row("lunar::RightAscension", lunar::RightAscension),
+        PlaceRow("lunar::Altitude", lunar::Altitude),
+        PlaceRow("lunar::Parallax", lunar::Parallax),
+        PlaceRow("lunar::TopocentricAltitude", lunar::TopocentricAltitude),
+        PlaceRow("lunar::ObservedAltitude", lunar::ObservedAltitude),
+        PlaceRow("lunar::Bearing", lunar::Bearing),
+        Row("lunar::Phase", lunar::Phase),
+        Row("lunar::Diameter", lunar::Diameter),
+        Row("lunar::LitFraction", lunar::LitFraction),
+        Row("lunar::BrightLimbAngle", lunar::BrightLimbAngle),
+        PlaceRow("lunar::ParallacticAngle", lunar::ParallacticAngle),
+        Row("lunar::AscendingNode", lunar::AscendingNode),
+        Row("lunar::DescendingNode", lunar::DescendingNode),
+        Row("lunar::Perigee", lunar::Perigee),
+        Row("lunar::Apogee", lunar::Apogee),
+        Row("lunar::DistanceAtPerigee", lunar::DistanceAtPerigee),
+        Row("lunar::DistanceAtApogee", lunar::DistanceAtApogee),
+        Row("lunar::LongitudeAfter", lunar::LongitudeAfter),
+        Row("lunar::AnomalyPassage", lunar::AnomalyPassage),
+        Row("NthNewMoon", NthNewMoon),
+        Row("LunationZero", LunationZero),
+        Row("ApproxNthMoon", ApproxNthMoon),
+        Row("NewMoonAfter", NewMoonAfter),
+        Row("NewMoonBefore", NewMoonBefore),
+        Row("NewMoonNearest", NewMoonNearest),
+        Row("PhaseAfter", PhaseAfter),
+        Row("PhaseBefore", PhaseBefore),
+        Row("NewMoonEstimateTT", NewMoonEstimateTT),
+        Row("NewMoonEstimateUT", NewMoonEstimateUT),
+        Row("NewMoonAdjustTT", NewMoonAdjustTT),
+        Row("NewMoonAdjustUT", NewMoonAdjustUT),
+        Row("MeanNewMoonTT", MeanNewMoonTT),
+        Row("MeanNewMoonUT", MeanNewMoonUT),
+        Row("MSM_Atomic", MSM_Atomic),
+        Row("MSM_Solar", MSM_Solar),
+        Row("TTmomentToLunation", TTmomentToLunation),
+        Row("UTmomentToLunation", UTmomentToLunation),
+        Row("MomentToLunation", MomentToLunation),
+        Row("MomentToMeanSynodicMonth", MomentToMeanSynodicMonth),
+        Row("MSM_AtomicToLunation", MSM_AtomicToLunation),
+        Row("MSM_SolarToLunation", MSM_SolarToLunation),
+        Row("J2KtoRASC_Lunation", J2KtoRASC_Lunation),
+        Row("RASCtoJ2K_Lunation", RASCtoJ2K_Lunation),
+        Row("JumpMeanNewMoon", JumpMeanNewMoon),
+        Row("NumberedLunation", LunationByName),
     };
 }
 

@@ -54,8 +54,9 @@ std::vector<std::string> WordsOf(std::string_view line) {
 std::string NumberAnswer(double x) { return x == NeverMoment ? "never" : ExactText(x); }
 
 const DeskFunction* FindDeskFunction(std::string_view name) {
-    static const auto functions = Joined({CoreFunctions, AstroFunctions, LocaleFunctions, CalendarFunctions,
-                                          ContractFunctions, HebrewFunctions, ClockFunctions, ViewFunctions});
+    static const auto functions =
+        Joined({CoreFunctions, AstroFunctions, LocaleFunctions, CalendarFunctions, ContractFunctions, HebrewFunctions,
+                LunarFunctions, ClockFunctions, ViewFunctions});
     return FindByName(functions, name);
 }
 

@@ -47,6 +47,7 @@ std::vector<DeskFunction> LocaleFunctions();
 std::vector<DeskFunction> CalendarFunctions();
 std::vector<DeskFunction> ContractFunctions();
 std::vector<DeskFunction> HebrewFunctions();
+std::vector<DeskFunction> LunarFunctions();
 std::vector<DeskFunction> ClockFunctions();
 std::vector<DeskFunction> ViewFunctions();
 
