@@ -72,6 +72,7 @@ class Control {
     std::string spoken;  ///< What a screen reader calls it, where neither caption nor tooltip tells it from others.
     bool visible = true;
     bool enabled = true;
+    bool whileBusy = false;           ///< Hears keys and clicks while a long command lets events run.
     std::optional<ColorPair> colors;  ///< None follows the desktop's palette.
 
     std::function<void()> Click;
@@ -287,7 +288,7 @@ enum KeyCode {
 class MenuItem {
   public:
     MenuItem() = default;  ///< The menu bar itself.
-    MenuItem(MenuItem& parent, std::string_view name, std::string_view caption = "", std::string_view shortcut = "");
+    MenuItem(MenuItem& above, std::string_view itemName, std::string_view itemCaption = "", std::string_view keys = "");
     MenuItem(const MenuItem&) = delete;
     MenuItem& operator=(const MenuItem&) = delete;
 
@@ -297,6 +298,9 @@ class MenuItem {
     void Shows(const std::int32_t& option, std::int32_t value);
 
     bool isShown() const;
+
+    /// Can be chosen: neither it nor a menu above it is grey.
+    bool isEnabled() const { return enabled && (!parent || parent->isEnabled()); }
     bool isSeparator() const { return caption == "-"; }
     bool isTickable() const { return static_cast<bool>(ticked_); }
     bool isTicked() const { return ticked_ && ticked_(); }
@@ -308,6 +312,7 @@ class MenuItem {
     std::string caption;
     const std::string shortcut;  ///< The keys that choose it in any window, as "Ctrl+S"; empty for none.
     bool enabled = true;         ///< One that is not is shown grey.
+    MenuItem* const parent = nullptr;
     std::vector<MenuItem*> items;
     std::function<void()> Click;
 

@@ -10,6 +10,8 @@
 #include <gtest/gtest.h>
 
 #include <array>
+#include <map>
+#include <sstream>
 
 namespace horvanta {
 namespace {
@@ -96,6 +98,45 @@ TEST(StoredSettings, TakeDefaultsForDamage) {
         Desk desk(settings);
         desk.Obey("menu MenuExit");
         EXPECT_EQ(TextOf(desk.desktop.settings.flushed, row), TextOf(defaults, row)) << row[1];
+    }
+}
+
+/// Every key that the settings have had so far, but for those of the windows to come, which have no position yet.
+constexpr std::pair<const char*, const char*> keys[] = {
+    {"Prog", "Name Ver Rev Pub"},
+    {"Item",
+     "FixOpt GE FixEpoch FixNam Candles EW Step Year OrbRAY JDMJD Qua454 QuaQS QuaLeap QuaStart UseZov454 UseZov010 "
+     "Even Mix CCM CEN THC MTF RD SD AdjDST dT ShowDD Elev UseAUC JCY1 Rectify YRF OSY LP WCC LOC Map MC AD LunOpt"},
+    {"Color",
+     "LBC LFC ABC AFC GBC GFC SBC SFC HBC HFC PBC PFC JBC JFC ChinBC ChinFC JapBC JapFC KorBC KorFC VietBC VietFC IBC "
+     "IFC RBC RFC"},
+    {"TimeAstro", "Top Left Chk"},
+    {"Monthly", "Top Left Chk"},
+    {"Quartane", "Top Left Chk"},
+    {"Julian", "Top Left Chk"},
+    {"Events", "Top Chk"},
+    {"User", "Top Left Chk"},
+    {"Gregorian", "Top Left Chk"},
+    {"Persian", "Top Left Chk"},
+    {"Hebrew", "Chk"},
+    {"Lunar", "Chk"},
+    {"Chinese", "Chk"},
+    {"User 30", "Name Lat Long Elev Zone NoDST UseLMT Chk"},
+    {"UserNum", "Num"},
+};
+
+TEST(StoredSettings, HaveEveryKeyOnce) {
+    Desk desk;
+    std::map<std::pair<std::string, std::string>, int> rowsOfKey;
+    for (const Setting& setting : StoredRows(desk.program)) {
+        const int count = ++rowsOfKey[{setting.section, setting.key}];
+        EXPECT_EQ(count, 1) << setting.section << "/" << setting.key;
+        const bool inUserSettings = setting.section.starts_with("User") && setting.section != "User";
+        EXPECT_EQ(setting.application, inUserSettings ? UserSettings : ProgramSettings) << setting.section;
+    }
+    for (const auto& [section, names] : keys) {
+        std::istringstream words(names);
+        for (std::string key; words >> key;) EXPECT_TRUE(rowsOfKey.contains({section, key})) << section << "/" << key;
     }
 }
 
