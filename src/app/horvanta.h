@@ -6,6 +6,7 @@
 #include "app/windows.h"
 #include "core/shell.h"
 #include "views/gregorian_window.h"
+#include "views/hebrew_window.h"
 #include "views/julian_window.h"
 #include "views/monthly_window.h"
 #include "views/persian_window.h"
@@ -49,6 +50,7 @@ class Horvanta {
     TimeAstro timeAstro{frame};
     GregorianWindow gregorian{frame};
     JulianWindow julian{frame};
+    HebrewWindow hebrew{frame};
     PersianWindow persian{frame};
     QuartaneWindow quartane{frame};
     UserLocalesWindow userLocales{frame};
@@ -65,7 +67,8 @@ class Horvanta {
         Beside(quartane.form, monthly.Row()),
         Beside(timeAstro.form, gregorian.Row()),
         Below(monthly.form, julian.Row()),
-        Below(gregorian.form, persian.Row()),
+        Below(gregorian.form, hebrew.Row()),
+        Below(hebrew.form, persian.Row()),
         Beside(monthly.form, userLocales.Row()),
         {world.form, world.Dummy},
     };

@@ -3,7 +3,6 @@
 #include "calendars/gregorian.h"
 #include "core/moment.h"
 #include "core/text.h"
-#include "hebrew/hebrew_options.h"
 #include "locale/locale_text.h"
 
 #include <utility>
@@ -90,12 +89,6 @@ Settings Options::StoredRows() {
         WholeRow("Item", "THC", time_text::options, &time_text::Options::TempHourFormat, 1, 3),
         WholeRow("Item", "Map", web_map::options, &web_map::Options::MapIndex, 1,
                  static_cast<std::int32_t>(decltype(HorvantaMDI::MapServer)::size())),
-        {"Item", "MTF", "7",
-         [](const std::string& text) {
-             hebrew::options.MoladTimeFormat = text == "5" ? 5 : 7;
-             return true;
-         },
-         [] { return std::to_string(hebrew::options.MoladTimeFormat); }},
     };
 }
 

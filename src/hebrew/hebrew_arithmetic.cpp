@@ -402,6 +402,7 @@ NamesOfDays DayNames() {
     NamesOfDays days;
     for (std::size_t i = 0; i < days.full.size(); ++i) {
         days.full[i] = Names().weekdays[i];
+        days.script[i] = hebrewScriptNames.weekdays[i].substr(std::string_view("יום ").size());
         days.brief[i] = "( " + std::to_string(i + 1) + " )";
     }
     return days;
@@ -409,6 +410,13 @@ NamesOfDays DayNames() {
 
 }  // namespace
 
-constinit const CalendarContract hebrew::Calendar{"Hebrew", GridDateToFixed, GridDateOf, MonthNames, DayNames};
+constexpr std::int16_t adarOfGrid = 6;
+
+constinit const CalendarContract hebrew::Calendar{.name = "Hebrew",
+                                                  .ToFixed = GridDateToFixed,
+                                                  .DateOf = GridDateOf,
+                                                  .MonthNames = MonthNames,
+                                                  .DayNames = DayNames,
+                                                  .leapMonthAfter = adarOfGrid};
 
 }  // namespace horvanta

@@ -328,6 +328,12 @@ FixedDay Passover(std::int32_t gregorianYear, const HebrewReckoning& reckoning) 
     return reckoning.ToFixed(gregorianYear - yearOfHebrewEpoch, Nisan, 15);
 }
 
+Moment JumpYomTov(Moment from, int direction, std::int32_t month, std::int32_t day) {
+    const std::int32_t year = FixedToHebrewYear(from);
+    const FixedDay ofThisYear = HebrewToFixed(year, month, day);
+    return direction * from >= direction * ofThisYear ? HebrewToFixed(year + direction, month, day) : ofThisYear;
+}
+
 std::string Omer(Moment moment, const HebrewReckoning& reckoning) {
     const auto k = WholeNumber(Floor(moment) - Passover(FixedToGregorianYear(moment), reckoning));
     if (k < 1 || k > 49) return "";

@@ -45,6 +45,9 @@ HebrewDay HebrewDayOf(Moment moment, const LocaleRecord& place = Locale);
 /// The first day of Passover of a Gregorian year.
 FixedDay Passover(std::int32_t gregorianYear, const HebrewReckoning& reckoning = TraditionalReckoning);
 
+/// The next day of a Hebrew date after a moment (direction 1) or the last one before it (-1).
+Moment JumpYomTov(Moment from, int direction, std::int32_t month, std::int32_t day);
+
 /// "8th day of the Omer (1 week and 1 day)"; empty but on the 49 days from the second of Passover on.
 std::string Omer(Moment moment, const HebrewReckoning& reckoning = TraditionalReckoning);
 

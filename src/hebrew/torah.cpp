@@ -3,6 +3,7 @@
 #include "core/memo.h"
 #include "core/text.h"
 
+#include <algorithm>
 #include <array>
 #include <iterator>
 #include <utility>
@@ -125,6 +126,21 @@ std::string OwnReading(const HebrewDay& day) {
     return day.RoshChodesh == 0 ? named : "Rosh Chodesh" + WrapIfNotEmpty(named, " ", "", "");
 }
 
+void PostPortion(std::vector<std::string>& texts, const HebrewDay& day, const LocaleRecord& place) {
+    constexpr std::int32_t weekdays[] = {7, 2, 5};  // the Torah is read on Sabbath, Monday and Thursday
+    if (std::ranges::find(weekdays, day.date.WeekDay) == std::end(weekdays)) return;
+    const std::string portion = TorahPortion(day, false, place);
+    if (portion.empty()) return;
+    texts.push_back("Torah portion" + std::string(portion.find('-') == std::string::npos ? " is " : "s are ") +
+                    portion);
+}
+
+void PostEves(std::vector<std::string>& texts, const HebrewDay& today, const HebrewDay& tomorrow) {
+    if (!tomorrow.YomTov.empty()) texts.push_back("Erev " + tomorrow.YomTov);
+    if (!tomorrow.Fast.empty() && tomorrow.Fast != tomorrow.YomTov) texts.push_back("Erev " + tomorrow.Fast);
+    if (!tomorrow.Holiday.empty() && today.YomTov.empty()) texts.push_back("Erev " + tomorrow.Holiday);
+}
+
 }  // namespace
 
 std::string_view TorahPortionName(std::int32_t number) {
@@ -141,6 +157,13 @@ std::string TorahPortion(const HebrewDay& day, bool keepHolidayText, const Local
     const bool beforeSukkot = reading.portion == 1 && day.date.Day < 15;
     const std::string name{TorahPortionName(beforeSukkot ? lastPortion : reading.portion)};
     return reading.doubled ? std::string(TorahPortionName(reading.portion - 1)) + "-" + name : name;
+}
+
+std::vector<std::string> EventsOf(const HebrewDay& today, const HebrewDay& tomorrow, const LocaleRecord& place) {
+    std::vector<std::string> texts = today.texts;
+    PostPortion(texts, today, place);
+    PostEves(texts, today, tomorrow);
+    return texts;
 }
 
 }  // namespace horvanta

@@ -76,7 +76,7 @@ void SetCandles(Zman& zman, const Candles& candles) {
     zman.isDue = candles.areLit;
     zman.mark = candles.mark;
     zman.moment = candles.moment;
-    zman.rule = candles.rule;
+    if (candles.areLit) zman.rule = candles.rule;
 }
 
 std::string MinutesBeforeSunset() {
@@ -151,12 +151,20 @@ std::string ShabbatOrFestivalName(const HebrewDay& day) {
     return shabbat + (shabbat.empty() || day.YomTov.empty() ? "" : ", ") + day.YomTov;
 }
 
-std::vector<Zman> ZmanimOf(const HebrewDay& today, const HebrewDay& tomorrow, const LocaleRecord& place) {
-    const SunDay sun{today.date.Fixed, place};
+std::vector<Zman> ZmanRows() {
     std::vector<Zman> zmanim;
     for (const ZmanRow& row : rows) {
-        zmanim.push_back({row.key, std::string(row.legend), std::string(row.name), std::string(row.rule), "",
-                          row.moment != nullptr ? row.moment(sun) : NeverMoment});
+        zmanim.push_back({row.key, std::string(row.legend), std::string(row.name), std::string(row.rule)});
+    }
+    Find(zmanim, candlesKey).rule = MinutesBeforeSunset();
+    return zmanim;
+}
+
+std::vector<Zman> ZmanimOf(const HebrewDay& today, const HebrewDay& tomorrow, const LocaleRecord& place) {
+    const SunDay sun{today.date.Fixed, place};
+    std::vector<Zman> zmanim = ZmanRows();
+    for (std::size_t i = 0; i < zmanim.size(); ++i) {
+        if (rows[i].moment != nullptr) zmanim[i].moment = rows[i].moment(sun);
     }
     Zman& tzait = Find(zmanim, tzaitKey);
     SetCandles(Find(zmanim, candlesKey), CandleLighting(today, tomorrow, sun.sunset, tzait.moment));

@@ -24,6 +24,9 @@ struct Zman {
     bool isDue = true;  ///< False for candles that are not lit.
 };
 
+/// The rows as they are before any day is asked.
+std::vector<Zman> ZmanRows();
+
 /// The times of a day, of which the next one is `tomorrow`, from dawn to nightfall.
 std::vector<Zman> ZmanimOf(const HebrewDay& today, const HebrewDay& tomorrow, const LocaleRecord& place = Locale);
 

@@ -1,6 +1,7 @@
 #include "qt/forms.h"
 
 #include "forms/ui_gregorian.h"
+#include "forms/ui_hebrew.h"
 #include "forms/ui_julian.h"
 #include "forms/ui_monthly.h"
 #include "forms/ui_persian.h"
@@ -25,7 +26,7 @@ struct DesignerForm {
 constexpr DesignerForm designerForms[] = {
     {"TimeAstro", SetUp<Ui::TimeAstro>}, {"Gregorian", SetUp<Ui::Gregorian>}, {"Monthly", SetUp<Ui::Monthly>},
     {"Quartane", SetUp<Ui::Quartane>},   {"User", SetUp<Ui::User>},           {"Persian", SetUp<Ui::Persian>},
-    {"Julian", SetUp<Ui::Julian>},       {"World", SetUp<Ui::World>},
+    {"Julian", SetUp<Ui::Julian>},       {"World", SetUp<Ui::World>},         {"Hebrew", SetUp<Ui::Hebrew>},
 };
 
 }  // namespace

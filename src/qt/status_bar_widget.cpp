@@ -25,11 +25,12 @@ StatusBarWidget::StatusBarWidget(QWidget* parent) : LabelsWidget(parent) {
 void StatusBarWidget::AddPanel() {
     QLabel* panel = MakePanel();
     panel->setMinimumWidth(1);  // in place of the width of its text, which would tell the panels apart
-    static_cast<QHBoxLayout*>(layout())->addWidget(panel, 1);
+    static_cast<QBoxLayout*>(layout())->addWidget(panel, 1);
     parts_.push_back(panel);
 }
 
 void StatusBarWidget::Draw(const StatusBar& bar) {
+    if (property("column").toBool()) static_cast<QBoxLayout*>(layout())->setDirection(QBoxLayout::TopToBottom);
     while (parts_.size() < bar.panels.size()) AddPanel();
     for (std::size_t i = 0; i < bar.panels.size(); ++i) {
         const StatusBar::Panel& panel = bar.panels[i];

@@ -130,7 +130,10 @@ std::vector<DeskFunction> HebrewFunctions() {
         Row("PostponeReason", PostponeReason),
         PlaceRow("HebrewDayOf", HebrewDayOf),
         PlaceRow(
-            "HebrewEvents", +[](Moment x, const LocaleRecord& place) { return HebrewDayOf(x, place).texts; }),
+            "HebrewEvents",
+            +[](Moment x, const LocaleRecord& place) {
+                return EventsOf(HebrewDayOf(x, place), HebrewDayOf(x + 1, place), place);
+            }),
         PlaceRow(
             "TorahPortion",
             +[](Moment x, bool keepHolidayText, const LocaleRecord& place) {
