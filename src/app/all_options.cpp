@@ -10,6 +10,8 @@
 #include "core/text.h"
 #include "hebrew/hebrew_options.h"
 #include "locale/locale_text.h"
+#include "lunar/lunar_options.h"
+#include "lunar/yerm_eras.h"
 #include "views/monthly_window.h"
 #include "views/time_fields.h"
 
@@ -22,6 +24,8 @@ void ResetAllOptions() {
     hebrew::options = {};
     horizon::options = {};
     julian::options = {};
+    lunar::options = {};
+    RevertToFixedYermCycle();
     monthly::options = {};
     quartane::options = {};
     stepping::options = {};

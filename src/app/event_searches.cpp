@@ -1,10 +1,17 @@
 #include "app/event_searches.h"
 
+#include "app/lunar_searches.h"
+#include "astro/crescents.h"
+#include "astro/lunar_phases.h"
+#include "astro/moon.h"
 #include "astro/sun.h"
 #include "astro/year_dates.h"
 #include "calendars/gregorian.h"
 #include "calendars/quartane_year_start.h"
 #include "hebrew/holidays.h"
+#include "hebrew/molad.h"
+#include "lunar/tithi.h"
+#include "lunar/yerm.h"
 
 #include <algorithm>
 #include <array>
@@ -44,6 +51,19 @@ Moment JumpOrbitalNewYear(Moment from, int direction) {
 
 // clang-format off
 constexpr EventSearch searches[] = {
+    {MenuEvent::LunarEvent, JumpLunarEvent},
+    {MenuEvent::NewMoon, JumpNewMoon},
+    {MenuEvent::FirstNewCrescent, [](Moment from, int direction) { return CrescentPassage(from, direction); }},
+    {MenuEvent::FirstQuarterMoon, [](Moment from, int direction) { return JumpQuarter(from, 90, direction); }},
+    {MenuEvent::FullMoon, [](Moment from, int direction) { return JumpQuarter(from, 180, direction); }},
+    {MenuEvent::LastQuarterMoon, [](Moment from, int direction) { return JumpQuarter(from, 270, direction); }},
+    {MenuEvent::LastOldCrescent, [](Moment from, int direction) { return OldCrescentPassage(from, direction); }},
+    {MenuEvent::VedicTithi, JumpTithi},
+    {MenuEvent::MeanNewMoon, JumpMeanNewMoon},
+    {MenuEvent::MeanPerigee, [](Moment from, int direction) { return lunar::AnomalyPassage(from, 0, direction); }},
+    {MenuEvent::MeanApogee, [](Moment from, int direction) { return lunar::AnomalyPassage(from, 180, direction); }},
+    {MenuEvent::Yerm, JumpYerm},
+    {MenuEvent::YermEra, JumpYermEra},
     {MenuEvent::LeapWeek, quartane::JumpLeapWeek},
     {MenuEvent::QuaNewYearMoment, quartane::JumpNYmoment},
     {MenuEvent::QuaLeapCycle, quartane::JumpQuaCycle},
@@ -59,6 +79,7 @@ constexpr EventSearch searches[] = {
     {MenuEvent::RoshHashanah, [](Moment from, int direction) { return JumpYomTov(from, direction, 7, 1); }},
     {MenuEvent::MeanPerihelion, [](Moment from, int direction) { return SolarAnomalyPassage(from, 0, direction); }},
     {MenuEvent::MeanAphelion, [](Moment from, int direction) { return SolarAnomalyPassage(from, 180, direction); }},
+    {MenuEvent::MoladMoment, JumpMolad},
 };
 // clang-format on
 

@@ -95,6 +95,7 @@ void Horvanta::LoadWindows() {
         if (row.open == OpenAt::EveryStart) row.form.visible = true;
         EnableNeeding(row);
     }
+    options.SetLunationCaptions();
     timeAstro.SetYearStepCaptions();
     timeAstro.fields.SetToggles();
     monthly.InitCalendars();

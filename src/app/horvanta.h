@@ -5,9 +5,11 @@
 #include "app/places.h"
 #include "app/windows.h"
 #include "core/shell.h"
+#include "views/events_window.h"
 #include "views/gregorian_window.h"
 #include "views/hebrew_window.h"
 #include "views/julian_window.h"
+#include "views/lunar_window.h"
 #include "views/monthly_window.h"
 #include "views/persian_window.h"
 #include "views/quartane_window.h"
@@ -49,12 +51,14 @@ class Horvanta {
     HorvantaMDI frame;
     TimeAstro timeAstro{frame};
     GregorianWindow gregorian{frame};
+    LunarWindow lunar{frame};
     JulianWindow julian{frame};
     HebrewWindow hebrew{frame};
     PersianWindow persian{frame};
     QuartaneWindow quartane{frame};
     UserLocalesWindow userLocales{frame};
     WorldWindow world;
+    EventsWindow events{frame};
     MonthlyWindow monthly{frame};
     Places places{frame, timeAstro.fields};
     Jumps jumps{frame, timeAstro};
@@ -63,14 +67,16 @@ class Horvanta {
     /// In the order in which they are loaded and update.
     std::vector<WindowRow> windows{
         timeAstro.Row(),
+        Beside(timeAstro.form, gregorian.Row()),
+        Below(gregorian.form, lunar.Row()),
         Below(timeAstro.form, quartane.Row()),
         Beside(quartane.form, monthly.Row()),
-        Beside(timeAstro.form, gregorian.Row()),
         Below(monthly.form, julian.Row()),
-        Below(gregorian.form, hebrew.Row()),
-        Below(hebrew.form, persian.Row()),
+        Below(events.form, hebrew.Row()),
+        Below(gregorian.form, persian.Row()),
         Beside(monthly.form, userLocales.Row()),
         {world.form, world.Dummy},
+        Below(julian.form, events.Row()),
     };
 
     /// The same, as far as they are there.

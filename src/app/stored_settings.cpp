@@ -38,7 +38,7 @@ Settings ProgramRows() {
 
 /// The position of the Events window marks settings of this layout. Others are cleared, but for the mark of a start
 /// that has not finished.
-Setting LayoutMark(const Form& time) {
+Setting LayoutMark() {
     return {"Events", "Top", "-",
             [](const std::string& text) {
                 if (text != "-") return true;
@@ -46,25 +46,22 @@ Setting LayoutMark(const Form& time) {
                 CurrentDesktop->Settings().Write(ProgramSettings, "Prog", "Launch", "");
                 return true;
             },
-            [&time] {
-                const auto kept = CurrentDesktop->Settings().Read(ProgramSettings, "Events", "Top");
-                return kept ? *kept : GeneralText(time.position.top + time.position.height + 20);
-            }};
+            []() -> std::optional<std::string> { return std::nullopt; }};
 }
 
 /// What no one owns yet.
 Settings KeptRows() {
     return {
-        KeptRow("Events", "Chk", "True"),      KeptRow("Lunar", "Chk", "True"),
-        KeptRow("Chinese", "Chk", "False"),    KeptRow("Color", "LBC", "6250335"),
-        KeptRow("Color", "LFC", "16777215"),   KeptRow("Color", "ChinBC", "255"),
-        KeptRow("Color", "ChinFC", "65535"),   KeptRow("Color", "JapBC", "16777215"),
-        KeptRow("Color", "JapFC", "217"),      KeptRow("Color", "KorBC", "16777215"),
-        KeptRow("Color", "KorFC", "16711680"), KeptRow("Color", "VietBC", "65535"),
-        KeptRow("Color", "VietFC", "255"),     KeptRow("Item", "EW", "9360"),
-        KeptRow("Item", "LunOpt", "1"),        KeptRow("Item", "JCY1", "-2697"),
-        KeptRow("Item", "LP", "False"),        KeptRow("Item", "WCC", "False"),
-        KeptRow("Item", "CEN", "1"),           KeptRow("Item", "CCM", "0"),
+        KeptRow("Chinese", "Chk", "False"),
+
+        KeptRow("Color", "ChinBC", "255"),     KeptRow("Color", "ChinFC", "65535"),
+        KeptRow("Color", "JapBC", "16777215"), KeptRow("Color", "JapFC", "217"),
+        KeptRow("Color", "KorBC", "16777215"), KeptRow("Color", "KorFC", "16711680"),
+        KeptRow("Color", "VietBC", "65535"),   KeptRow("Color", "VietFC", "255"),
+
+        KeptRow("Item", "JCY1", "-2697"),      KeptRow("Item", "WCC", "False"),
+        KeptRow("Item", "CEN", "1"),
+        KeptRow("Item", "CCM", "0"),
     };
 }
 
@@ -73,7 +70,7 @@ Settings KeptRows() {
 Settings StoredRows(Horvanta& program) {
     Settings rows = ProgramRows();
     Append(rows, Options::NumberingRows());
-    rows.push_back(LayoutMark(program.timeAstro.form));
+    rows.push_back(LayoutMark());
     for (WindowRow& row : program.windows) {
         if (row.isThere()) Append(rows, PositionRows(row));
     }

@@ -61,8 +61,8 @@ const DeskFunction* FindDeskFunction(std::string_view name) {
 }
 
 const DeskVariable* FindDeskVariable(std::string_view name) {
-    static const auto variables =
-        Joined({CoreVariables, AstroVariables, LocaleVariables, CalendarVariables, HebrewVariables, ClockVariables});
+    static const auto variables = Joined({CoreVariables, AstroVariables, LocaleVariables, CalendarVariables,
+                                          HebrewVariables, LunarVariables, ClockVariables});
     return FindByName(variables, name);
 }
 

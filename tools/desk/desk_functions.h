@@ -56,6 +56,7 @@ std::vector<DeskVariable> AstroVariables();
 std::vector<DeskVariable> LocaleVariables();
 std::vector<DeskVariable> CalendarVariables();
 std::vector<DeskVariable> HebrewVariables();
+std::vector<DeskVariable> LunarVariables();
 std::vector<DeskVariable> ClockVariables();
 
 }  // namespace horvanta

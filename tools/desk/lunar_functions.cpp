@@ -1,4 +1,6 @@
 #include "desk_rows.h"
+#include "lunar/lunar_options.h"
+#include "lunar/tithi.h"
 #include "lunar/yerm.h"
 #include "lunar/yerm_eras.h"
 
@@ -55,6 +57,17 @@ std::vector<DeskFunction> LunarFunctions() {
         Row("LunationEraToMoment", LunationEraToMoment),
         Row("JumpYerm", JumpYerm),
         Row("JumpYermEra", JumpYermEra),
+        Row("VedicTithi", VedicTithi),
+        Row("JumpTithi", JumpTithi),
+        Row("JumpCycles", JumpCycles),
+    };
+}
+
+std::vector<DeskVariable> LunarVariables() {
+    return {
+        Choice("LunationOption", lunar::options.LunationOption, 1,
+               static_cast<std::int32_t>(LunationConventions.size())),
+        Variable("LP180", lunar::options.SignedPhase),
     };
 }
 
