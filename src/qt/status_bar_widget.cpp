@@ -33,7 +33,8 @@ void StatusBarWidget::Draw(const StatusBar& bar) {
     const bool column = property("column").toBool();
     if (column) static_cast<QBoxLayout*>(layout())->setDirection(QBoxLayout::TopToBottom);
     while (parts_.size() < bar.panels.size()) AddPanel();
-    if (column) for (QLabel* panel : parts_) panel->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+    if (column)
+        for (QLabel* panel : parts_) panel->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     for (std::size_t i = 0; i < bar.panels.size(); ++i) {
         const StatusBar::Panel& panel = bar.panels[i];
         parts_[i]->setText(QString::fromStdString(panel.text));

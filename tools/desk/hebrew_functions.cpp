@@ -128,6 +128,27 @@ std::vector<DeskFunction> HebrewFunctions() {
         Row("HebrewYearCharacter", HebrewYearCharacter),
         Row("HebrewYearType", HebrewYearType),
         Row("PostponeReason", PostponeReason),
+        Row("AstroRule", AstroRule),
+        Row("NisanFirstDay", NisanFirstDay),
+        Row("HopToNextMonth", HopToNextMonth),
+        Row("ShiftRoshHashanah", ShiftRoshHashanah),
+        Row("ShiftRoshHashanahElul29", ShiftRoshHashanahElul29),
+        Row("isAstroHebrewLeapYear", isAstroHebrewLeapYear),
+        Row("AstroHebrewToFixed", AstroHebrewToFixed),
+        PlaceRow(
+            "FixedToActiveHebrewDate",
+            +[](Moment x, const LocaleRecord& place) {
+                return HebrewHolidays(FixedToActiveHebrewDate(x), ActiveReckoning(), place);
+            }),
+        Row("HebrewNewYear353", HebrewNewYear353),
+        Row("DaysInRectHebrewYear", DaysInRectHebrewYear),
+        Row("RectHebrewToFixed", RectHebrewToFixed),
+        Row("HebrewYearCharacter353", HebrewYearCharacter353),
+        Row("HebrewNewYear19", HebrewNewYear19),
+        Row("HebrewNewYear19alt", HebrewNewYear19alt),
+        Row("MyHebrewNewYear", MyHebrewNewYear),
+        Row("MyHebrewNewYearAlt", MyHebrewNewYearAlt),
+        Row("DaysInMyHebrewYear", DaysInMyHebrewYear),
         PlaceRow("HebrewDayOf", HebrewDayOf),
         PlaceRow(
             "HebrewEvents",
@@ -184,6 +205,7 @@ std::vector<DeskFunction> HebrewFunctions() {
 std::vector<DeskVariable> HebrewVariables() {
     return {
         Variable("MoladTimeFormat", hebrew::options.MoladTimeFormat),
+        Choice("HebrewMode", hebrew::options.HebrewMode, 0, 23),
         Variable("CandlesBeforeSunset", hebrew::options.CandlesBeforeSunset),
         Variable("CycleShift", hebrew::options.CycleShift),
         Variable("UseHebrewFont", hebrew::options.UseHebrewFont),
