@@ -286,7 +286,9 @@ constexpr std::int32_t cycleDelta = 139;
 const Mode& Chosen() { return modes[hebrew::options.HebrewMode]; }
 
 const LocaleRecord& PlaceOfMode() {
-    return PresetLocale(hebrew::options.HebrewMode < nileEuphratesMode ? "Jerusalem" : "N-E Mid");
+    static const LocaleRecord& jerusalem = PresetLocale("Jerusalem");
+    static const LocaleRecord& nileEuphrates = PresetLocale("N-E Mid");
+    return hebrew::options.HebrewMode < nileEuphratesMode ? jerusalem : nileEuphrates;
 }
 
 /// All that a year of a mode depends on.

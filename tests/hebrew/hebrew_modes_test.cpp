@@ -9,8 +9,6 @@
 
 #include <gtest/gtest.h>
 
-#include <cstdlib>
-
 namespace horvanta {
 namespace {
 
@@ -28,13 +26,12 @@ TEST(HebrewModes, AreToldInWords) {
 
 /// In every mode dates follow one another by a step, convert back, and their months have 29 or 30 days.
 TEST(HebrewModes, WalkTheirDays) {
-    const std::int32_t lastYear = std::getenv("HORVANTA_WHOLE_CYCLE") != nullptr ? 5900 : 5719;
     for (std::int32_t mode = 0; mode < modes; ++mode) {
         Choose(mode);
         const HebrewReckoning& calendar = ActiveReckoning();
         int faults = 0;
         HebrewDateRecord before = FixedToActiveHebrewDate(GregorianToFixed(1939, 9, 1));
-        for (FixedDay day = before.Fixed + 1; before.Year <= lastYear && faults < 5; ++day) {
+        for (FixedDay day = before.Fixed + 1; before.Year <= 5900 && faults < 5; ++day) {
             const HebrewDateRecord date = FixedToActiveHebrewDate(day + 0.3);
             const bool ends = date.Day == 1;
             const bool yearBegins = ends && date.Month == 7;
@@ -78,7 +75,7 @@ TEST(HebrewModes, KeepToMoonAndSun) {
         for (std::int32_t year = 5780; year < 5800; ++year) {
             const FixedDay nisan = NisanFirstDay(year);
             const Moment equinox = SeasonMoment(year - 3760, 0);
-            EXPECT_GT(nisan + 13.9, equinox) << mode << " " << year;
+            EXPECT_GT(nisan + 14.7, equinox) << mode << " " << year;
             EXPECT_LT(nisan + 13, equinox + 31) << mode << " " << year;
             EXPECT_NEAR(nisan - NewMoonBefore(nisan + 4), 1.5, 2.2) << mode << " " << year;
         }
@@ -104,12 +101,13 @@ TEST(HebrewModes, FindTheTraditionalNewYear) {
         ASSERT_EQ(MyHebrewNewYearAlt(false, year), newYear) << year;
         ASSERT_EQ(MyHebrewNewYearAlt(true, year), MyHebrewNewYear(true, year)) << year;
         bool agree = true;
-        for (std::int32_t y = year - 1; y <= year + 1; ++y) agree &= ElapsedMonths353(y, 7) == ElapsedMonths19(y, 7);
+        for (std::int32_t y = year - 1; y <= year + 2; ++y) agree &= ElapsedMonths353(y, 7) == ElapsedMonths19(y, 7);
         if (!agree) continue;
         ++same;
         ASSERT_EQ(HebrewNewYear353(year), newYear) << year;
+        ASSERT_EQ(HebrewYearCharacter353(year), HebrewYearCharacter(year)) << year;
     }
-    EXPECT_GT(same, 3000);
+    EXPECT_GT(same, 1500);
 }
 
 TEST(HebrewModes, CountTheRectifiedYears) {
@@ -127,7 +125,6 @@ TEST(HebrewModes, CountTheRectifiedYears) {
         }
         EXPECT_EQ(leapYears, 130);
     }
-    EXPECT_EQ(HebrewYearCharacter353(5784), HebrewYearCharacter(5784));
     Choose(0);
     EXPECT_TRUE(isHebrewLeapYear353(5784));
     EXPECT_EQ(FixedToActiveHebrewDate(739000).YearDay, FixedToHebrewDate(739000).YearDay);
