@@ -68,15 +68,15 @@ class Horvanta {
     std::vector<WindowRow> windows{
         timeAstro.Row(),
         Beside(timeAstro.form, gregorian.Row()),
-        Below(gregorian.form, lunar.Row()),
         Below(timeAstro.form, quartane.Row()),
         Beside(quartane.form, monthly.Row()),
+        Below(gregorian.form, lunar.Row()),
         Below(monthly.form, julian.Row()),
         Below(events.form, hebrew.Row()),
         Below(gregorian.form, persian.Row()),
         Beside(monthly.form, userLocales.Row()),
         {world.form, world.Dummy},
-        Below(julian.form, events.Row()),
+        Below(monthly.form, events.Row()),
     };
 
     /// The same, as far as they are there.

@@ -1,8 +1,10 @@
 #include "qt/forms.h"
 
+#include "forms/ui_events.h"
 #include "forms/ui_gregorian.h"
 #include "forms/ui_hebrew.h"
 #include "forms/ui_julian.h"
+#include "forms/ui_lunar.h"
 #include "forms/ui_monthly.h"
 #include "forms/ui_persian.h"
 #include "forms/ui_quartane.h"
@@ -26,7 +28,8 @@ struct DesignerForm {
 constexpr DesignerForm designerForms[] = {
     {"TimeAstro", SetUp<Ui::TimeAstro>}, {"Gregorian", SetUp<Ui::Gregorian>}, {"Monthly", SetUp<Ui::Monthly>},
     {"Quartane", SetUp<Ui::Quartane>},   {"User", SetUp<Ui::User>},           {"Persian", SetUp<Ui::Persian>},
-    {"Julian", SetUp<Ui::Julian>},       {"World", SetUp<Ui::World>},         {"Hebrew", SetUp<Ui::Hebrew>},
+    {"Julian", SetUp<Ui::Julian>},       {"World", SetUp<Ui::World>},         {"Lunar", SetUp<Ui::Lunar>},
+    {"Events", SetUp<Ui::Events>},       {"Hebrew", SetUp<Ui::Hebrew>},
 };
 
 }  // namespace

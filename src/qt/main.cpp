@@ -1,5 +1,6 @@
 #include "app/horvanta.h"
 #include "app/stored_settings.h"
+#include "astro/ephemeris_files.h"
 #include "core/moment.h"
 #include "qt/command_line.h"
 #include "qt/first_paint.h"
@@ -9,6 +10,7 @@
 
 #include <QApplication>
 #include <QIcon>
+#include <QStandardPaths>
 #include <QTimer>
 
 namespace {
@@ -31,6 +33,13 @@ void EndAfterPaint(horvanta::Horvanta& program, horvanta::Frame& frame) {
     new horvanta::FirstPaint(frame, [&program] { program.QuitWithoutSavePrefs_Click(); });
 }
 
+/// The ephemeris files lie beside the program, or in the user's data.
+void TellWhereEphemeridesAre() {
+    const QString data = QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation);
+    horvanta::ephemeris::SetFolders(
+        {QCoreApplication::applicationDirPath().toStdString(), (data + QStringLiteral("/Horvanta")).toStdString()});
+}
+
 }  // namespace
 
 int main(int argc, char* argv[]) {
@@ -43,6 +52,7 @@ int main(int argc, char* argv[]) {
     horvanta::SingleInstance instance;
     if (!instance.Claim()) return 0;
 
+    TellWhereEphemeridesAre();
     horvanta::QtDesktop desktop;
     horvanta::CurrentDesktop = &desktop;
     horvanta::Horvanta program;

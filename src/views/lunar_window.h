@@ -35,7 +35,7 @@ class LunarWindow {
     Label Dummy{form, "Dummy"};  ///< Shows nothing; holds the focus while no button should.
     MoonPicture Moon{form, "Moon"};
     Label MoonName{form, "MoonName", Tip("Phase of the Moon"), Widest("Waning crescent Moon")};
-    Label Tithi{form, "Tithi", Tip("Thirtieth part of the lunation by the Vedic count"), Widest("Vedic Krishna Paksha Tithi 10 = Trayodasi")};
+    Label Tithi{form, "Tithi", Tip("Thirtieth part of the lunation by the Vedic count"), Widest("Vedic Krishna Paksha Tithi 15 = Amavasya (new)")};
     Label AgeLabel{form, "AgeLabel", Caption("Age")};
     Label MoonAge{form, "MoonAge", Tip("Time since the last new Moon"), Widest("29d 23h 59m")};
     Label PhaseLabel{form, "PhaseLabel", Caption("Phase")};
@@ -55,7 +55,7 @@ class LunarWindow {
     Label YLCera{form, "YLCera", Tip("Yerms of the era, or of the cycle of the fixed calendar"), Widest("Cycle -100 = 52 yerms")};
     Button InfoYLC{form, "InfoYLC", Caption("Yerm info"), Tip("Click here for Yerm Lunar Calendar information")};
     // clang-format on
-    WindowColors colors{"L", {Color::FromNumber(6250335), Color::FromNumber(16777215)}, MoonName, {{YLCdate}}};
+    WindowColors colors{"L", {Color::FromNumber(6250335), Color::FromNumber(16777215)}, MoonName};
 
   private:
     void HangHandlers();

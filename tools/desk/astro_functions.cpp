@@ -1,6 +1,10 @@
+#include "astro/crescents.h"
+#include "astro/ephemeris.h"
+#include "astro/ephemeris_files.h"
 #include "astro/local_time.h"
 #include "astro/lunar_phases.h"
 #include "astro/moon.h"
+#include "astro/moon_events.h"
 #include "astro/sidereal.h"
 #include "astro/sun.h"
 #include "astro/sun_events.h"
@@ -15,7 +19,15 @@ std::string AnswerOf(const Apsis& apsis) { return RecordAnswer("moment distance"
 
 }  // namespace lunar
 
+namespace ephemeris {
+
+std::string AnswerOf(const Complaint& complaint) { return RecordAnswer("title text", complaint.title, complaint.text); }
+
+}  // namespace ephemeris
+
 namespace {
+
+void SetEphemerisFolder(std::string_view folder) { ephemeris::SetFolders({std::filesystem::path(folder)}); }
 
 /// A convention by its name.
 const LunationConvention& ConventionOf(std::string_view name) {
@@ -99,6 +111,7 @@ std::vector<DeskFunction> AstroFunctions() {
         Row("lunar::Distance", lunar::Distance),
         Row("lunar::Declination", lunar::Declination),
         Row("lunar::RightAscension", lunar::RightAscension),
+        PlaceRow("lunar::HourAngle", lunar::HourAngle),
         PlaceRow("lunar::Altitude", lunar::Altitude),
         PlaceRow("lunar::Parallax", lunar::Parallax),
         PlaceRow("lunar::TopocentricAltitude", lunar::TopocentricAltitude),
@@ -143,6 +156,27 @@ std::vector<DeskFunction> AstroFunctions() {
         Row("RASCtoJ2K_Lunation", RASCtoJ2K_Lunation),
         Row("JumpMeanNewMoon", JumpMeanNewMoon),
         Row("NumberedLunation", LunationByName),
+        Row("ephemeris::SetFolder", SetEphemerisFolder),
+        Row("ephemeris::ListedSeason", ephemeris::ListedSeason),
+        Row("ephemeris::ListedQuarter", ephemeris::ListedQuarter),
+        Row("ephemeris::ListedConjunction", ephemeris::ListedConjunction),
+        Row("ephemeris::ComplaintOfYear", ephemeris::ComplaintOfYear),
+        Row("ephemeris::ComplaintOfLunation", ephemeris::ComplaintOfLunation),
+        Row("SolexSolarLongitudeAfter", SolexSolarLongitudeAfter),
+        Row("SolexLunarQuarter", SolexLunarQuarter),
+        Row("LunarQuarter", LunarQuarter),
+        PlaceRow("Moonrise", Moonrise),
+        PlaceRow("Moonset", Moonset),
+        PlaceRow("VisibleCrescent", VisibleCrescent),
+        PlaceRow("VisibleOldCrescent", VisibleOldCrescent),
+        PlaceRow("VisibleCrescentSearch", VisibleCrescentSearch),
+        PlaceRow("VisibleOldCrescentSearch", VisibleOldCrescentSearch),
+        PlaceRow("VisibleCrescentBefore", VisibleCrescentBefore),
+        PlaceRow("VisibleCrescentAfter", VisibleCrescentAfter),
+        PlaceRow("VisibleOldCrescentBefore", VisibleOldCrescentBefore),
+        PlaceRow("VisibleOldCrescentAfter", VisibleOldCrescentAfter),
+        PlaceRow("CrescentPassage", CrescentPassage),
+        PlaceRow("OldCrescentPassage", OldCrescentPassage),
     };
 }
 
