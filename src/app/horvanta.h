@@ -72,10 +72,11 @@ class Horvanta {
         Beside(quartane.form, monthly.Row()),
         Below(gregorian.form, lunar.Row()),
         Below(monthly.form, julian.Row()),
-        Below(events.form, hebrew.Row()),
+        Below(quartane.form, hebrew.Row()),
         Below(gregorian.form, persian.Row()),
         Beside(monthly.form, userLocales.Row()),
         {world.form, world.Dummy},
+        Below(quartane.form, hebrew.Row()),
         Below(monthly.form, events.Row()),
     };
 

@@ -60,8 +60,7 @@ Settings KeptRows() {
         KeptRow("Color", "VietBC", "65535"),   KeptRow("Color", "VietFC", "255"),
 
         KeptRow("Item", "JCY1", "-2697"),      KeptRow("Item", "WCC", "False"),
-        KeptRow("Item", "CEN", "1"),
-        KeptRow("Item", "CCM", "0"),
+        KeptRow("Item", "CEN", "1"),           KeptRow("Item", "CCM", "0"),
     };
 }
 
