@@ -7,6 +7,7 @@
 #include "astro/sun.h"
 #include "astro/year_dates.h"
 #include "calendars/quartane_year_start.h"
+#include "hebrew/holidays.h"
 #include "hebrew/molad.h"
 #include "lunar/tithi.h"
 #include "lunar/yerm.h"
@@ -66,6 +67,8 @@ constexpr EventSearch searches[] = {
     {MenuEvent::NorthSolstice, [](Moment from, int direction) { return SolarLongitudePassage(from, 90, direction); }},
     {MenuEvent::SouthwardEquinox, [](Moment from, int direction) { return SolarLongitudePassage(from, 180, direction); }},
     {MenuEvent::SouthSolstice, [](Moment from, int direction) { return SolarLongitudePassage(from, 270, direction); }},
+    {MenuEvent::Passover, [](Moment from, int direction) { return JumpYomTov(from, direction, 1, 15); }},
+    {MenuEvent::RoshHashanah, [](Moment from, int direction) { return JumpYomTov(from, direction, 7, 1); }},
     {MenuEvent::MeanPerihelion, [](Moment from, int direction) { return SolarAnomalyPassage(from, 0, direction); }},
     {MenuEvent::MeanAphelion, [](Moment from, int direction) { return SolarAnomalyPassage(from, 180, direction); }},
     {MenuEvent::MoladMoment, JumpMolad},

@@ -8,6 +8,7 @@
 #include "core/shell.h"
 #include "views/events_window.h"
 #include "views/gregorian_window.h"
+#include "views/hebrew_window.h"
 #include "views/julian_window.h"
 #include "views/lunar_window.h"
 #include "views/monthly_window.h"
@@ -58,6 +59,7 @@ class Horvanta {
     GregorianWindow gregorian{frame};
     LunarWindow lunar{frame};
     JulianWindow julian{frame};
+    HebrewWindow hebrew{frame};
     PersianWindow persian{frame};
     QuartaneWindow quartane{frame};
     UserLocalesWindow userLocales{frame};
@@ -77,9 +79,11 @@ class Horvanta {
         Beside(quartane.form, monthly.Row()),
         Below(gregorian.form, lunar.Row()),
         Below(monthly.form, julian.Row()),
+        Below(quartane.form, hebrew.Row()),
         Below(gregorian.form, persian.Row()),
         Beside(monthly.form, userLocales.Row()),
         {world.form, world.Dummy},
+        Below(quartane.form, hebrew.Row()),
         Below(monthly.form, events.Row()),
     };
 

@@ -3,7 +3,6 @@
 #include "calendars/gregorian.h"
 #include "core/moment.h"
 #include "core/text.h"
-#include "hebrew/hebrew_options.h"
 #include "locale/locale_text.h"
 #include "lunar/lunar_options.h"
 
@@ -146,12 +145,6 @@ Settings Options::StoredRows() {
         {"Item", "LunOff", "", {}, [] { return std::to_string(ChosenLunationConvention().Offset); }},
         {"Item", "LunCap", "", {}, [] { return std::string(ChosenLunationConvention().Name); }},
         TruthRow("Item", "LP", lunar::options, &lunar::Options::SignedPhase),
-        {"Item", "MTF", "7",
-         [](const std::string& text) {
-             hebrew::options.MoladTimeFormat = text == "5" ? 5 : 7;
-             return true;
-         },
-         [] { return std::to_string(hebrew::options.MoladTimeFormat); }},
     };
 }
 

@@ -26,6 +26,7 @@ struct GridDate {
 struct NamesOfDays {
     std::array<std::string, 7> full;
     std::array<std::string, 7> brief;
+    std::array<std::string, 7> script{};  ///< In the calendar's own letters, where that is another.
 };
 
 /// A list of names as texts.

@@ -123,13 +123,13 @@ constexpr NameList names{
     {"Yom Rishon", "Yom Sheini", "Yom Shlishi", "Yom Rivii", "Yom Chamishi", "Yom Shishi", "Yom Shabbat"},
 };
 
-constexpr NameList hebrewFontNames{
-    {"Kol", "ixhb", "rhht", "iuhx", "zun,", "ct", "kukt", "hra,", "iuaj", "ukxf", ",cy", "yca", "iuatr rst", "hba rst"},
-    "rst",
-    {"iuatr ouh", "hba ouh", "hahka ouh", "hghcr ouh", "hahnj ouh", "haa ouh", ",ca ouh"},
+constexpr NameList hebrewScriptNames{
+    {"Kol", "ניסן", "אייר", "סיון", "תמוז", "אב", "אלול", "תשרי", "חשון", "כסלו", "טבת", "שבט", "אדר ראשון", "אדר שני"},
+    "אדר",
+    {"יום ראשון", "יום שני", "יום שלישי", "יום רביעי", "יום חמישי", "יום ששי", "יום שבת"},
 };
 
-const NameList& Names() { return hebrew::options.UseHebrewFont ? hebrewFontNames : names; }
+const NameList& Names() { return hebrew::options.UseHebrewFont ? hebrewScriptNames : names; }
 
 /// A pattern with { and } replaced by the marks of italics, and | by the separator.
 std::string Filled(std::string_view pattern, std::string_view separator, std::string_view open,
@@ -213,8 +213,10 @@ std::string_view HebrewMonthName(std::int32_t year, std::int32_t month) {
     return month == 12 && !isHebrewLeapYear19(year) ? Names().commonAdar : Names().months[month];
 }
 
+std::string_view WeekdayName(std::int32_t weekday) { return Names().weekdays[weekday]; }
+
 // Moments too large to tell days apart come to no weekday.
-std::string_view WeekdayLabel(Moment x) { return Names().weekdays[std::clamp(DayOfWeek(x), 0, 6)]; }
+std::string_view WeekdayLabel(Moment x) { return WeekdayName(std::clamp(DayOfWeek(x), 0, 6)); }
 
 std::string HebrewDateString(const HebrewDateRecord& date, bool withWeekday, bool italics, bool withYear) {
     const auto marked = [&](std::string_view name) {
@@ -224,9 +226,6 @@ std::string HebrewDateString(const HebrewDateRecord& date, bool withWeekday, boo
     const std::string month = marked(HebrewMonthName(date.Year, date.Month));
     const std::string day = std::to_string(date.Day);
     const std::string year = withYear ? std::to_string(date.Year) : "";
-    if (hebrew::options.UseHebrewFont) {
-        return year + (withYear ? " ," : "") + month + " " + day + (withWeekday ? " ," : "") + weekday;
-    }
     return weekday + (withWeekday ? ", " : "") + day + " " + month + (withYear ? ", " : "") + year;
 }
 
@@ -239,6 +238,9 @@ std::string HebrewShortDateString(const HebrewDateRecord& date, bool withYear) {
 }
 
 std::string FixedToHebrewShortDate(Moment moment) { return HebrewShortDateString(FixedToHebrewDate(moment), false); }
+
+constinit const HebrewReckoning TraditionalReckoning{HebrewToFixed, FixedToHebrewDate, MonthsInHebrewYear,
+                                                     LastDayOfHebrewMonth, HebrewMonthName};
 
 double ElapsedMonths19(std::int32_t year, std::int32_t month) {
     return Quotient(235.0 * static_cast<double>(YearOfTishrei(year, month)) - 234, 19) + (month - 7.0);
@@ -400,6 +402,7 @@ NamesOfDays DayNames() {
     NamesOfDays days;
     for (std::size_t i = 0; i < days.full.size(); ++i) {
         days.full[i] = Names().weekdays[i];
+        days.script[i] = hebrewScriptNames.weekdays[i].substr(std::string_view("יום ").size());
         days.brief[i] = "( " + std::to_string(i + 1) + " )";
     }
     return days;
@@ -407,6 +410,13 @@ NamesOfDays DayNames() {
 
 }  // namespace
 
-constinit const CalendarContract hebrew::Calendar{"Hebrew", GridDateToFixed, GridDateOf, MonthNames, DayNames};
+constexpr std::int16_t adarOfGrid = 6;
+
+constinit const CalendarContract hebrew::Calendar{.name = "Hebrew",
+                                                  .ToFixed = GridDateToFixed,
+                                                  .DateOf = GridDateOf,
+                                                  .MonthNames = MonthNames,
+                                                  .DayNames = DayNames,
+                                                  .leapMonthAfter = adarOfGrid};
 
 }  // namespace horvanta

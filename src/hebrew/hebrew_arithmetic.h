@@ -81,7 +81,10 @@ std::int32_t FixedToHebrewYear(Moment moment);
 /// as pickers want it; empty for any other.
 std::string_view HebrewMonthName(std::int32_t year, std::int32_t month);
 
-/// "Yom Rishon" (Sunday) to "Yom Shabbat", the weekday of a moment's day.
+/// "Yom Rishon" for 0 = Sunday to "Yom Shabbat" for 6.
+std::string_view WeekdayName(std::int32_t weekday);
+
+/// The weekday of a moment's day.
 std::string_view WeekdayLabel(Moment x);
 
 /// The date as "Yom Sheini, 1 Tishrei, 5773", with the tags of italics around weekday and month if asked.
@@ -91,6 +94,19 @@ std::string FixedToHebrewString(Moment moment);
 /// The date as "1 Tishrei, 5773" or, as `FixedToHebrewShortDate` has it, "1 Tishrei".
 std::string HebrewShortDateString(const HebrewDateRecord& date, bool withYear);
 std::string FixedToHebrewShortDate(Moment moment);
+
+// Reckonings.
+
+/// A way to count days into months, as a row of the operations above: the traditional one, or one of the modes.
+struct HebrewReckoning {
+    FixedDay (*ToFixed)(std::int32_t year, std::int32_t month, std::int32_t day);
+    HebrewDateRecord (*DateOf)(Moment moment);
+    std::int32_t (*MonthsInYear)(std::int32_t year);
+    std::int16_t (*LastDayOfMonth)(std::int32_t year, std::int32_t month);
+    std::string_view (*MonthName)(std::int32_t year, std::int32_t month);
+    bool astronomical = false;
+};
+extern const HebrewReckoning TraditionalReckoning;
 
 // Molad.
 

@@ -2,6 +2,7 @@
 
 #include "forms/ui_events.h"
 #include "forms/ui_gregorian.h"
+#include "forms/ui_hebrew.h"
 #include "forms/ui_julian.h"
 #include "forms/ui_lunar.h"
 #include "forms/ui_monthly.h"
@@ -28,7 +29,7 @@ constexpr DesignerForm designerForms[] = {
     {"TimeAstro", SetUp<Ui::TimeAstro>}, {"Gregorian", SetUp<Ui::Gregorian>}, {"Monthly", SetUp<Ui::Monthly>},
     {"Quartane", SetUp<Ui::Quartane>},   {"User", SetUp<Ui::User>},           {"Persian", SetUp<Ui::Persian>},
     {"Julian", SetUp<Ui::Julian>},       {"World", SetUp<Ui::World>},         {"Lunar", SetUp<Ui::Lunar>},
-    {"Events", SetUp<Ui::Events>},
+    {"Events", SetUp<Ui::Events>},       {"Hebrew", SetUp<Ui::Hebrew>},
 };
 
 }  // namespace

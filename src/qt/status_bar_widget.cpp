@@ -25,12 +25,16 @@ StatusBarWidget::StatusBarWidget(QWidget* parent) : LabelsWidget(parent) {
 void StatusBarWidget::AddPanel() {
     QLabel* panel = MakePanel();
     panel->setMinimumWidth(1);  // in place of the width of its text, which would tell the panels apart
-    static_cast<QHBoxLayout*>(layout())->addWidget(panel, 1);
+    static_cast<QBoxLayout*>(layout())->addWidget(panel, 1);
     parts_.push_back(panel);
 }
 
 void StatusBarWidget::Draw(const StatusBar& bar) {
+    const bool column = property("column").toBool();
+    if (column) static_cast<QBoxLayout*>(layout())->setDirection(QBoxLayout::TopToBottom);
     while (parts_.size() < bar.panels.size()) AddPanel();
+    if (column)
+        for (QLabel* panel : parts_) panel->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     for (std::size_t i = 0; i < bar.panels.size(); ++i) {
         const StatusBar::Panel& panel = bar.panels[i];
         parts_[i]->setText(QString::fromStdString(panel.text));

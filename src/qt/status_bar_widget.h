@@ -7,7 +7,8 @@ namespace horvanta {
 
 class Acts;
 
-/// A row of framed panels, all equally wide whatever they show, so that two bars of as many panels line up.
+/// A row of framed panels, all equally wide whatever they show, so that two bars of as many panels line up; or with the
+/// dynamic property `column`, a column of them.
 class StatusBarWidget final : public LabelsWidget {
     Q_OBJECT
   public:

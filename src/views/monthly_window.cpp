@@ -89,7 +89,8 @@ void MonthlyWindow::ShowHeadings() {
     const NamesOfDays names = Current().contract->DayNames();
     for (std::size_t i = 0; i < names.full.size(); ++i) {
         const bool cut = !Days.across && names.brief[i] != names.full[i];
-        Days.headings[i] = {Days.across ? names.full[i] : names.brief[i], cut ? names.full[i] : ""};
+        const std::string script = WrapIfNotEmpty(names.script[i], cut ? " (" : "(", ")", "");
+        Days.headings[i] = {Days.across ? names.full[i] : names.brief[i], (cut ? names.full[i] : "") + script};
     }
 }
 

@@ -13,6 +13,7 @@
 #include "core/text.h"
 #include "locale/locale_text.h"
 #include "views/day_strip.h"
+#include "views/panel_bars.h"
 
 #include <algorithm>
 #include <cmath>
@@ -79,7 +80,6 @@ void SetWords(Button& toggle, Label& value, const Words& words) {
     value.tooltip = words.valueTooltip;
 }
 
-std::string ClockText(Moment standardTime) { return FormatTime(StandardToDaylight(standardTime), 0); }
 std::string SpanText(double days) { return FormatTime(days, 11); }
 
 const char* Hemisphere(double declination) { return declination < 0 ? " S" : " N"; }
@@ -127,13 +127,12 @@ TimeFields::TimeFields(Form& owner, HorvantaMDI& frame, const Control& mainField
 
 void TimeFields::MakePanels() {
     for (const std::string_view legend : legends) {
-        DawnDuskLegends.panels.push_back({std::string(legend), std::string(legend), ""});
-        DawnDusk.panels.push_back({std::string(legend), "", ""});
+        AddPanel(DawnDuskLegends, DawnDusk, legend, legend);
     }
-    DawnDusk.PanelClick = [this](std::size_t index) {
+    HangPanels(DawnDuskLegends, DawnDusk, [this](std::size_t index) {
         const StatusBar::Panel& panel = DawnDusk.panels[index];
         frame_.SetClipboardText(panel.key + ": " + panel.text);
-    };
+    });
 }
 
 void TimeFields::HangHandlers() {
