@@ -20,6 +20,11 @@ format_check() {
     git ls-files '*.h' '*.cpp' | xargs clang-format --dry-run -Werror
 }
 
+floors_check() {
+    heading 'Floors'
+    tools/check_floors.sh
+}
+
 sanitized_tests() {
     heading 'Tests under the sanitizers'
     build sanitize
@@ -99,6 +104,7 @@ case "${1:-quick}" in
         need "${display_packages[@]}" appstream clang-format desktop-file-utils dpkg-dev file \
             lintian locales man-db openbox tzdata
         format_check
+        floors_check
         quick_tests
         sanitized_tests
         locale_tests

@@ -1,25 +1,16 @@
 #include "core/numerics.h"
 #include "ratios.h"
-
-#include <benchmark/benchmark.h>
+#include "samples.h"
 
 #include <cmath>
 #include <cstdio>
 #include <cstdlib>
-#include <random>
-#include <vector>
 
 namespace horvanta {
 namespace {
 
 const std::vector<double>& DayMoments() {
-    static const std::vector<double> moments = [] {
-        std::mt19937_64 random(1);
-        std::uniform_real_distribution<double> day(-2.5e6, 4.4e6);
-        std::vector<double> list(4096);
-        for (double& x : list) x = day(random);
-        return list;
-    }();
+    static const std::vector<double> moments = RandomNumbers(-2.5e6, 4.4e6, 4096);
     return moments;
 }
 
@@ -34,11 +25,7 @@ double FloorBySnprintf(double x) {
 
 template <double (*Function)(double)>
 void OverDayMoments(benchmark::State& state) {
-    const std::vector<double>& moments = DayMoments();
-    for (auto _ : state) {
-        for (const double x : moments) benchmark::DoNotOptimize(Function(x));
-    }
-    state.SetItemsProcessed(state.iterations() * static_cast<std::int64_t>(moments.size()));
+    ForEach(state, DayMoments(), Function);
 }
 
 BENCHMARK(OverDayMoments<Floor>)->Name("Floor");

@@ -1,49 +1,29 @@
 #include "hebrew/hebrew_arithmetic.h"
 #include "ratios.h"
-
-#include <benchmark/benchmark.h>
+#include "samples.h"
 
 #include <memory>
-#include <random>
 #include <unicode/calendar.h>
 #include <vector>
 
 namespace horvanta {
 namespace {
 
-/// A million days of the years 1 to 6000, and their dates.
+/// The dates of a million days.
 const std::vector<HebrewDateRecord>& Dates() {
     static const std::vector<HebrewDateRecord> dates = [] {
-        std::mt19937_64 random(3);
-        std::uniform_int_distribution<int> day(static_cast<int>(HebrewNewYear(1)),
-                                               static_cast<int>(HebrewNewYear(6001)) - 1);
         std::vector<HebrewDateRecord> list;
-        for (int i = 0; i < 1'000'000; ++i) list.push_back(FixedToHebrewDate(day(random)));
+        for (const FixedDay day : RandomDays()) list.push_back(FixedToHebrewDate(day));
         return list;
     }();
     return dates;
 }
 
-void CountItems(benchmark::State& state) {
-    state.SetItemsProcessed(state.iterations() * static_cast<std::int64_t>(Dates().size()));
-}
-
-void ToHebrew(benchmark::State& state) {
-    const std::vector<HebrewDateRecord>& dates = Dates();
-    for (auto _ : state) {
-        for (const HebrewDateRecord& date : dates) benchmark::DoNotOptimize(FixedToHebrewDate(date.Fixed));
-    }
-    CountItems(state);
-}
+void ToHebrew(benchmark::State& state) { ForEach(state, RandomDays(), FixedToHebrewDate); }
 
 void FromHebrew(benchmark::State& state) {
-    const std::vector<HebrewDateRecord>& dates = Dates();
-    for (auto _ : state) {
-        for (const HebrewDateRecord& date : dates) {
-            benchmark::DoNotOptimize(HebrewToFixed(date.Year, date.Month, date.Day));
-        }
-    }
-    CountItems(state);
+    ForEach(state, Dates(),
+            [](const HebrewDateRecord& date) { return HebrewToFixed(date.Year, date.Month, date.Day); });
 }
 
 /// ICU's calendar in Universal Time, which counts milliseconds from 1970.
@@ -68,31 +48,26 @@ LibraryDate LibraryDateOf(const HebrewDateRecord& date) {
 
 void LibraryToHebrew(benchmark::State& state) {
     constexpr double millisecondsPerDay = 86'400'000;
-    auto [status, calendar] = LibraryCalendar();
+    LibraryCalendar library;
     std::vector<UDate> times;
-    for (const HebrewDateRecord& date : Dates()) times.push_back((date.Fixed - UnixEpoch) * millisecondsPerDay);
-    for (auto _ : state) {
-        for (const UDate time : times) {
-            calendar->setTime(time, status);
-            benchmark::DoNotOptimize(LibraryDate{calendar->get(UCAL_YEAR, status), calendar->get(UCAL_MONTH, status),
-                                                 calendar->get(UCAL_DATE, status)});
-        }
-    }
-    CountItems(state);
+    for (const FixedDay day : RandomDays()) times.push_back((day - UnixEpoch) * millisecondsPerDay);
+    ForEach(state, times, [&](UDate time) {
+        library.calendar->setTime(time, library.status);
+        return LibraryDate{library.calendar->get(UCAL_YEAR, library.status),
+                           library.calendar->get(UCAL_MONTH, library.status),
+                           library.calendar->get(UCAL_DATE, library.status)};
+    });
 }
 
 void LibraryFromHebrew(benchmark::State& state) {
-    auto [status, calendar] = LibraryCalendar();
-    calendar->clear();
+    LibraryCalendar library;
+    library.calendar->clear();
     std::vector<LibraryDate> dates;
     for (const HebrewDateRecord& date : Dates()) dates.push_back(LibraryDateOf(date));
-    for (auto _ : state) {
-        for (const LibraryDate& date : dates) {
-            calendar->set(date.year, date.month, date.day);
-            benchmark::DoNotOptimize(calendar->getTime(status));
-        }
-    }
-    CountItems(state);
+    ForEach(state, dates, [&](const LibraryDate& date) {
+        library.calendar->set(date.year, date.month, date.day);
+        return library.calendar->getTime(library.status);
+    });
 }
 
 BENCHMARK(ToHebrew)->Name("Hebrew from fixed");

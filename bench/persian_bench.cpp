@@ -1,8 +1,7 @@
 #include "calendars/persian.h"
 #include "core/numbering.h"
 #include "ratios.h"
-
-#include <benchmark/benchmark.h>
+#include "samples.h"
 
 #include <memory>
 #include <unicode/calendar.h>
@@ -24,17 +23,7 @@ std::vector<FixedDay> DaysOfAYear() {
     return days;
 }
 
-void CountItems(benchmark::State& state, std::size_t each) {
-    state.SetItemsProcessed(state.iterations() * static_cast<std::int64_t>(each));
-}
-
-void KnownYear(benchmark::State& state) {
-    const std::vector<FixedDay> days = DaysOfAYear();
-    for (auto _ : state) {
-        for (const FixedDay day : days) benchmark::DoNotOptimize(FixedToPersianDate(day));
-    }
-    CountItems(state, days.size());
-}
+void KnownYear(benchmark::State& state) { ForEach(state, DaysOfAYear(), FixedToPersianDate); }
 
 /// ICU's calendar in Universal Time, which counts milliseconds from 1970.
 void LibraryKnownYear(benchmark::State& state) {
@@ -44,24 +33,18 @@ void LibraryKnownYear(benchmark::State& state) {
         icu::Calendar::createInstance(*icu::TimeZone::getGMT(), icu::Locale("en@calendar=persian"), status));
     std::vector<UDate> times;
     for (const FixedDay day : DaysOfAYear()) times.push_back((day - UnixEpoch) * millisecondsPerDay);
-    for (auto _ : state) {
-        for (const UDate time : times) {
-            calendar->setTime(time, status);
-            benchmark::DoNotOptimize(YearMonthDay{calendar->get(UCAL_YEAR, status), calendar->get(UCAL_MONTH, status),
-                                                  calendar->get(UCAL_DATE, status)});
-        }
-    }
-    CountItems(state, times.size());
+    ForEach(state, times, [&](UDate time) {
+        calendar->setTime(time, status);
+        return YearMonthDay{calendar->get(UCAL_YEAR, status), calendar->get(UCAL_MONTH, status),
+                            calendar->get(UCAL_DATE, status)};
+    });
 }
 
 /// A day in every second year, so that neither its new year nor the next is remembered.
 void UnseenYear(benchmark::State& state) {
     std::vector<FixedDay> days;
     for (std::int32_t year = -7000; year < 11'000; year += 2) days.push_back(PersianToFixed(year, 6, 15));
-    for (auto _ : state) {
-        for (const FixedDay day : days) benchmark::DoNotOptimize(FixedToPersianDate(day));
-    }
-    CountItems(state, days.size());
+    ForEach(state, days, FixedToPersianDate);
 }
 
 BENCHMARK(KnownYear)->Name("Persian, known year");

@@ -3,35 +3,16 @@
 #include "core/numbering.h"
 #include "locale/presets.h"
 #include "ratios.h"
-
-#include <benchmark/benchmark.h>
+#include "samples.h"
 
 #include <cmath>
-#include <random>
-#include <vector>
 
 namespace horvanta {
 namespace {
 
-std::vector<double> RandomNumbers(double from, double to, std::size_t count) {
-    std::mt19937_64 random(3);
-    std::uniform_real_distribution<double> number(from, to);
-    std::vector<double> list(count);
-    for (double& x : list) x = number(random);
-    return list;
-}
-
 const std::vector<Moment>& Moments() {
     static const std::vector<Moment> moments = RandomNumbers(MinFixedDay, MaxFixedDay, 10'000);
     return moments;
-}
-
-template <class Function>
-void ForEach(benchmark::State& state, const std::vector<double>& numbers, const Function& function) {
-    for (auto _ : state) {
-        for (const double x : numbers) benchmark::DoNotOptimize(function(x));
-    }
-    state.SetItemsProcessed(state.iterations() * static_cast<std::int64_t>(numbers.size()));
 }
 
 /// So many that a processor can't learn them: those of the series are not learned either.
@@ -50,13 +31,12 @@ void LongitudeAfter(benchmark::State& state) {
 
 /// Each day of a year at Jerusalem, over and over.
 void SunriseOverAYear(benchmark::State& state) {
-    const LocaleScope jerusalem(PresetLocale("Jerusalem"));
     static const std::vector<double> days = [] {
         std::vector<double> year(365);
         for (double& day : year) day = 738900 + static_cast<double>(&day - year.data());
         return year;
     }();
-    ForEach(state, days, Sunrise);
+    ForEach(state, days, [](FixedDay day) { return Sunrise(day, PresetLocale("Jerusalem")); });
 }
 
 BENCHMARK(Sine)->Name("std::sin");

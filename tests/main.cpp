@@ -1,19 +1,19 @@
-#include "astro/timescales.h"
-#include "clock/zone_time.h"
+#include "app/all_options.h"
 #include "core/locale.h"
-#include "core/numbering.h"
+#include "core/moment.h"
 
 #include <gtest/gtest.h>
 
 namespace {
 
-/// Lets every test begin with the options that a first start has, whatever the one before left.
+/// Lets every test begin as a first start does, whatever the one before left.
 class FirstStart final : public testing::EmptyTestEventListener {
     void OnTestStart(const testing::TestInfo&) override {
-        horvanta::SetFixedDayEpoch(horvanta::GregorianEpoch, 1, "rata die");
-        horvanta::SetDeltaTDisabled(false);
-        horvanta::UseElevation = true;
-        horvanta::AdjustDST = 1;
+        horvanta::ResetAllOptions();
+        horvanta::Locale = {};
+        horvanta::UserLocales = {};
+        horvanta::DisplayedMoment = horvanta::SavedMoment = 0;
+        horvanta::Increment = 1;
     }
 };
 

@@ -1,5 +1,6 @@
 #include "app/horvanta.h"
 
+#include "app/all_options.h"
 #include "app/stored_settings.h"
 #include "core/day_events.h"
 #include "core/desktop.h"
@@ -22,6 +23,7 @@ void EnableNeeding(const WindowRow& row) {
 }  // namespace
 
 Horvanta::Horvanta() {
+    ResetAllOptions();
     BusyCount = 0;
     UpdateDepth = 0;
     Quitting = false;
@@ -87,7 +89,6 @@ void Horvanta::MarkLaunch() {
 void Horvanta::LoadWindows() {
     LoadFramePrefs(frame);
     CurrentDesktop->LoadFrame(frame);
-    SetFixedDayEpoch(GregorianEpoch, 1, "rata die");  // January 1 of year 1 is day 1
     for (Form* form : Forms()) CurrentDesktop->LoadForm(*form);
     LoadPrefs(*this);
     for (WindowRow& row : windows) {

@@ -8,14 +8,11 @@
 namespace horvanta {
 
 namespace day_numbering {
-
 struct Options {
     std::int32_t FixedDayOption = 4;  ///< The item of the numbering menu that was chosen last, from 1.
-
     bool operator==(const Options&) const = default;
 };
 inline Options options;
-
 }  // namespace day_numbering
 
 /// The commands of the Options menu that change how things are counted, told and linked.

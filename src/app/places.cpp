@@ -60,81 +60,57 @@ void Places::ChooseFirst() {
 
 void Places::SetUserLocale(std::size_t slot, const LocaleRecord& place) {
     UserLocales[slot] = place;
+    entries_[slot] = {place.Name, place.Latitude, place.Longitude, place.Elevation,
+                      place.Zone, place.NoDST,    place.UseLMT};
     MenuItem& item = frame_.UserLoc[slot];
     item.caption = ReplaceAll(place.Name, "&", "&&");
     item.ShowsWhen([this, &item] { return chosen_ == &item; });
     item.Click = [this, slot] { UserLoc_Click(slot); };
 }
 
-namespace {
-
-/// A key of a place of the user's, its default, and what its text sets and comes of.
-struct PlaceKey {
-    const char* key;
-    const char* standard;
-    bool (*take)(PlaceEntry& entry, const std::string& text);
-    std::string (*give)(const LocaleRecord& place);
-};
-
-/// A number within a limit to both sides.
-template <double PlaceEntry::*Field, int Limit>
-bool TakeNumber(PlaceEntry& entry, const std::string& text) {
-    return TakeIf(NumberOf(text, -Limit, Limit), [&](double x) { entry.*Field = x; });
-}
-
-template <bool PlaceEntry::*Field>
-bool TakeTruth(PlaceEntry& entry, const std::string& text) {
-    return TakeIf(TruthOf(text), [&](bool x) { entry.*Field = x; });
-}
-
-constexpr int highest = 100'000;  // metres
-
-// clang-format off
-constexpr PlaceKey placeKeys[] = {
-    {"Name", "", [](PlaceEntry& e, const std::string& text) { e.name = text; return true; }, [](const LocaleRecord& p) { return p.Name; }},
-    {"Lat", "0", TakeNumber<&PlaceEntry::latitude, 90>, [](const LocaleRecord& p) { return ExactText(p.Latitude); }},
-    {"Long", "0", TakeNumber<&PlaceEntry::longitude, 360>, [](const LocaleRecord& p) { return ExactText(p.Longitude); }},
-    {"Elev", "0", TakeNumber<&PlaceEntry::elevation, highest>, [](const LocaleRecord& p) { return ExactText(p.Elevation); }},
-    {"Zone", "0", TakeNumber<&PlaceEntry::zone, 24>, [](const LocaleRecord& p) { return ExactText(p.Zone); }},
-    {"NoDST", "False", TakeTruth<&PlaceEntry::noDST>, [](const LocaleRecord& p) { return TruthText(p.NoDST); }},
-    {"UseLMT", "False", TakeTruth<&PlaceEntry::useLMT>, [](const LocaleRecord& p) { return TruthText(p.UseLMT); }},
-};
-// clang-format on
-
-}  // namespace
-
-/// A slot without a name was never filled, and is not written.
-Settings Places::UserRows() {
-    Settings rows;
-    for (std::size_t slot = 1; slot < UserLocales.size(); ++slot) {
-        const std::string section = "User " + std::to_string(slot);
-        const auto writing = [slot](const auto& give) {
-            return [slot, give]() -> std::optional<std::string> {
-                if (UserLocales[slot].Name.empty()) return std::nullopt;
-                return give();
-            };
-        };
-        for (const PlaceKey& row : placeKeys) {
-            rows.push_back({section, row.key, row.standard,
-                            [this, slot, take = row.take](const std::string& text) { return take(read_[slot], text); },
-                            writing([slot, give = row.give] { return give(UserLocales[slot]); }), UserSettings});
-        }
-        rows.push_back({section, "Chk", "False",
-                        [this, slot](const std::string& text) {
-                            StoreRead(slot);
-                            if (TruthOf(text).value_or(false) && !UserLocales[slot].Name.empty()) userSlot_ = slot;
-                            return true;
-                        },
-                        writing([this, slot] { return TruthText(isUserLocaleChosen(slot)); }), UserSettings});
+/// The keys of a slot. One without a name was never filled, and is not written.
+Settings Places::SlotRows(std::size_t slot) {
+    constexpr double highest = 100'000;  // metres
+    const std::string section = "User " + std::to_string(slot);
+    PlaceEntry& entry = entries_[slot];
+    Settings rows{{section, "Name", "",
+                   [&entry](const std::string& text) {
+                       entry.name = text;
+                       return true;
+                   },
+                   [&entry] { return entry.name; }},
+                  NumberRow(section, "Lat", entry, &PlaceEntry::latitude, -90, 90),
+                  NumberRow(section, "Long", entry, &PlaceEntry::longitude, -360, 360),
+                  NumberRow(section, "Elev", entry, &PlaceEntry::elevation, -highest, highest),
+                  NumberRow(section, "Zone", entry, &PlaceEntry::zone, -24, 24),
+                  TruthRow(section, "NoDST", entry, &PlaceEntry::noDST),
+                  TruthRow(section, "UseLMT", entry, &PlaceEntry::useLMT),
+                  {section, "Chk", TruthText(false),
+                   [this, slot](const std::string& text) {
+                       if (TakeEntry(slot) && TruthOf(text).value_or(false)) userSlot_ = slot;
+                       return true;
+                   },
+                   [this, slot] { return TruthText(isUserLocaleChosen(slot)); }}};
+    for (Setting& row : rows) {
+        row.application = UserSettings;
+        row.give = [&entry, give = row.give] { return entry.name.empty() ? std::nullopt : give(); };
     }
     return rows;
 }
 
-void Places::StoreRead(std::size_t slot) {
-    const PlaceEntry& entry = read_[slot];
-    if (entry.name.empty()) return;
+/// Makes a place of what the settings told of a slot, if they told anything.
+bool Places::TakeEntry(std::size_t slot) {
+    const PlaceEntry& entry = entries_[slot];
+    if (entry.name.empty()) return false;
     SetUserLocale(slot, MakeLocale(entry.name, entry.name, entry.latitude, entry.longitude, entry.elevation, entry.zone,
                                    entry.noDST, true, entry.useLMT));
+    return true;
+}
+
+Settings Places::UserRows() {
+    Settings rows;
+    for (std::size_t slot = 1; slot < UserLocales.size(); ++slot) Append(rows, SlotRows(slot));
+    return rows;
 }
 
 Settings Places::StoredRows() {

@@ -11,7 +11,7 @@
 
 namespace horvanta {
 
-/// A place of the user's as the settings tell it, key by key.
+/// A place of the user's as the settings tell it.
 struct PlaceEntry {
     std::string name;
     double latitude = 0;
@@ -52,14 +52,15 @@ class Places {
 
   private:
     void ReportMove(const LocaleRecord& place);
-    void StoreRead(std::size_t slot);
+    Settings SlotRows(std::size_t slot);
+    bool TakeEntry(std::size_t slot);
 
     HorvantaMDI& frame_;
     TimeFields& fields_;
     const MenuItem* chosen_ = nullptr;
-    std::array<PlaceEntry, UserLocales.size()> read_;  ///< What the settings told of the slots.
-    std::size_t userSlot_ = 0;                         ///< The one that was the chosen place; 0 for none.
-    std::string storedName_;                           ///< Else the preset that was it.
+    std::array<PlaceEntry, UserLocales.size()> entries_;  ///< The user's own places.
+    std::size_t userSlot_ = 0;  ///< The one that the settings tell as the chosen place; 0 for none.
+    std::string storedName_;    ///< Else the preset that they tell.
 };
 
 }  // namespace horvanta

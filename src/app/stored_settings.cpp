@@ -7,30 +7,24 @@
 namespace horvanta {
 namespace {
 
-/// The frame that is neither minimised nor maximised.
-Setting FrameEdgeRow(HorvantaMDI& frame, std::string_view key, double Position::*number) {
-    return {frame.name, std::string(key), "0",
-            [&frame, number](const std::string& text) {
-                constexpr double farthest = 1e6;  // twips
-                return TakeIf(NumberOf(text, -farthest, farthest), [&](double x) { frame.position.*number = x; });
-            },
-            [&frame, number]() -> std::optional<std::string> {
-                if (frame.state != FrameNormal) return std::nullopt;
-                return ExactText(frame.position.*number);
-            }};
-}
-
+/// Where it stands is only written while it is neither minimised nor maximised.
 Settings FrameRows(HorvantaMDI& frame) {
+    constexpr double farthest = 1e6;  // twips
+    const auto edge = [&](std::string_view key, double Position::*number) {
+        Setting row = NumberRow(frame.name, key, frame.position, number, -farthest, farthest);
+        row.give = [&frame, give = row.give] { return frame.state == FrameNormal ? give() : std::nullopt; };
+        return row;
+    };
     return {{frame.name, "State", std::to_string(FrameMaximized),
              [&frame](const std::string& text) {
                  frame.state = text == std::to_string(FrameNormal) ? FrameNormal : FrameMaximized;
                  return true;
              },
              [&frame] { return std::to_string(frame.state); }},
-            FrameEdgeRow(frame, "Top", &Position::top),
-            FrameEdgeRow(frame, "Left", &Position::left),
-            FrameEdgeRow(frame, "Width", &Position::width),
-            FrameEdgeRow(frame, "Height", &Position::height)};
+            edge("Top", &Position::top),
+            edge("Left", &Position::left),
+            edge("Width", &Position::width),
+            edge("Height", &Position::height)};
 }
 
 Settings ProgramRows() {
@@ -45,9 +39,9 @@ Settings ProgramRows() {
 /// The position of the Events window marks settings of this layout. Others are cleared, but for the mark of a start
 /// that has not finished.
 Setting LayoutMark(const Form& time) {
-    return {"Events", "Top", "",
+    return {"Events", "Top", "-",
             [](const std::string& text) {
-                if (!text.empty()) return true;
+                if (text != "-") return true;
                 DeleteAllPrefs();
                 CurrentDesktop->Settings().Write(ProgramSettings, "Prog", "Launch", "");
                 return true;

@@ -10,14 +10,11 @@ namespace horvanta {
 
 /// How the horizon is taken.
 namespace horizon {
-
 struct Options {
     bool UseElevation = true;  ///< A place's elevation lowers it, for the Sun and for the Moon.
-
     bool operator==(const Options&) const = default;
 };
 inline Options options;
-
 }  // namespace horizon
 
 /// a - b, `NeverMoment` if either is.

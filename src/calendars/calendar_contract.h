@@ -3,7 +3,9 @@
 #include "core/numerics.h"
 
 #include <array>
+#include <cstddef>
 #include <cstdint>
+#include <iterator>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -27,7 +29,18 @@ struct NamesOfDays {
 };
 
 /// A list of names as texts.
-constexpr auto Texts = [](const auto& names) { return std::vector<std::string>(std::begin(names), std::end(names)); };
+inline std::vector<std::string> Texts(const auto& names) { return {std::begin(names), std::end(names)}; }
+
+/// The week of lists of names that begins with one of them.
+inline NamesOfDays WeekFrom(std::size_t first, const auto& full, const auto& brief) {
+    NamesOfDays names;
+    for (std::size_t i = 0; i < names.full.size(); ++i) {
+        const std::size_t day = (first + i) % names.full.size();
+        names.full[i] = full[day];
+        names.brief[i] = brief[day];
+    }
+    return names;
+}
 
 /// A calendar as a row of operations.
 struct CalendarContract {

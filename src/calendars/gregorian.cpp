@@ -131,28 +131,11 @@ std::vector<std::string> EventsOf(const ISODate& date) {
 
 namespace {
 
-constexpr std::size_t daysOfWeek = 7;
-
 GridDate GregorianGridDate(Moment x) {
     const GregorianDate& date = DateOn<FixedToGregorianDate>(x);
     return {date.year, static_cast<std::int16_t>(date.month), date.day, GregorianMonthLength(date.year, date.month),
             static_cast<std::int16_t>(DayOfWeek(date.fixed - date.day + 1))};
 }
-
-std::vector<std::string> GregorianMonths(std::int32_t) { return Texts(GregorianMonthNames); }
-
-/// The names of a week that begins on a weekday, 0 or 1.
-NamesOfDays WeekFrom(std::size_t first) {
-    NamesOfDays names;
-    for (std::size_t i = 0; i < daysOfWeek; ++i) {
-        names.full[i] = WeekdayNames[first + i];
-        names.brief[i] = ShortWeekdayNames[first + i];
-    }
-    return names;
-}
-
-NamesOfDays GregorianDays() { return WeekFrom(0); }
-NamesOfDays ISODays() { return WeekFrom(1); }
 
 FixedDay ISOBlockToFixed(std::int32_t year, std::int32_t block, std::int32_t day) {
     const double week = 4.0 * block - 4 + Ceiling(day / 7.0);
@@ -183,8 +166,18 @@ std::string ISOCellText(const GridDate& shown, std::int32_t day) {
 
 }  // namespace
 
-constinit const CalendarContract GregorianCalendar{"Gregorian", GregorianToFixed, GregorianGridDate, GregorianMonths,
-                                                   GregorianDays};
-constinit const CalendarContract ISOCalendar{"ISO", ISOBlockToFixed, ISOGridDate, ISOBlocks, ISODays, ISOCellText};
+constinit const CalendarContract GregorianCalendar{
+    .name = "Gregorian",
+    .ToFixed = GregorianToFixed,
+    .DateOf = GregorianGridDate,
+    .MonthNames = [](std::int32_t) { return Texts(GregorianMonthNames); },
+    .DayNames = [] { return WeekFrom(0, WeekdayNames, ShortWeekdayNames); }};
+
+constinit const CalendarContract ISOCalendar{.name = "ISO",
+                                             .ToFixed = ISOBlockToFixed,
+                                             .DateOf = ISOGridDate,
+                                             .MonthNames = ISOBlocks,
+                                             .DayNames = [] { return WeekFrom(1, WeekdayNames, ShortWeekdayNames); },
+                                             .CellText = ISOCellText};
 
 }  // namespace horvanta

@@ -32,7 +32,6 @@ struct Options {
     bool UseAUC = false;                           ///< Years are written from the founding of Rome.
     std::int32_t YRF = RomeFoundedChoice.usual;    ///< The Julian year in which Rome was founded.
     std::int32_t OSY = OlympiadStartChoice.usual;  ///< The Julian year in which the ancient Olympiads began.
-
     bool operator==(const Options&) const = default;
 };
 inline Options options;

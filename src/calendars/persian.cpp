@@ -198,18 +198,14 @@ GridDate PersianGridDate(Moment x) {
             static_cast<std::int16_t>(PersianWeekdayNum(date.fixed - date.day + 1))};
 }
 
-std::vector<std::string> PersianMonths(std::int32_t) { return Texts(PersianMonthNames); }
-
-NamesOfDays PersianDays() {
-    NamesOfDays names;
-    std::ranges::copy(PersianWeekdayNames, names.full.begin());
-    std::ranges::copy(ShortPersianWeekdayNames, names.brief.begin());
-    return names;
-}
-
 }  // namespace
 
-constinit const CalendarContract PersianCalendar{"Persian",   PersianToFixed, PersianGridDate, PersianMonths,
-                                                 PersianDays, nullptr,        HasNoYear0};
+constinit const CalendarContract PersianCalendar{
+    .name = "Persian",
+    .ToFixed = PersianToFixed,
+    .DateOf = PersianGridDate,
+    .MonthNames = [](std::int32_t) { return Texts(PersianMonthNames); },
+    .DayNames = [] { return WeekFrom(0, PersianWeekdayNames, ShortPersianWeekdayNames); },
+    .HasYear0 = HasNoYear0};
 
 }  // namespace horvanta

@@ -174,20 +174,17 @@ std::vector<std::string> MonthNames(std::int32_t year) {
 }
 
 NamesOfDays DayNames() {
-    NamesOfDays names;
-    for (std::size_t i = 0; i < names.full.size(); ++i) {
-        const std::size_t weekday = (i + static_cast<std::size_t>(options.StartWeekday)) % names.full.size();
-        names.full[i] = WeekdayNames[weekday];
-        names.brief[i] = ShortWeekdayNames[weekday];
-    }
-    return names;
+    return WeekFrom(static_cast<std::size_t>(options.StartWeekday), WeekdayNames, ShortWeekdayNames);
 }
-
-bool HasYear0() { return !options.LeapRuleKey.starts_with("RJISO"); }
 
 }  // namespace
 
-constinit const CalendarContract Calendar{"Quartane", GridDateToFixed, GridDateOf, MonthNames,
-                                          DayNames,   nullptr,         HasYear0,   CalendarName};
+constinit const CalendarContract Calendar{.name = "Quartane",
+                                          .ToFixed = GridDateToFixed,
+                                          .DateOf = GridDateOf,
+                                          .MonthNames = MonthNames,
+                                          .DayNames = DayNames,
+                                          .HasYear0 = [] { return !options.LeapRuleKey.starts_with("RJISO"); },
+                                          .PresentName = CalendarName};
 
 }  // namespace horvanta::quartane

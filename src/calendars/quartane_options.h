@@ -18,7 +18,6 @@ struct Options {
     bool Qua454 = true;                    ///< Months are 4 or 5 weeks long, else 30 or 31 days.
     bool UseZov454 = false;                ///< The leap week stands alone behind December, with months of weeks
     bool UseZov010 = true;                 ///< and with months of days.
-
     bool operator==(const Options&) const = default;
 };
 inline Options options;

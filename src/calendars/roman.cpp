@@ -223,49 +223,45 @@ std::string JulianCalendarName() { return julian::options.Revise ? "Revised Juli
 
 namespace {
 
-constexpr std::ptrdiff_t monthsOfYear = 12;
-
-FixedDay WrittenToFixed(std::int32_t year, std::int32_t month, std::int32_t day, bool allowRevised) {
-    return JulianToFixed(julian::options.UseAUC ? AUCToJulian(year) : year, month, day, allowRevised);
+template <bool AllowRevised>
+FixedDay WrittenToFixed(std::int32_t year, std::int32_t month, std::int32_t day) {
+    return JulianToFixed(julian::options.UseAUC ? AUCToJulian(year) : year, month, day, AllowRevised);
 }
 
-FixedDay JulianDateToFixed(std::int32_t year, std::int32_t month, std::int32_t day) {
-    return WrittenToFixed(year, month, day, true);
-}
-
-FixedDay LatinDateToFixed(std::int32_t year, std::int32_t month, std::int32_t day) {
-    return WrittenToFixed(year, month, day, false);
-}
-
-GridDate WrittenDate(Moment x, bool allowRevised) {
-    const JulianDate date = FixedToJulianDate(x, allowRevised);
+template <bool AllowRevised>
+GridDate WrittenDate(Moment x) {
+    const JulianDate date = FixedToJulianDate(x, AllowRevised);
     const std::int32_t year = julian::options.UseAUC ? JulianToAUC(date.year) : date.year;
-    return {year, date.month, date.day, JulianMonthLength(year, date.month, allowRevised),
+    return {year, date.month, date.day, JulianMonthLength(year, date.month, AllowRevised),
             static_cast<std::int16_t>(DayOfWeek(date.fixed - date.day + 1))};
 }
 
-GridDate JulianGridDate(Moment x) { return WrittenDate(x, true); }
-GridDate LatinGridDate(Moment x) { return WrittenDate(x, false); }
-
-std::vector<std::string> JulianMonths(std::int32_t) { return Texts(GregorianMonthNames); }
 std::vector<std::string> LatinMonths(std::int32_t) {
+    constexpr std::ptrdiff_t monthsOfYear = 12;
     return {std::begin(RomanMonthNames), std::begin(RomanMonthNames) + monthsOfYear};
 }
 
-NamesOfDays JulianDays() { return GregorianCalendar.DayNames(); }
-
 NamesOfDays LatinDays() {
-    NamesOfDays names;
-    std::ranges::copy(RomanWeekdayNames, names.full.begin());
-    std::ranges::transform(names.full, names.brief.begin(), [](const std::string& name) { return name.substr(0, 3); });
+    NamesOfDays names = WeekFrom(0, RomanWeekdayNames, RomanWeekdayNames);
+    for (std::string& name : names.brief) name.resize(3);
     return names;
 }
 
 }  // namespace
 
-constinit const CalendarContract JulianCalendar{"Julian",   JulianDateToFixed, JulianGridDate, JulianMonths,
-                                                JulianDays, nullptr,           HasNoYear0,     JulianCalendarName};
-constinit const CalendarContract RomanCalendar{"Roman",   LatinDateToFixed, LatinGridDate, LatinMonths,
-                                               LatinDays, nullptr,          HasNoYear0};
+constinit const CalendarContract JulianCalendar{.name = "Julian",
+                                                .ToFixed = WrittenToFixed<true>,
+                                                .DateOf = WrittenDate<true>,
+                                                .MonthNames = [](std::int32_t) { return Texts(GregorianMonthNames); },
+                                                .DayNames = [] { return GregorianCalendar.DayNames(); },
+                                                .HasYear0 = HasNoYear0,
+                                                .PresentName = JulianCalendarName};
+
+constinit const CalendarContract RomanCalendar{.name = "Roman",
+                                               .ToFixed = WrittenToFixed<false>,
+                                               .DateOf = WrittenDate<false>,
+                                               .MonthNames = LatinMonths,
+                                               .DayNames = LatinDays,
+                                               .HasYear0 = HasNoYear0};
 
 }  // namespace horvanta

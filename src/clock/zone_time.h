@@ -11,14 +11,11 @@
 namespace horvanta {
 
 namespace zone_time {
-
 struct Options {
     std::int32_t AdjustDST = 1;  ///< 0 is off, 1 on, 2 undecided. Daylight time applies only while it is on.
-
     bool operator==(const Options&) const = default;
 };
 inline Options options;
-
 }  // namespace zone_time
 
 /// True if daylight time applies. Of a whole day it is asked at its noon.

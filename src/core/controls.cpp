@@ -46,9 +46,9 @@ Control* Form::Find(std::string_view controlName) const {
     return found == controls.end() ? nullptr : *found;
 }
 
-MenuItem::MenuItem(MenuItem& parent, std::string_view itemName, std::string_view itemCaption, std::string_view keys)
-    : name(itemName), caption(itemCaption), shortcut(keys) {
-    parent.items.push_back(this);
+MenuItem::MenuItem(MenuItem& above, std::string_view itemName, std::string_view itemCaption, std::string_view keys)
+    : name(itemName), caption(itemCaption), shortcut(keys), parent(&above) {
+    above.items.push_back(this);
 }
 
 void MenuItem::Shows(const bool& option) {

@@ -103,53 +103,42 @@ struct Named {
     void GiveTo(Control& control) const { control.spoken = text; }
 };
 
-class Label final : public Control {
-  public:
+struct Label final : Control {
     using Control::Control;
 };
 
-class Button final : public Control {
-  public:
+struct Button final : Control {
     using Control::Control;
 };
 
 /// One line of text that the user edits; what is typed stands in `text` at once.
-class TextField final : public Control {
-  public:
+struct TextField final : Control {
     using Control::Control;
-
     std::function<void()> LostFocus;  ///< The user left the field or pressed Enter in it.
 };
 
 /// A pair of arrows that change what another control shows. Its caption, if any, says by how much.
-class UpDown final : public Control {
-  public:
+struct UpDown final : Control {
     using Control::Control;
-
     std::function<void(int direction, int shift)> Step;  ///< 1 upwards, -1 downwards, with the bits of `KeyShift`.
 };
 
 /// A box around controls that belong together; it is clicked on its caption or its line.
-class GroupBox final : public Control {
-  public:
+struct GroupBox final : Control {
     using Control::Control;
 };
 
 /// A list of texts of which one is selected, or none (-1).
-class ChoiceList final : public Control {
-  public:
+struct ChoiceList final : Control {
     using Control::Control;
-
     std::vector<std::string> items;
     int selected = -1;
     std::function<void()> Chosen;  ///< The user selected an item.
 };
 
 /// The days of a month in six weeks: the weekdays stand as seven columns under their headings, or as seven rows.
-class CellGrid final : public Control {
-  public:
+struct CellGrid final : Control {
     using Control::Control;
-
     struct Cell {
         std::string text;
         bool blank = true;  ///< Not a day of the month.
@@ -176,10 +165,8 @@ class CellGrid final : public Control {
 enum CheckState { Unchecked = 0, Checked = 1, Undecided = 2 };
 
 /// A box that shows an option and holds no state of its own: a click calls for the option's change.
-class CheckBox final : public Control {
-  public:
+struct CheckBox final : Control {
     using Control::Control;
-
     void ShowsState(std::function<CheckState()> state) { state_ = std::move(state); }
     void Shows(const bool& option) {
         ShowsState([&option] { return option ? Checked : Unchecked; });
@@ -192,10 +179,8 @@ class CheckBox final : public Control {
 };
 
 /// One of several choices, which shows whether it is the chosen one: a click calls for the choice.
-class OptionButton final : public Control {
-  public:
+struct OptionButton final : Control {
     using Control::Control;
-
     void ShowsWhen(std::function<bool()> chosen) { chosen_ = std::move(chosen); }
 
     bool isChosen() const { return chosen_ && chosen_(); }
@@ -205,10 +190,8 @@ class OptionButton final : public Control {
 };
 
 /// A row of panels of one width.
-class StatusBar final : public Control {
-  public:
+struct StatusBar final : Control {
     using Control::Control;
-
     struct Panel {
         std::string key;  ///< Says what it shows.
         std::string text;
@@ -220,10 +203,8 @@ class StatusBar final : public Control {
 };
 
 /// Texts in rows and columns; the first row and the first column are headings.
-class Grid final : public Control {
-  public:
+struct Grid final : Control {
     using Control::Control;
-
     std::vector<std::vector<std::string>> rows;  ///< All of one length.
     std::function<void(std::size_t row, std::size_t column)> CellClick;
 };
@@ -306,7 +287,7 @@ enum KeyCode {
 class MenuItem {
   public:
     MenuItem() = default;  ///< The menu bar itself.
-    MenuItem(MenuItem& parent, std::string_view name, std::string_view caption = "", std::string_view shortcut = "");
+    MenuItem(MenuItem& above, std::string_view itemName, std::string_view itemCaption = "", std::string_view keys = "");
     MenuItem(const MenuItem&) = delete;
     MenuItem& operator=(const MenuItem&) = delete;
 
@@ -316,6 +297,9 @@ class MenuItem {
     void Shows(const std::int32_t& option, std::int32_t value);
 
     bool isShown() const;
+
+    /// Can be chosen: neither it nor a menu above it is grey.
+    bool isEnabled() const { return enabled && (!parent || parent->isEnabled()); }
     bool isSeparator() const { return caption == "-"; }
     bool isTickable() const { return static_cast<bool>(ticked_); }
     bool isTicked() const { return ticked_ && ticked_(); }
@@ -327,6 +311,7 @@ class MenuItem {
     std::string caption;
     const std::string shortcut;  ///< The keys that choose it in any window, as "Ctrl+S"; empty for none.
     bool enabled = true;         ///< One that is not is shown grey.
+    MenuItem* const parent = nullptr;
     std::vector<MenuItem*> items;
     std::function<void()> Click;
 

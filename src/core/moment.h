@@ -16,16 +16,13 @@ inline std::int16_t UpdateDepth = 0;  ///< How many runs of `UpdateStatus` are p
 inline bool Quitting = false;         ///< The windows are being closed for good.
 
 namespace stepping {
-
 struct Options {
     std::int32_t StepIndex = 1;    ///< Which item of the step menu is chosen, from 1.
     bool StepsBySolarYear = true;  ///< Steps of years keep the solar longitude, else the rotation-adjusted date.
     bool AlwaysToday = true;       ///< Each start shows the present day.
-
     bool operator==(const Options&) const = default;
 };
 inline Options options;
-
 }  // namespace stepping
 
 /// Recomputes every open window from `DisplayedMoment`; one pass of `UpdateStatus`. The program hangs it here.

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "core/controls.h"
+#include "core/text.h"
 
 #include <cstdint>
 #include <functional>
@@ -104,6 +104,17 @@ Setting WholeRow(std::string_view section, std::string_view key, Options& option
                 return TakeIf(WholeOf(text, least, greatest), [&](std::int32_t value) { options.*field = value; });
             },
             [=, &options] { return std::to_string(options.*field); }};
+}
+
+/// A number that is kept with all its digits.
+template <class Owner>
+Setting NumberRow(std::string_view section, std::string_view key, Owner& owner, double Owner::*field, double least,
+                  double greatest) {
+    return {std::string(section), std::string(key), ExactText(Owner().*field),
+            [=, &owner](const std::string& text) {
+                return TakeIf(NumberOf(text, least, greatest), [&](double value) { owner.*field = value; });
+            },
+            [=, &owner] { return ExactText(owner.*field); }};
 }
 
 /// A text that is only written, and one that no one owns yet: it stays as a later version may have left it.

@@ -17,44 +17,16 @@ namespace horvanta {
 /// How the frame stands on the screen; the numbers are those of the settings.
 enum FrameState { FrameNormal = 0, FrameMinimized = 1, FrameMaximized = 2 };
 
+// clang-format off
 /// What the menus of previous and next events search for.
 enum class MenuEvent {
-    None,
-    LunarEvent,
-    NewMoon,
-    FirstNewCrescent,
-    FirstQuarterMoon,
-    FullMoon,
-    LastQuarterMoon,
-    LastOldCrescent,
-    VedicTithi,
-    MeanNewMoon,
-    MeanPerigee,
-    MeanApogee,
-    Yerm,
-    YermEra,
-    LeapWeek,
-    QuaNewYearMoment,
-    QuaLeapCycle,
-    RotationAdjustedNewYear,
-    MeanOrbitalNewYear,
-    BesselianNewYear,
-    SolarEvent,
-    NorthwardEquinox,
-    NorthSolstice,
-    SouthwardEquinox,
-    SouthSolstice,
-    MeanPerihelion,
-    MeanAphelion,
-    ChineseNewYear,
-    Easter,
-    UniformEaster,
-    OrthodoxEaster,
-    FixedEaster,
-    Passover,
-    RoshHashanah,
-    MoladMoment,
+    None, LunarEvent, NewMoon, FirstNewCrescent, FirstQuarterMoon, FullMoon, LastQuarterMoon, LastOldCrescent,
+    VedicTithi, MeanNewMoon, MeanPerigee, MeanApogee, Yerm, YermEra, LeapWeek, QuaNewYearMoment, QuaLeapCycle,
+    RotationAdjustedNewYear, MeanOrbitalNewYear, BesselianNewYear, SolarEvent, NorthwardEquinox, NorthSolstice,
+    SouthwardEquinox, SouthSolstice, MeanPerihelion, MeanAphelion, ChineseNewYear, Easter, UniformEaster,
+    OrthodoxEaster, FixedEaster, Passover, RoshHashanah, MoladMoment,
 };
+// clang-format on
 
 struct EventItem {
     MenuEvent event;

@@ -69,14 +69,11 @@ std::string FormatTime(Moment x, int style, bool longForm = false);
 std::string DurationString(double days, int style = 1, bool longForm = false);
 
 namespace time_text {
-
 struct Options {
     std::int32_t TempHourFormat = 1;  ///< 1 is hours and minutes, 2 minutes and 3 hours, both with decimals.
-
     bool operator==(const Options&) const = default;
 };
 inline Options options;
-
 }  // namespace time_text
 
 /// The length of a temporal hour (in days) as the user wants it; "never" for `NeverMoment`.

@@ -25,14 +25,11 @@ std::string LocaleSummary(const LocaleRecord& place);
 std::string LocaleChangeReport(const LocaleRecord& from, const LocaleRecord& to);
 
 namespace web_map {
-
 struct Options {
     std::int32_t MapIndex = 1;  ///< The map that shows places, by its number in the menu, from 1.
-
     bool operator==(const Options&) const = default;
 };
 inline Options options;
-
 }  // namespace web_map
 
 /// A link to a place on the chosen web map; for web pages with `html` the whole anchor. Empty for a map that has no

@@ -56,14 +56,14 @@ GregorianWindow::GregorianWindow(HorvantaMDI& frame) : frame_(frame) {
 }
 
 WindowRow GregorianWindow::Row() {
-    return {
-        .form = form,
-        .first = Dummy,
-        .update = [this] { Update(); },
-        .item = &frame_.GregCal,
-        .open = OpenAt::FirstStart,
-        .colors = &colors,
-        .calendars = {{1, &GregorianCalendar, &colors, &frame_.GregCal}, {2, &ISOCalendar, &colors, &frame_.GregCal}}};
+    return {.form = form,
+            .first = Dummy,
+            .update = [this] { Update(); },
+            .item = &frame_.GregCal,
+            .open = OpenAt::FirstStart,
+            .colors = &colors,
+            .calendars = {{1, &GregorianCalendar, &GregorianDate, &frame_.GregCal},
+                          {2, &ISOCalendar, &TheISOdate, &frame_.GregCal}}};
 }
 
 void GregorianWindow::Update() {

@@ -123,8 +123,8 @@ WindowRow JulianWindow::Row() {
             .colors = &colors,
             .needing = {&frame_.JYRF, &frame_.OSY, &ItemOf(frame_.PrevMenu, MenuEvent::OrthodoxEaster),
                         &ItemOf(frame_.NextMenu, MenuEvent::OrthodoxEaster)},
-            .calendars = {{3, &JulianCalendar, &colors, &frame_.JulianCal},
-                          {4, &RomanCalendar, &colors, &frame_.JulianCal}},
+            .calendars = {{3, &JulianCalendar, &TheJulianDate, &frame_.JulianCal},
+                          {4, &RomanCalendar, &TheRomanDate, &frame_.JulianCal}},
             .settings = StoredRows()};
 }
 

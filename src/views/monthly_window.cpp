@@ -58,7 +58,7 @@ void MonthlyWindow::HangHandlers() {
     ThisYear.KeyDown = [this](int code, int shift) { return ObeyYearKey(code, shift); };
     ThisYear.LostFocus = [this] { TakeYear(); };
     ChangeByYear.Step = [this](int direction, int shift) { ChangeYear(shown_.year + direction * YearsToAStep(shift)); };
-    form.PickColor = [this](bool isBackground) { Current().colors->mainDate.form.PickColor(isBackground); };
+    form.PickColor = [this](bool isBackground) { Current().date->form.PickColor(isBackground); };
     form.KeyDown = [this](int code, int shift) { return frame_.Form_KeyDown(code, shift); };
 }
 
@@ -81,7 +81,7 @@ void MonthlyWindow::InitCalendars() {
 void MonthlyWindow::Calendars_Click() {
     const GridCalendar& calendar = Current();
     ShowHeadings();
-    if (BusyCount == 0 && !calendar.colors->mainDate.form.visible) calendar.window->Click();
+    if (BusyCount == 0 && !calendar.date->form.visible) calendar.window->Click();
     Update();
 }
 
@@ -139,7 +139,7 @@ bool MonthlyWindow::HasYear0() const {
 }
 
 void MonthlyWindow::WearColors() {
-    ThisYear.colors = MonthNames.colors = Calendars.colors = Days.activeColors = Current().colors->mainDate.colors;
+    ThisYear.colors = MonthNames.colors = Calendars.colors = Days.activeColors = Current().date->colors;
 }
 
 void MonthlyWindow::ShowCells(const GridDate& date) {

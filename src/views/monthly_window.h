@@ -10,15 +10,12 @@
 namespace horvanta {
 
 namespace monthly {
-
 struct Options {
     bool WeekdaysAsRows = true;      ///< Else they stand as columns.
     std::int32_t MonthCalendar = 0;  ///< The calendar that the user chose, by its place in the list of all, from 0.
-
     bool operator==(const Options&) const = default;
 };
 inline Options options;
-
 }  // namespace monthly
 
 /// The displayed date as a month of a chosen calendar. It knows no calendar, only what their contracts answer.

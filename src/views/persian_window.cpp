@@ -40,7 +40,7 @@ WindowRow PersianWindow::Row() {
             .update = [this] { Update(); },
             .item = &frame_.PersianCal,
             .colors = &colors,
-            .calendars = {{5, &PersianCalendar, &colors, &frame_.PersianCal}}};
+            .calendars = {{5, &PersianCalendar, &ThePersianDate, &frame_.PersianCal}}};
 }
 
 void PersianWindow::Update() {

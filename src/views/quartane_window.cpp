@@ -111,7 +111,7 @@ WindowRow QuartaneWindow::Row() {
             .open = OpenAt::EveryStart,
             .colors = &colors,
             .needing = needing,
-            .calendars = {{0, &quartane::Calendar, &colors, &frame_.QuaCal}},
+            .calendars = {{0, &quartane::Calendar, &QuartaneDateBox, &frame_.QuaCal}},
             .settings = StoredRows()};
 }
 

@@ -11,17 +11,14 @@
 namespace horvanta {
 
 namespace time_fields {
-
 /// What the fields show.
 struct Options {
     bool ShowsDawnDusk = true;            ///< The bar of the day's sunrise and sunset.
     bool ShowsRAYDate = false;            ///< The rotation-adjusted date in place of the mean orbital one.
     bool ShowsModifiedJulianDay = false;  ///< In place of the Julian Day.
-
     bool operator==(const Options&) const = default;
 };
 inline Options options;
-
 }  // namespace time_fields
 
 /// The local times of a moment in a line: of its own scale, of the zone, mean and apparent.

@@ -11,12 +11,12 @@
 
 namespace horvanta {
 
-/// A calendar as the month grid takes it: its place in the list, its answers, the colours that the grid wears, and the
-/// item that shows its window.
+/// A calendar as the month grid takes it: its place in the list, its answers, the control whose colours the grid wears,
+/// and the item that shows its window.
 struct GridCalendar {
     std::size_t place = 0;
     const CalendarContract* contract = nullptr;
-    const WindowColors* colors = nullptr;
+    const Control* date = nullptr;
     MenuItem* window = nullptr;
 };
 
@@ -30,7 +30,7 @@ struct WindowRow {
     std::function<void()> update{};  ///< Recomputes what it shows.
     std::function<void()> finish{};  ///< The same, when all windows have updated, for what needs the others' results. A
                                      ///< window with neither is not there yet.
-    MenuItem* item = nullptr;  ///< Shows and hides it; the time window has none.
+    MenuItem* item = nullptr;        ///< Shows and hides it; the time window has none.
     OpenAt open = OpenAt::NoStart;
     WindowColors* colors = nullptr;
     std::vector<MenuItem*> needing{};  ///< The menu items that are of use only while it is open.

@@ -40,7 +40,7 @@ TEST(Start, FindsWhatTheLastRunSaved) {
         desk.Obey("answer color 255");
         desk.Obey("rightclick TimeAstro.TimeOfDay");
         desk.Obey("type TimeAstro.FixedDayNum 1000.123456789");
-        desk.program.timeAstro.form.place.left = 1500;
+        desk.program.timeAstro.form.position.left = 1500;
         desk.Obey("close Gregorian");
         desk.Obey("menu MenuExit");
         EXPECT_TRUE(desk.desktop.ended);
@@ -50,10 +50,10 @@ TEST(Start, FindsWhatTheLastRunSaved) {
     Desk desk(left);
     EXPECT_EQ(DisplayedMoment, 1000.123456789);
     EXPECT_EQ(SavedMoment, 8415);
-    EXPECT_FALSE(AlwaysToday);
+    EXPECT_FALSE(stepping::options.AlwaysToday);
     EXPECT_EQ(Increment, 7);
     EXPECT_EQ(desk.program.timeAstro.TimeOfDay.colors->foreground, (Color{255, 0, 0}));
-    EXPECT_EQ(desk.program.timeAstro.form.place.left, 1500);
+    EXPECT_EQ(desk.program.timeAstro.form.position.left, 1500);
     EXPECT_FALSE(desk.program.gregorian.form.visible);
     EXPECT_TRUE(desk.program.timeAstro.form.visible);
 }
@@ -76,7 +76,7 @@ TEST(Start, ClearsTheSettingsAfterAStartThatDidNotFinish) {
 
     Desk desk(left);
     EXPECT_EQ(DisplayedMoment, 8415);
-    EXPECT_TRUE(AlwaysToday);
+    EXPECT_TRUE(stepping::options.AlwaysToday);
     EXPECT_EQ(desk.desktop.settings.values["Horvanta-UDLs"]["User 1"]["Name"], "Home");
 }
 
@@ -90,8 +90,8 @@ TEST(Start, TakesDefaultsForDamagedSettings) {
                           {"TimeAstro", "Chk", "perhaps"},
                           {"HorvantaMDI", "State", "-77"}}));
     EXPECT_EQ(DisplayedMoment, 8415);
-    EXPECT_EQ(StepIndex, 1);
-    EXPECT_EQ(desk.program.timeAstro.form.place.left, 0);
+    EXPECT_EQ(stepping::options.StepIndex, 1);
+    EXPECT_EQ(desk.program.timeAstro.form.position.left, 0);
     EXPECT_EQ(desk.program.gregorian.GregorianDate.colors,
               (ColorPair{Color::FromNumber(12642289), Color::FromNumber(0)}));
     EXPECT_EQ(desk.program.frame.state, FrameMaximized);
@@ -112,8 +112,8 @@ TEST(End, HasFourWays) {
         desk.Obey(std::string("menu ") + item);
         EXPECT_TRUE(desk.desktop.ended);
         desk.desktop.settings.values = desk.desktop.settings.flushed;
-        EXPECT_EQ(GetTextPref(ProgramSettings, "Item", "RD", "none"), moment) << item;
-        EXPECT_EQ(GetTextPref(ProgramSettings, "Color", "AFC", "none"), foreground) << item;
+        EXPECT_EQ(desk.desktop.settings.Read(ProgramSettings, "Item", "RD").value_or("none"), moment) << item;
+        EXPECT_EQ(desk.desktop.settings.Read(ProgramSettings, "Color", "AFC").value_or("none"), foreground) << item;
     }
 }
 
@@ -143,7 +143,7 @@ TEST(Keys, MoveTheMoment) {
         desk.Obey("set DisplayedMoment " + std::to_string(row.from));
         EXPECT_EQ(desk.Obey(row.line), "ok") << row.line;
         EXPECT_EQ(DisplayedMoment, row.to) << row.line;
-        EXPECT_EQ(StepIndex == 2 ? 7 : 1, Increment) << row.line;
+        EXPECT_EQ(stepping::options.StepIndex == 2 ? 7 : 1, Increment) << row.line;
         EXPECT_EQ(desk.program.timeAstro.FixedDayNum.text, GeneralText(row.to)) << row.line;
     }
     EXPECT_EQ(desk.Obey("asked"), "none");

@@ -2,7 +2,9 @@
 
 #include "app/event_searches.h"
 #include "app/options.h"
+#include "astro/sun.h"
 #include "astro/timescales.h"
+#include "calendars/gregorian.h"
 #include "core/moment.h"
 #include "core/text.h"
 #include "desk.h"
@@ -18,24 +20,25 @@ namespace {
 /// Each search is strict, steps from event to event, and comes back the way it went, also from a moment just beside an
 /// event.
 TEST(Events, AreWalkedThereAndBack) {
-    constexpr std::pair<const char*, double> rows[] = {
-        {"Rotation-Adjusted New Year", 365.2425}, {"&Mean Orbital New Year", 365.2422},
-        {"&Besselian New Year", 365.2422},        {"&Solar Event", 91.3},
-        {"Northward Equinox", 365.2424},          {"North Solstice", 365.2416},
-        {"Southward Equinox", 365.242},           {"South Solstice", 365.2427},
-        {"Mean Peri&helion", 365.2596},           {"Mean &Aphelion", 365.2596}};
-    for (const auto& [caption, days] : rows) {
-        const EventSearch& search = *FindEventSearch(caption);
+    constexpr std::pair<MenuEvent, double> rows[] = {
+        {MenuEvent::RotationAdjustedNewYear, 365.2425}, {MenuEvent::MeanOrbitalNewYear, 365.2422},
+        {MenuEvent::BesselianNewYear, 365.2422},        {MenuEvent::SolarEvent, 91.3},
+        {MenuEvent::NorthwardEquinox, 365.2424},        {MenuEvent::NorthSolstice, 365.2416},
+        {MenuEvent::SouthwardEquinox, 365.242},         {MenuEvent::SouthSolstice, 365.2427},
+        {MenuEvent::MeanPerihelion, 365.2596},          {MenuEvent::MeanAphelion, 365.2596}};
+    for (const auto& [event, days] : rows) {
+        const auto jump = FindEventSearch(event)->jump;
+        SCOPED_TRACE(static_cast<int>(event));
         for (const Moment start : {-2'000'000.3, 700'000.0, 739'000.0, 4'000'000.7}) {
-            const Moment first = search.after(start);
-            EXPECT_GT(first, start) << caption;
-            EXPECT_NEAR(search.after(first - 0.01), first, 0.002) << caption << start;
+            const Moment first = jump(start, 1);
+            EXPECT_GT(first, start);
+            EXPECT_NEAR(jump(first - 0.01, 1), first, 0.002) << start;
             Moment x = first;
-            for (int i = 0; i < 100; ++i) x = search.after(x);
-            EXPECT_NEAR(x - first, 100 * days, 3) << caption << start;
-            for (int i = 0; i < 100; ++i) x = search.before(x);
-            EXPECT_NEAR(x, first, 0.002) << caption << start;
-            EXPECT_LT(search.before(start), start) << caption;
+            for (int i = 0; i < 100; ++i) x = jump(x, 1);
+            EXPECT_NEAR(x - first, 100 * days, 3) << start;
+            for (int i = 0; i < 100; ++i) x = jump(x, -1);
+            EXPECT_NEAR(x, first, 0.002) << start;
+            EXPECT_LT(jump(start, -1), start);
         }
     }
 }
@@ -43,10 +46,10 @@ TEST(Events, AreWalkedThereAndBack) {
 /// Perihelion of the mean orbit, by the Earth's mean longitude of perihelion (Meeus, Astronomical Algorithms, table
 /// 31.A), comes within days of the true one.
 TEST(Events, FindThePerihelion) {
-    const Moment found = FindEventSearch("Mean Peri&helion")->after(GregorianToFixed(2024, 1, 1));
+    const Moment found = FindEventSearch(MenuEvent::MeanPerihelion)->jump(GregorianToFixed(2024, 1, 1), 1);
     EXPECT_NEAR(found, GregorianToFixed(2024, 1, 3), 2);
     EXPECT_NEAR(ModuloRange(MeanSolarAnomaly(found), -180, 180), 0, 1e-6);
-    EXPECT_NEAR(FindEventSearch("Mean &Aphelion")->after(found) - found, 182.63, 0.01);
+    EXPECT_NEAR(FindEventSearch(MenuEvent::MeanAphelion)->jump(found, 1) - found, 182.63, 0.01);
 }
 
 TEST(Again, RepeatsTheLastEvent) {

@@ -4,12 +4,14 @@
 #include "core/moment.h"
 #include "core/text.h"
 #include "desk.h"
-#include "hebrew/molad.h"
+#include "hebrew/hebrew_options.h"
 #include "locale/presets.h"
 
 #include <gtest/gtest.h>
 
 #include <array>
+#include <map>
+#include <sstream>
 
 namespace horvanta {
 namespace {
@@ -99,13 +101,52 @@ TEST(StoredSettings, TakeDefaultsForDamage) {
     }
 }
 
+/// Every key that the settings have had so far, but for those of the windows to come, which have no position yet.
+constexpr std::pair<const char*, const char*> keys[] = {
+    {"Prog", "Name Ver Rev Pub"},
+    {"Item",
+     "FixOpt GE FixEpoch FixNam Candles EW Step Year OrbRAY JDMJD Qua454 QuaQS QuaLeap QuaStart UseZov454 UseZov010 "
+     "Even Mix CCM CEN THC MTF RD SD AdjDST dT ShowDD Elev UseAUC JCY1 Rectify YRF OSY LP WCC LOC Map MC AD LunOpt"},
+    {"Color",
+     "LBC LFC ABC AFC GBC GFC SBC SFC HBC HFC PBC PFC JBC JFC ChinBC ChinFC JapBC JapFC KorBC KorFC VietBC VietFC IBC "
+     "IFC RBC RFC"},
+    {"TimeAstro", "Top Left Chk"},
+    {"Monthly", "Top Left Chk"},
+    {"Quartane", "Top Left Chk"},
+    {"Julian", "Top Left Chk"},
+    {"Events", "Top Chk"},
+    {"User", "Top Left Chk"},
+    {"Gregorian", "Top Left Chk"},
+    {"Persian", "Top Left Chk"},
+    {"Hebrew", "Chk"},
+    {"Lunar", "Chk"},
+    {"Chinese", "Chk"},
+    {"User 30", "Name Lat Long Elev Zone NoDST UseLMT Chk"},
+    {"UserNum", "Num"},
+};
+
+TEST(StoredSettings, HaveEveryKeyOnce) {
+    Desk desk;
+    std::map<std::pair<std::string, std::string>, int> rowsOfKey;
+    for (const Setting& setting : StoredRows(desk.program)) {
+        const int count = ++rowsOfKey[{setting.section, setting.key}];
+        EXPECT_EQ(count, 1) << setting.section << "/" << setting.key;
+        const bool inUserSettings = setting.section.starts_with("User") && setting.section != "User";
+        EXPECT_EQ(setting.application, inUserSettings ? UserSettings : ProgramSettings) << setting.section;
+    }
+    for (const auto& [section, names] : keys) {
+        std::istringstream words(names);
+        for (std::string key; words >> key;) EXPECT_TRUE(rowsOfKey.contains({section, key})) << section << "/" << key;
+    }
+}
+
 TEST(StoredSettings, ReadNumbersAsTheyAreWritten) {
     StoredSettings settings = AllRows();
     settings["Horvanta"]["Item"]["RD"] = "739000,75";
     settings["Horvanta"]["Item"]["MTF"] = "3";
     const Desk desk(settings);
     EXPECT_EQ(DisplayedMoment, 739000);
-    EXPECT_EQ(MoladTimeFormat, 7);
+    EXPECT_EQ(hebrew::options.MoladTimeFormat, 7);
 }
 
 /// The numbering is that of the last run, its date and its jump too.
@@ -132,7 +173,7 @@ TEST(StoredSettings, OfAnOlderLayoutAreCleared) {
     settings["Horvanta"].erase("Events");
     const Desk desk(settings);
     EXPECT_EQ(Locale.Name, "Greenwich");
-    EXPECT_EQ(StepIndex, 1);
+    EXPECT_EQ(stepping::options.StepIndex, 1);
 }
 
 TEST(StoredSettings, ChooseTheUsersOwnPlaceWithoutAQuestion) {

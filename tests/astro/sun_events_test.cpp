@@ -1,7 +1,7 @@
 #include "astro/sun_events.h"
 
+#include "astro/local_time.h"
 #include "astro/sun.h"
-#include "astro/timescales.h"
 #include "calendars/gregorian.h"
 #include "core/locale.h"
 #include "core/numbering.h"
@@ -60,14 +60,14 @@ constexpr Day days[] = {
 };
 
 TEST(SunEvents, AgreeWithAnEphemeris) {
-    UseElevation = false;
+    horizon::options.UseElevation = false;
     for (const Day& row : days) {
-        const LocaleScope scope(PresetLocale(row.place));
+        const LocaleRecord& place = PresetLocale(row.place);
         const FixedDay date = GregorianToFixed(row.year, row.month, row.day);
         const std::tuple<const char*, Moment, std::int32_t> events[] = {
-            {"dawn", Dawn(date, 18), row.dawn},        {"sunrise", Sunrise(date), row.sunrise},
-            {"midday", SolarMidday(date), row.midday}, {"sunset", Sunset(date), row.sunset},
-            {"dusk", Dusk(date, 18), row.dusk},
+            {"dawn", Dawn(date, 18, place), row.dawn},        {"sunrise", Sunrise(date, place), row.sunrise},
+            {"midday", SolarMidday(date, place), row.midday}, {"sunset", Sunset(date, place), row.sunset},
+            {"dusk", Dusk(date, 18, place), row.dusk},
         };
         SCOPED_TRACE(testing::Message() << row.place << ", " << FixedToGregorianString(date));
         for (const auto& [name, found, hhmmss] : events) {
@@ -77,32 +77,32 @@ TEST(SunEvents, AgreeWithAnEphemeris) {
                 EXPECT_NEAR((found - date - TimeOfDay(hhmmss)) * 86400, 0, 60) << name << ", seconds";
             }
         }
-        EXPECT_NEAR(RiseSetAzimuth(date, true, true), row.riseAzimuth, 0.02);
-        EXPECT_NEAR(RiseSetAzimuth(date, true, false), row.setAzimuth, 0.02);
-        EXPECT_NEAR(RiseSetAzimuth(date, false, true), row.riseAzimuth, 0.02);
+        EXPECT_NEAR(RiseSetAzimuth(date, true, true, place), row.riseAzimuth, 0.02);
+        EXPECT_NEAR(RiseSetAzimuth(date, true, false, place), row.setAzimuth, 0.02);
+        EXPECT_NEAR(RiseSetAzimuth(date, false, true, place), row.riseAzimuth, 0.02);
     }
 }
 
 /// The first two times are by the same program, with the dip of 800 m added to the depression.
 TEST(SunEvents, LookDownFromAnElevation) {
-    const LocaleScope jerusalem(PresetLocale("Jerusalem"));
+    const LocaleRecord& place = PresetLocale("Jerusalem");
     const FixedDay date = GregorianToFixed(2024, 6, 21);
-    EXPECT_NEAR((Sunrise(date) - date - TimeOfDay(42913)) / minute, 0, 1);
-    EXPECT_NEAR((Sunset(date) - date - TimeOfDay(185242)) / minute, 0, 1);
-    EXPECT_NEAR(HorizonDip(), 0.908, 0.001);
-    EXPECT_NEAR(SunDepression(), DegMinSec(0, 50, 29) + 0.908, 0.001);
-    UseElevation = false;
-    EXPECT_NEAR((Sunrise(date) - date - TimeOfDay(43406)) / minute, 0, 1);
-    UseElevation = true;
+    EXPECT_NEAR((Sunrise(date, place) - date - TimeOfDay(42913)) / minute, 0, 1);
+    EXPECT_NEAR((Sunset(date, place) - date - TimeOfDay(185242)) / minute, 0, 1);
+    EXPECT_NEAR(HorizonDip(place), 0.908, 0.001);
+    EXPECT_NEAR(SunDepression(place), DegMinSec(0, 50, 29) + 0.908, 0.001);
+    horizon::options.UseElevation = false;
+    EXPECT_NEAR((Sunrise(date, place) - date - TimeOfDay(43406)) / minute, 0, 1);
+    horizon::options.UseElevation = true;
     for (const double elevation : {0.0, -430.0}) {
-        const LocaleScope shore(PlaceAt(31.7, 35.5, elevation));
-        EXPECT_EQ(HorizonDip(), 0) << elevation;
-        EXPECT_NEAR(SunDepression(), DegMinSec(0, 50, 29), 1e-12) << elevation;
+        const LocaleRecord shore = PlaceAt(31.7, 35.5, elevation);
+        EXPECT_EQ(HorizonDip(shore), 0) << elevation;
+        EXPECT_NEAR(SunDepression(shore), DegMinSec(0, 50, 29), 1e-12) << elevation;
     }
 }
 
 TEST(SunEvents, DivideTheDay) {
-    const LocaleScope scope(PresetLocale("Jerusalem"));
+    Locale = PresetLocale("Jerusalem");
     for (FixedDay date = GregorianToFixed(2024, 1, 1); date < GregorianToFixed(2025, 1, 1); date += 17) {
         const Moment rise = Sunrise(date);
         const Moment set = Sunset(date);
@@ -128,39 +128,41 @@ TEST(SunEvents, DivideTheDay) {
 /// degrees. A Sun that passes its depression near midnight may move a search on by two days.
 struct Question {
     const char* name;
-    double (*ask)(FixedDay);
+    double (*ask)(FixedDay, const LocaleRecord&);
     double least, most;
     bool isMoment = false;
 };
 
 constexpr Question questions[] = {
-    {"sunrise", [](FixedDay d) { return Sunrise(d); }, -2, 1, true},
-    {"sunset", [](FixedDay d) { return Sunset(d); }, 0, 3, true},
-    {"dawn", [](FixedDay d) { return Dawn(d, 18); }, -2, 1, true},
-    {"dusk", [](FixedDay d) { return Dusk(d, 18); }, 0, 3, true},
-    {"midday", [](FixedDay d) { return SolarMidday(d); }, 0.4, 0.6, true},
-    {"midnight", [](FixedDay d) { return SolarMidnight(d); }, -0.1, 0.1, true},
-    {"sundial 3", [](FixedDay d) { return SundialToStandard(d, 3); }, -2, 3, true},
-    {"sundial 12", [](FixedDay d) { return SundialToStandard(d, 12); }, -2, 3, true},
-    {"sundial 21", [](FixedDay d) { return SundialToStandard(d, 21); }, -2, 3, true},
+    {"sunrise", [](FixedDay d, const LocaleRecord& place) { return Sunrise(d, place); }, -2, 1, true},
+    {"sunset", [](FixedDay d, const LocaleRecord& place) { return Sunset(d, place); }, 0, 3, true},
+    {"dawn", [](FixedDay d, const LocaleRecord& place) { return Dawn(d, 18, place); }, -2, 1, true},
+    {"dusk", [](FixedDay d, const LocaleRecord& place) { return Dusk(d, 18, place); }, 0, 3, true},
+    {"midday", [](FixedDay d, const LocaleRecord& place) { return SolarMidday(d, place); }, 0.4, 0.6, true},
+    {"midnight", [](FixedDay d, const LocaleRecord& place) { return SolarMidnight(d, place); }, -0.1, 0.1, true},
+    {"sundial 3", [](FixedDay d, const LocaleRecord& place) { return SundialToStandard(d, 3, place); }, -2, 3, true},
+    {"sundial 12", [](FixedDay d, const LocaleRecord& place) { return SundialToStandard(d, 12, place); }, -2, 3, true},
+    {"sundial 21", [](FixedDay d, const LocaleRecord& place) { return SundialToStandard(d, 21, place); }, -2, 3, true},
     {"day hour", DayTemporalHour, 0, 0.5},
     {"night hour", NightTemporalHour, -0.5, 0.5},
     {"morning hour", MorningTemporalHour, 0, 0.5},
     {"afternoon hour", AfternoonTemporalHour, 0, 0.5},
     {"evening hour", EveningTemporalHour, -0.5, 0.5},
     {"hour before dawn", PreDawnTemporalHour, -0.5, 0.5},
-    {"rise azimuth", [](FixedDay d) { return RiseSetAzimuth(d, true, true); }, 0, 180},
-    {"set azimuth", [](FixedDay d) { return RiseSetAzimuth(d, true, false); }, 180, 360},
+    {"rise azimuth", [](FixedDay d, const LocaleRecord& place) { return RiseSetAzimuth(d, true, true, place); }, 0,
+     180},
+    {"set azimuth", [](FixedDay d, const LocaleRecord& place) { return RiseSetAzimuth(d, true, false, place); }, 180,
+     360},
 };
 
 TEST(SunEvents, HappenOrNeverHappenAtThePoles) {
     for (const double latitude : {65.0, 70.0, 82.0, 90.0, -68.0, -90.0}) {
-        const LocaleScope scope(PlaceAt(latitude, 0));
+        const LocaleRecord place = PlaceAt(latitude, 0);
         const FixedDay newYear = GregorianToFixed(2024, 1, 1);
         for (const auto& [name, ask, least, most, isMoment] : questions) {
             int happens = 0;
             for (FixedDay date = newYear; date < newYear + 366; ++date) {
-                const double answer = ask(date);
+                const double answer = ask(date, place);
                 if (answer == NeverMoment) continue;
                 ++happens;
                 const double x = isMoment ? answer - date : answer;
@@ -169,40 +171,60 @@ TEST(SunEvents, HappenOrNeverHappenAtThePoles) {
             }
             EXPECT_GT(happens, std::fabs(latitude) == 65 ? 150 : -1) << name;
         }
-        EXPECT_EQ(Sunrise(GregorianToFixed(2024, 6, 21)) == NeverMoment, std::fabs(latitude) > 66) << latitude;
+        EXPECT_EQ(Sunrise(GregorianToFixed(2024, 6, 21), place) == NeverMoment, std::fabs(latitude) > 66) << latitude;
     }
 }
 
 /// Refraction lifts the limb over the horizon of a Sun whose centre stays below it: a sunrise without its azimuth.
 TEST(SunEvents, HaveNoAzimuthWhereTheCentreStaysBelow) {
-    const LocaleScope scope(PlaceAt(67, 0));
+    const LocaleRecord place = PlaceAt(67, 0);
     const FixedDay solstice = GregorianToFixed(2024, 12, 21);
-    EXPECT_NEAR(Sunrise(solstice), solstice + 0.47, 0.01);
-    EXPECT_EQ(RiseSetAzimuth(solstice, false, true), NeverMoment);
+    EXPECT_NEAR(Sunrise(solstice, place), solstice + 0.47, 0.01);
+    EXPECT_EQ(RiseSetAzimuth(solstice, false, true, place), NeverMoment);
 }
 
 /// Near the days on which the Sun only grazes a depression, guesses can run to and fro without end.
 TEST(SunEvents, AlwaysComeToAnEnd) {
-    {
-        const LocaleScope alert(PresetLocale("CFS Alert"));
-        const FixedDay date = GregorianToFixed(1963, 10, 15);
-        for (const Moment found : {Sunrise(date), Sunset(date)}) {
-            EXPECT_TRUE(found == NeverMoment || std::fabs(found - date - 0.5) < 1) << found;
-        }
+    const LocaleRecord& alert = PresetLocale("CFS Alert");
+    const FixedDay grazing = GregorianToFixed(1963, 10, 15);
+    for (const Moment found : {Sunrise(grazing, alert), Sunset(grazing, alert)}) {
+        EXPECT_TRUE(found == NeverMoment || std::fabs(found - grazing - 0.5) < 1) << found;
     }
     std::mt19937_64 random(19631015);
     std::uniform_real_distribution<double> latitudes(60, 90);
     std::uniform_real_distribution<double> dates(MinFixedDay, MaxFixedDay);
     std::uniform_real_distribution<double> depressions(-20, 20);
     for (int i = 0; i < 3000; ++i) {
-        const LocaleScope scope(PlaceAt(latitudes(random) * (i % 2 == 0 ? 1 : -1), 0));
+        const LocaleRecord place = PlaceAt(latitudes(random) * (i % 2 == 0 ? 1 : -1), 0);
         const FixedDay date = Floor(dates(random));
         const double depression = depressions(random);
         for (const bool morning : {true, false}) {
-            const Moment found = MomentOfDepression(date + 0.5, depression, morning);
+            const Moment found = MomentOfDepression(date + 0.5, depression, morning, place);
             EXPECT_TRUE(found == NeverMoment || std::fabs(found - date - 0.5) < 2)
-                << found - date << " for " << date << ", " << depression << " at " << Locale.Latitude;
+                << found - date << " for " << date << ", " << depression << " at " << place.Latitude;
         }
+    }
+}
+
+/// What is asked of a place is answered for it whatever the current place is.
+TEST(SunEvents, AreThoseOfThePlaceThatIsAskedFor) {
+    const LocaleRecord& place = PresetLocale("Lima");
+    const FixedDay date = GregorianToFixed(2024, 2, 20);
+    for (const auto& [name, ask, least, most, isMoment] : questions) {
+        Locale = place;
+        const double there = ask(date, Locale);
+        Locale = PresetLocale("Reykjavik");
+        EXPECT_EQ(ask(date, place), there) << name;
+    }
+    const Moment x = date + 0.3;
+    using Convert = Moment (*)(Moment, const LocaleRecord&);
+    for (const Convert convert :
+         {LocalToUniversal, UniversalToLocal, UniversalToStandard, StandardToUniversal, LocalToStandard,
+          LocalToApparent, ApparentToLocal, ApparentToUniversal, SolarAltitude}) {
+        Locale = place;
+        const double there = convert(x, Locale);
+        Locale = PresetLocale("Reykjavik");
+        EXPECT_EQ(convert(x, place), there);
     }
 }
 

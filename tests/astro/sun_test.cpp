@@ -1,6 +1,8 @@
 #include "astro/sun.h"
 
+#include "astro/local_time.h"
 #include "astro/timescales.h"
+#include "astro/year_dates.h"
 #include "calendars/gregorian.h"
 #include "core/locale.h"
 #include "core/numbering.h"

@@ -1,5 +1,8 @@
 #include "astro/timescales.h"
 
+#include "astro/local_time.h"
+#include "astro/sidereal.h"
+#include "astro/year_dates.h"
 #include "calendars/gregorian.h"
 #include "core/locale.h"
 #include "core/numbering.h"
@@ -55,16 +58,17 @@ TEST(TimeScales, ConvertBackOverTheWholeRange) {
     };
     constexpr Way ways[] = {
         {"terrestrial", UniversalToTerrestrial, TerrestrialToUniversal, 1},
-        {"standard", UniversalToStandard, StandardToUniversal, 0.001},
-        {"local", UniversalToLocal, LocalToUniversal, 0.001},
-        {"apparent", LocalToApparent, ApparentToLocal, 1},
+        {"standard", [](Moment x) { return UniversalToStandard(x); }, [](Moment x) { return StandardToUniversal(x); },
+         0.001},
+        {"local", [](Moment x) { return UniversalToLocal(x); }, [](Moment x) { return LocalToUniversal(x); }, 0.001},
+        {"apparent", [](Moment x) { return LocalToApparent(x); }, [](Moment x) { return ApparentToLocal(x); }, 1},
         {"Julian Day", MomentToJD, JDToMoment, 0.001},
         {"Modified Julian Day", MomentToMJD, MJDToMoment, 0.001},
         {"orbital date", MomentToOrbitalDate, OrbitalDateToMoment, 1},
         {"rotation-adjusted date", MomentToRAYDate, RAYDateToMoment, 40},
     };
     for (const LocaleRecord* place : {&halfHourZone, &westward, &localMean}) {
-        const LocaleScope scope(*place);
+        Locale = *place;
         for (const double epoch : {1.0, 730486.0}) {
             SetFixedDayEpoch(GregorianEpoch + epoch - 1, 1, "test");
             for (Moment x = MinFixedDay; x < MaxFixedDay; x += 9973.377) {
@@ -81,7 +85,7 @@ TEST(TimeScales, ConvertBackOverTheWholeRange) {
 }
 
 TEST(TimeScales, MeetAtTheirEpochs) {
-    const LocaleScope tehran(PresetLocale("Tehran"));
+    Locale = PresetLocale("Tehran");
     const Moment noon = GregorianToFixed(2000, 1, 1) + 0.5;
     EXPECT_EQ(MomentToJD(noon), 2451545);
     EXPECT_EQ(MomentToMJD(noon), 51544.5);
@@ -91,8 +95,9 @@ TEST(TimeScales, MeetAtTheirEpochs) {
     EXPECT_EQ(MomentToRAYDate(GregorianEpoch), 1);
     SetDeltaTDisabled(true);
     EXPECT_EQ(MomentToOrbitalDate(GregorianEpoch), 1);
-    for (Moment (*const convert)(Moment) : {UniversalToStandard, StandardToUniversal, UniversalToLocal}) {
-        EXPECT_EQ(convert(NeverMoment), NeverMoment);
+    for (Moment (*const convert)(Moment, const LocaleRecord&) :
+         {UniversalToStandard, StandardToUniversal, UniversalToLocal}) {
+        EXPECT_EQ(convert(NeverMoment, Locale), NeverMoment);
     }
 }
 

@@ -13,12 +13,7 @@ namespace horvanta {
 namespace {
 
 /// Options as on a first start, but for the leap rule.
-void UseRule(bool revised) {
-    julian::options.Revise = revised;
-    julian::options.UseAUC = false;
-    julian::options.YRF = -753;
-    julian::options.OSY = -776;
-}
+void UseRule(bool revised) { julian::options = {.Revise = revised}; }
 
 /// Published sample dates (Reingold and Dershowitz, Calendrical Calculations, appendix C).
 TEST(Julian, AgreesWithPublishedDates) {
@@ -31,30 +26,6 @@ TEST(Julian, AgreesWithPublishedDates) {
         const JulianDate date = FixedToJulianDate(fixed + 0.75, true);
         EXPECT_EQ(std::tuple(date.year, date.month, date.day), std::tuple(year, month, day)) << fixed;
         EXPECT_EQ(JulianToFixed(year, month, day, true), fixed);
-    }
-}
-
-/// Each day of a hundred centuries follows the one before by one step and converts back, by both rules.
-TEST(Julian, WalksEveryDay) {
-    for (const bool revised : {false, true}) {
-        UseRule(revised);
-        const FixedDay last = JulianToFixed(8000, 12, 31, true);
-        FixedDay fixed = JulianToFixed(-4000, 1, 1, true);
-        JulianDate before = FixedToJulianDate(fixed - 1, true);
-        for (int faults = 0; fixed <= last && faults < 10; ++fixed) {
-            const JulianDate date = FixedToJulianDate(fixed, true);
-            const bool monthEnds = before.day == JulianMonthLength(before.year, before.month, true);
-            const bool yearEnds = monthEnds && before.month == 12;
-            const int nextYear = before.year == -1 ? 1 : before.year + 1;
-            const bool follows = date.day == (monthEnds ? 1 : before.day + 1) &&
-                                 date.month == (yearEnds ? 1 : before.month + monthEnds) &&
-                                 date.year == (yearEnds ? nextYear : before.year);
-            if (!follows || JulianToFixed(date.year, date.month, date.day, true) != fixed || date.fixed != fixed) {
-                ++faults;
-                ADD_FAILURE() << revised << " " << date.year << "-" << date.month << "-" << date.day;
-            }
-            before = date;
-        }
     }
 }
 

@@ -1,8 +1,9 @@
 #include "calendars/quartane.h"
 
 #include "calendars/gregorian.h"
+#include "calendars/quartane_leap_rules.h"
 #include "calendars/quartane_leap_text.h"
-#include "core/moment.h"
+#include "calendars/quartane_year_start.h"
 #include "core/text.h"
 
 #include <gtest/gtest.h>
@@ -17,20 +18,11 @@
 namespace horvanta::quartane {
 namespace {
 
-/// Puts the calendar back as it starts.
 class Quartane : public testing::Test {
   protected:
-    ~Quartane() override {
-        LeapRuleKey = "52/293";
-        QuarterStructure = "SLS";
-        StartWeekday = 1;
-        Qua454 = UseZov010 = true;
-        UseZov454 = EvenCycleFlag = QuaSoupMix = false;
-    }
-
     /// The keys of the full list.
     static std::vector<std::string> Keys() {
-        QuaSoupMix = true;
+        options.QuaSoupMix = true;
         std::vector<std::string> keys;
         for (const std::string& text : LeapChoices()) {
             if (!text.empty()) keys.push_back(text.substr(0, text.find(' ')));
@@ -41,9 +33,9 @@ class Quartane : public testing::Test {
     /// Calls for each listed rule with a cycle of its own, in both even modes.
     static void ForEachCycle(const std::function<void(const LeapRule&)>& test) {
         for (const std::string& key : Keys()) {
-            LeapRuleKey = key;
+            options.LeapRuleKey = key;
             for (const bool even : {false, true}) {
-                EvenCycleFlag = even;
+                options.EvenCycleFlag = even;
                 SCOPED_TRACE(key + (even ? " even" : ""));
                 if (Rule().IsCycleRule) test(Rule());
             }
@@ -56,7 +48,7 @@ void ExpectYears(std::int32_t first, std::int32_t last) {
     FixedDay newYear = QuaNewYear(first);
     for (std::int32_t year = first; year < last; ++year) {
         const FixedDay next = QuaNewYear(year + 1);
-        ASSERT_EQ(DayOfWeek(newYear), StartWeekday) << year;
+        ASSERT_EQ(DayOfWeek(newYear), options.StartWeekday) << year;
         ASSERT_EQ(next - newYear, QuaYearLength(isQuaLeapYear(year))) << year;
         for (const FixedDay day : {newYear, newYear + 363, next - 1}) {
             const QuaYear found = FixedToQuaYear(day + 0.5);
@@ -70,12 +62,12 @@ void ExpectYears(std::int32_t first, std::int32_t last) {
 
 TEST_F(Quartane, CyclesHoldTheirLeapYears) {
     ForEachCycle([](const LeapRule& rule) {
-        for (StartWeekday = 0; StartWeekday < 7; ++StartWeekday) {
+        for (options.StartWeekday = 0; options.StartWeekday < 7; ++options.StartWeekday) {
             const auto years = static_cast<std::int32_t>(rule.CycleLength);
             ExpectYears(1 - years / 2, 1 + years);
             EXPECT_EQ(QuaNewYear(1 + years) - QuaNewYear(1), static_cast<double>(rule.CycleDays));
         }
-        StartWeekday = 1;
+        options.StartWeekday = 1;
         EXPECT_EQ(QuaNewYear(1), GregorianEpoch);
         EXPECT_EQ(CheckIfQuaCycle(), rule.CycleLength % 2 != 0 ? 1 : -1);
         EXPECT_EQ(rule.ModularInverse * rule.LeapNumerator % rule.CycleLength, 1);
@@ -88,10 +80,10 @@ TEST_F(Quartane, RulesOfMomentsKeepWeeks) {
                                "MNS174", "SE100",    "MSE100", "SS10",  "MSS10"};
     keys.merge(std::set<std::string>(listed.begin(), listed.end()));
     for (const std::string& key : keys) {
-        LeapRuleKey = key;
+        options.LeapRuleKey = key;
         if (Rule().IsCycleRule) continue;
         SCOPED_TRACE(key);
-        for (StartWeekday = 0; StartWeekday < 7; ++StartWeekday) {
+        for (options.StartWeekday = 0; options.StartWeekday < 7; ++options.StartWeekday) {
             for (const std::int32_t year : {-6900, -20, 1990, 11900}) ExpectYears(year, year + 30);
         }
         for (const std::int32_t year : {1900, 2024, 2100}) {
@@ -101,7 +93,7 @@ TEST_F(Quartane, RulesOfMomentsKeepWeeks) {
 }
 
 TEST_F(Quartane, KnowsTheISOCalendar) {
-    LeapRuleKey = "ISO";
+    options.LeapRuleKey = "ISO";
     const FixedDay last = GregorianToFixed(6000, 1, 1);
     for (FixedDay day = GregorianToFixed(-3000, 1, 1); day < last; ++day) {
         const ISODate iso = FixedToISODate(day);
@@ -111,7 +103,7 @@ TEST_F(Quartane, KnowsTheISOCalendar) {
         ASSERT_EQ(date.isLeap, iso.isLeap);
         ASSERT_EQ(date.weekOfYear, iso.week);
     }
-    LeapRuleKey = "RJISO";  // of whose centuries those are leap that leave 200 or 600 over 900
+    options.LeapRuleKey = "RJISO";  // of whose centuries those are leap that leave 200 or 600 over 900
     for (const auto& [year, days] : {std::pair(2000, 366), {2100, 365}, {2400, 366}, {2800, 365}, {2900, 366}}) {
         EXPECT_EQ(QuaNewYear(year + 1, true) - QuaNewYear(year, true), days) << year;
     }
@@ -123,31 +115,23 @@ void ExpectMonthsToTile(std::int32_t year) {
     std::int32_t month = 0;
     std::int32_t left = 0;
     for (FixedDay day = QuaNewYear(year); day < QuaNewYear(year + 1); ++day) {
-        DisplayedMoment = day + 0.75;
-        const QuaDate& date = DisplayedQuaDate();
-        const GridDate grid = GetDate();
+        const QuaDate& date = QuaDateOn(day + 0.75);
         if (left == 0) {
             ++month;
             left = date.monthLength;
             ASSERT_EQ(date.day, 1);
-            ASSERT_EQ((grid.firstWeekday + StartWeekday) % 7, DayOfWeek(day));
         }
         ASSERT_EQ(date.month, month);
         ASSERT_EQ(date.day, date.monthLength - left-- + 1);
         ASSERT_EQ(date.weekday, DayOfWeek(day));
         ASSERT_EQ(date.yearDay, 91 * (date.quarter - 1) + date.dayOfQuarter);
         ASSERT_EQ(date.monthInQuarter, date.month == 13 ? 4 : (date.month - 1) % 3 + 1);
-        ASSERT_EQ(QuaToFixed(year, date.month, date.day), day);
-        ASSERT_EQ(ToFixed(year, date.month, date.day), day);
-        if (QuarterStructure == "SLS") {
+        if (options.QuarterStructure == "SLS") {
             ASSERT_EQ(DaysInMonth(year, month), date.monthLength);
         }
     }
     ASSERT_EQ(left, 0);
-    Form form("Grid", "");
-    ChoiceList names(form, "Months");
-    SetMonthNames(names, year);
-    ASSERT_EQ(std::ssize(names.items), month);
+    ASSERT_EQ(std::ssize(Calendar.MonthNames(year)), month);
     ASSERT_EQ(month == 13, HasZovember() && isQuaLeapYear(year));
 }
 
@@ -155,10 +139,11 @@ TEST_F(Quartane, MonthsTileEveryYear) {
     for (const char* structure : {"LSS", "SLS", "SSL"}) {
         for (int layout = 0; layout < 4 * 7; ++layout) {
             SetQuaQuarterStructure(structure);
-            Qua454 = layout % 2 == 0;
+            options.Qua454 = layout % 2 == 0;
             ToggleUseZov(layout % 4 < 2);
-            StartWeekday = layout / 4;
-            SCOPED_TRACE(QuarterText(Qua454) + (QuaLeapUseZov() ? " alone" : "") + std::to_string(StartWeekday));
+            options.StartWeekday = layout / 4;
+            SCOPED_TRACE(QuarterText(options.Qua454) + (QuaLeapUseZov() ? " alone" : "") +
+                         std::to_string(options.StartWeekday));
             ExpectMonthsToTile(2008);
             ExpectMonthsToTile(2009);
         }
@@ -178,12 +163,12 @@ TEST_F(Quartane, PlacesTheLeapWeek) {
         {"SLS", false, true, "Sun, Zov 7, 2009"},
     };
     for (const Row& row : rows) {
-        QuarterStructure = row.structure;
-        Qua454 = row.weeks;
+        options.QuarterStructure = row.structure;
+        options.Qua454 = row.weeks;
         ToggleUseZov(row.alone);
         EXPECT_EQ(FixedToQuaShortDate(QuaNewYear(2010) - 0.5), row.lastDay);
     }
-    EXPECT_EQ(ToFixed(2008, 13, 1), QuaNewYear(2009) - 7);  // falls back by a week
+    EXPECT_EQ(Calendar.ToFixed(2008, 13, 1), QuaNewYear(2009) - 7);  // falls back by a week
 }
 
 /// The groups of each rule's intervals come to its cycle.
@@ -200,9 +185,9 @@ TEST_F(Quartane, GroupsIntervals) {
                                                             {"11/62", "62"},
                                                             {"30/169", "45+79+45"},
                                                             {"93/524", "45+79+45+79+(28)+79+45+79+45"}};
-    EvenCycleFlag = false;
+    options.EvenCycleFlag = false;
     for (const auto& [key, groups] : rows) {
-        LeapRuleKey = key;
+        options.LeapRuleKey = key;
         EXPECT_EQ(QuaGroupIntervals(QuaLeapIntervals()), groups);
     }
     EXPECT_EQ(ReduceIntervals("(28)+(28)+79+(28)", false), "2*(28) + 79 + (28)");
@@ -212,17 +197,17 @@ TEST_F(Quartane, GroupsIntervals) {
 
 TEST_F(Quartane, KeepsTheRuleAtSeparators) {
     SetQuaLeapChoice("69/389");
-    EXPECT_EQ(LeapRuleIndex, 4);
+    EXPECT_EQ(options.LeapRuleIndex, 4);
     ChooseLeapRule(3);
-    EXPECT_EQ(LeapRuleKey, "69/389");
+    EXPECT_EQ(options.LeapRuleKey, "69/389");
     SetQuaLeapChoice("RAY");  // not in the short list
-    EXPECT_EQ(LeapRuleKey, "52/293");
-    QuaSoupMix = true;
+    EXPECT_EQ(options.LeapRuleKey, "52/293");
+    options.QuaSoupMix = true;
     SetQuaLeapChoice("RAY");
-    EXPECT_EQ(LeapRuleKey, "RAY");
-    LeapRuleKey = "559/3150";
+    EXPECT_EQ(options.LeapRuleKey, "RAY");
+    options.LeapRuleKey = "559/3150";
     EXPECT_EQ(MeanYearText(0), "365+109/450 days");
-    StartWeekday = 3;
+    options.StartWeekday = 3;
     EXPECT_EQ(LeapChoices()[9], "ISOalt = Start on Wednesday after ISO new year 71/400");
 }
 
@@ -237,7 +222,7 @@ TEST_F(Quartane, JumpsToItsEvents) {
     EXPECT_EQ(JumpQuaCycle(cycle + 1000, 1), cycle + 107016);
     EXPECT_EQ(JumpQuaCycle(cycle, -1), cycle - 107016);
     for (const std::string& key : Keys()) {  // there and back over four new years
-        LeapRuleKey = key;
+        options.LeapRuleKey = key;
         Moment moment = QuaNewYear(2024) + 200;
         for (const int direction : {1, 1, -1, -1}) {
             const Moment next = JumpNYmoment(moment, direction);
@@ -245,13 +230,13 @@ TEST_F(Quartane, JumpsToItsEvents) {
             moment = next;
         }
     }
-    LeapRuleKey = "RAY";
+    options.LeapRuleKey = "RAY";
     EXPECT_EQ(JumpQuaCycle(cycle, 1), NeverMoment);
 }
 
 TEST_F(Quartane, KeepsDatesUnderEveryNumbering) {
     for (const char* key : {"52/293", "ISOalt", "NE80", "LABY", "MNS174"}) {
-        LeapRuleKey = key;
+        options.LeapRuleKey = key;
         const std::string date = FixedToQuaShortDate(GregorianToFixed(2024, 1, 15));
         SetFixedDayEpoch(GregorianToFixed(2001, 1, 4), 1, "");
         EXPECT_EQ(FixedToQuaShortDate(GregorianToFixed(2024, 1, 15)), date) << key;
@@ -261,14 +246,14 @@ TEST_F(Quartane, KeepsDatesUnderEveryNumbering) {
 
 TEST_F(Quartane, SurvivesWhatNoOneAsksFor) {
     for (const char* key : {"52/293", "100000/100000", "1/2/3", "/", "", "?", "ISO", "NE80", "MOY", "LANEY"}) {
-        LeapRuleKey = key;
+        options.LeapRuleKey = key;
         for (const double x : {NeverMoment, -NeverMoment, 1e15, std::nan("")}) {
             const QuaDate date = FixedToQuaDate(x);
             EXPECT_TRUE(date.month >= 1 && date.month <= 13) << key << x;
         }
         for (const std::int32_t n :
              {std::numeric_limits<std::int32_t>::min(), std::numeric_limits<std::int32_t>::max()}) {
-            ToFixed(n, n, n);
+            Calendar.ToFixed(n, n, n);
             DaysInMonth(n, n);
             SetKoffset(n);
             isQuaLeapYear(n);

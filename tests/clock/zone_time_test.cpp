@@ -62,7 +62,7 @@ TEST(DaylightTime, SwitchesOnItsDaysUnderEveryNumbering) {
     for (const double day : {1.0, 730487.0, -1721424.0}) {
         SetFixedDayEpoch(GregorianEpoch + day - 1, day, "test");
         for (const auto& [name, years, north] : places) {
-            const LocaleScope scope(PresetLocale(name));
+            Locale = PresetLocale(name);
             for (const Year& row : years) {
                 SCOPED_TRACE(testing::Message() << name << " " << row.year << ", numbering of " << day);
                 ExpectSwitches(row, north);
@@ -75,13 +75,13 @@ TEST(DaylightTime, IsKeptOnlyWhereAndWhenItIsWanted) {
     const Moment july = GregorianToFixed(2024, 7, 4) + 0.5;
     const Moment january = GregorianToFixed(2024, 1, 15) + 0.5;
     for (const char* const name : {"Tokyo", "Greenwich", "N-E Mid"}) {
-        const LocaleScope scope(PresetLocale(name));
+        Locale = PresetLocale(name);
         EXPECT_FALSE(isDaylightTime(july)) << name;
         EXPECT_EQ(StandardToDaylight(july), july) << name;
     }
-    const LocaleScope scope(PresetLocale("Times Square"));
+    Locale = PresetLocale("Times Square");
     for (const std::int32_t state : {0, 1, 2}) {
-        AdjustDST = state;
+        zone_time::options.AdjustDST = state;
         const double shift = state == 1 ? hour : 0;
         EXPECT_EQ(isDaylightTime(july), state == 1) << state;
         EXPECT_NEAR(StandardToDaylight(july), july + shift, 1e-9) << state;
@@ -94,7 +94,7 @@ TEST(DaylightTime, IsKeptOnlyWhereAndWhenItIsWanted) {
 }
 
 TEST(DaylightTime, TellsItsSwitches) {
-    const LocaleScope scope(PresetLocale("Times Square"));
+    Locale = PresetLocale("Times Square");
     EXPECT_EQ(DaylightSwitchText(DaylightStart(2024), true),
               "Switch to Daylight Saving Time on Sunday, March 10, 2024 at 02:00 h");
     EXPECT_EQ(DaylightSwitchText(DaylightEnd(2024), false),

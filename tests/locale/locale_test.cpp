@@ -2,6 +2,7 @@
 
 #include "core/text.h"
 #include "desk.h"
+#include "locale/distances.h"
 #include "locale/locale_text.h"
 #include "locale/presets.h"
 
@@ -71,7 +72,6 @@ TEST(Locale, IsToldInWords) {
     };
     for (const auto& [degrees, text] : rows) EXPECT_EQ(CompassPoint(degrees), text) << degrees;
 
-    UseElevation = true;
     EXPECT_EQ(LocaleSummary(PresetLocale("Jerusalem")),
               "Jerusalem, Israel:  31°46'40.0\"N, 35°14'04.0\"E, elevation 800m, zone +02:00UT");
     EXPECT_EQ(LocaleSummary(PresetLocale("Lima")),
@@ -90,21 +90,21 @@ TEST(Locale, IsToldInWords) {
 
 TEST(Locale, IsFoundOnMaps) {
     const LocaleRecord place = MakeLocale("Old Town", "Old Town & Port", -1.5, 2.25, 0);
-    MapIndex = 2;
+    web_map::options.MapIndex = 2;
     EXPECT_TRUE(MapLink(place, false).ends_with("?ll=-1.5,2.25&spn=10,10&t=k&q=-1.5,2.25"));
-    MapIndex = 3;
+    web_map::options.MapIndex = 3;
     EXPECT_TRUE(MapLink(MakeLocale("A&B#é", "", 1, 2, 0), false).ends_with("an.1_2_A%26B%23%C3%A9_"));
-    MapIndex = 4;
+    web_map::options.MapIndex = 4;
     EXPECT_TRUE(MapLink(place, false).ends_with("?pagename=Old%20Town&params=1.5_S_2.25_E")) << MapLink(place, false);
-    MapIndex = 1;
+    web_map::options.MapIndex = 1;
     const std::string anchor = MapLink(place, true);
     EXPECT_TRUE(anchor.starts_with(
         "<a title=\"Click to see &quot;MapQuest&quot; map of &quot;Old Town &amp; Port&quot;\" href=\"http://"));
     EXPECT_TRUE(
         anchor.ends_with("?center=-1.5,2.25&amp;zoom=9&amp;q=Old%20Town\" target=_blank>Old Town &amp; Port</a>"));
-    MapIndex = 5;
+    web_map::options.MapIndex = 5;
     EXPECT_EQ(MapLink(place, true), "");
-    MapIndex = 1;
+    web_map::options.MapIndex = 1;
 }
 
 TEST(LocaleMenu, MovesWithAReport) {

@@ -93,7 +93,7 @@ TEST(Desk, KeepsTheMomentInItsRangeWhateverIsDone) {
         if (random() % 64 == 0) line = "call ChangeFixedDayEpoch " + GeneralText(day(random)) + " 1 x";
         desk.Obey(line);
 
-        const GregorianDate& date = DisplayedGregorianDate();
+        const GregorianDate& date = FixedToGregorianDate(DisplayedMoment);
         const bool inRange = DisplayedMoment >= MinFixedDay && DisplayedMoment <= MaxFixedDay;
         const bool convertsBack = GregorianToFixed(date.year, date.month, date.day) == Floor(DisplayedMoment);
         const bool shown = !desk.program.gregorian.form.visible ||

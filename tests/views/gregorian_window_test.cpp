@@ -104,22 +104,7 @@ TEST_F(GregorianWindowTest, IsColouredFromItsMainDate) {
     EXPECT_EQ(window_.TheISOdate.colors, (ColorPair{{48, 207, 48}, {48, 48, 48}}));
 }
 
-/// Laying out the months of both calendars: each displayed day finds its way into its month and back.
 TEST_F(GregorianWindowTest, AnswersToMonthGrids) {
-    for (const CalendarContract* calendar : {&GregorianCalendar, &ISOCalendar}) {
-        GridDate before;
-        for (FixedDay fixed = GregorianToFixed(2019, 12, 1); fixed < GregorianToFixed(2021, 2, 1); ++fixed) {
-            DisplayedMoment = fixed + 0.25;
-            const GridDate date = calendar->GetDate();
-            EXPECT_EQ(calendar->ToFixed(date.year, date.month, date.day), fixed) << calendar->name;
-            EXPECT_TRUE(date.day != 1 || before.day == before.monthLength) << calendar->name;
-            before = date;
-            const FixedDay first = calendar->ToFixed(date.year, date.month, 1);
-            EXPECT_EQ(first, fixed - date.day + 1);
-            const int firstColumn = calendar == &ISOCalendar ? 1 : 0;
-            EXPECT_EQ(date.firstWeekday, (DayOfWeek(first) + 7 - firstColumn) % 7);
-        }
-    }
     DisplayedMoment = GregorianToFixed(2020, 12, 31);
     EXPECT_EQ(desk_.Obey("call Gregorian.GetDateAlt"), "year=2020 month=13 day=32 monthLength=35 firstWeekday=0");
     EXPECT_TRUE(desk_.Obey("call Gregorian.SetMonthNamesAlt").ends_with(R"("Week 49-End"; selected=12)"));

@@ -73,7 +73,7 @@ TEST_F(QuartaneWindowTest, ExperimentsAndGoesBack) {
     desk_.Obey("click Quartane.QuaMonths");
     EXPECT_TRUE(desk_.Obey("asked").starts_with("box "));
     for (const char* line :
-         {"click Quartane.QuaSoupMix", "click Quartane.QuaMonths", "menu QuaLeapUseZov", "menu MidNonLeapLeap",
+         {"click Quartane.QuaSoupMix", "menu QuaLeapUseZov", "click Quartane.QuaMonths", "menu MidNonLeapLeap",
           "choose Quartane.QuaStartOn 3", "choose Quartane.LeapChoice 1", "choose Quartane.LeapChoice 3"}) {
         EXPECT_EQ(desk_.Obey(line), "ok") << line;
     }
@@ -105,6 +105,16 @@ TEST_F(QuartaneWindowTest, IsReachedByJumps) {
     desk_.Obey("menu NextMenu 18");
     EXPECT_EQ(desk_.Obey("asked"), "beep");
     EXPECT_EQ(DisplayedMoment, before);
+}
+
+TEST_F(QuartaneWindowTest, TakesItsMenuItemsAlong) {
+    desk_.Obey("menu QuaCal");
+    for (const char* item : {"PrevMenu 16", "NextMenu 17", "NextMenu 18", "MidNonLeapLeap", "QuaLeapUseZov"}) {
+        EXPECT_EQ(desk_.Obey(std::string("menu ") + item), std::string("error: not enabled: ") + item);
+    }
+    desk_.Obey("menu QuaCal");
+    EXPECT_EQ(desk_.Obey("menu NextMenu 17"), "ok");
+    EXPECT_EQ(desk_.Obey("menu MidNonLeapLeap"), "ok");
 }
 
 TEST_F(QuartaneWindowTest, IsAlwaysOpenAtStart) {

@@ -2,6 +2,7 @@
 
 #include "astro/sun.h"
 #include "astro/timescales.h"
+#include "astro/year_dates.h"
 #include "clock/zone_time.h"
 #include "core/day_events.h"
 #include "core/moment.h"
@@ -60,16 +61,16 @@ TEST_F(TimeFieldsTest, TellDaylightSavingTime) {
         {"SetTehran", 739080, true, -1, "Daylight Saving Time disabled"},
     };
     for (const auto& [place, moment, on, color, tooltip] : rows) {
-        if ((AdjustDST == 1) != on) fields.AdjustDST_Click();
+        if ((zone_time::options.AdjustDST == 1) != on) fields.AdjustDST_Click();
         desk.Obey(std::string("menu ") + place);
         Show(moment);
         EXPECT_EQ(fields.AdjustDST.tooltip, tooltip) << place << moment;
         EXPECT_EQ(fields.AdjustDST.colors ? fields.AdjustDST.colors->foreground.Number() : -1, color) << place;
         EXPECT_EQ(fields.AdjustDST.enabled, std::string(place) != "SetTehran");
     }
-    AdjustDST = Undecided;
+    zone_time::options.AdjustDST = Undecided;
     fields.AdjustDST_Click();
-    EXPECT_EQ(AdjustDST, Unchecked);
+    EXPECT_EQ(zone_time::options.AdjustDST, Unchecked);
 }
 
 /// Each clock time follows the rule of its own moment: in the night of a switch the bar shows both.
@@ -159,7 +160,7 @@ TEST_F(TimeFieldsTest, PostTheNewYearOfTheDateThatIsShown) {
     const Moment rotationAdjusted = RAYDateToMoment(2024);
     for (const bool shown : {true, false}) {
         desk.Obey("click TimeAstro.Orbital_RAY_Toggle");
-        EXPECT_EQ(ShowsRAYDate, shown);
+        EXPECT_EQ(time_fields::options.ShowsRAYDate, shown);
         Show(Floor(shown ? rotationAdjusted : orbital));
         EXPECT_NE(AstronomyEvents().find(shown ? "Rotation-Adjusted New Year" : "Mean Orbital New Year"),
                   std::string::npos);

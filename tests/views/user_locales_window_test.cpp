@@ -2,6 +2,7 @@
 
 #include "core/text.h"
 #include "desk.h"
+#include "locale/distances.h"
 #include "locale/presets.h"
 
 #include <gtest/gtest.h>

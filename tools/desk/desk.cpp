@@ -179,7 +179,7 @@ std::string Desk::Press(std::string_view rest) {
 std::string Desk::Menu(std::string_view rest) {
     MenuItem* item = rest.empty() ? nullptr : program.frame.menuBar.Find(rest);
     if (!item || !item->Click) throw BadLine("no such menu item: " + std::string(rest));
-    if (!item->enabled) throw BadLine("not enabled: " + std::string(rest));
+    if (!item->isEnabled()) throw BadLine("not enabled: " + std::string(rest));
     item->Click();
     return "ok";
 }

@@ -1,0 +1,34 @@
+#include "app/all_options.h"
+
+#include "app/options.h"
+#include "astro/sun_events.h"
+#include "astro/timescales.h"
+#include "calendars/julian.h"
+#include "calendars/quartane_options.h"
+#include "clock/zone_time.h"
+#include "core/moment.h"
+#include "core/text.h"
+#include "hebrew/hebrew_options.h"
+#include "locale/locale_text.h"
+#include "views/monthly_window.h"
+#include "views/time_fields.h"
+
+namespace horvanta {
+
+void ResetAllOptions() {
+    SetFixedDayEpoch(GregorianEpoch, 1, "rata die");  // January 1 of year 1 is day 1
+    SetDeltaTDisabled(false);
+    day_numbering::options = {};
+    hebrew::options = {};
+    horizon::options = {};
+    julian::options = {};
+    monthly::options = {};
+    quartane::options = {};
+    stepping::options = {};
+    time_fields::options = {};
+    time_text::options = {};
+    web_map::options = {};
+    zone_time::options = {};
+}
+
+}  // namespace horvanta

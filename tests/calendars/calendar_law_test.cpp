@@ -1,0 +1,100 @@
+#include "calendars/calendar_contract.h"
+#include "calendars/gregorian.h"
+#include "calendars/julian.h"
+#include "calendars/persian.h"
+#include "calendars/quartane.h"
+#include "calendars/roman.h"
+#include "hebrew/hebrew_arithmetic.h"
+
+#include <gtest/gtest.h>
+
+#include <cstdlib>
+
+namespace horvanta {
+namespace {
+
+/// A calendar under a choice of its options.
+struct Law {
+    const char* name;
+    const CalendarContract& calendar;
+    void (*choose)() = [] {};
+};
+
+const Law laws[] = {
+    {"Gregorian", GregorianCalendar},
+    {"ISO", ISOCalendar},
+    {"Julian", JulianCalendar},
+    {"Revised Julian", JulianCalendar, [] { julian::options.Revise = true; }},
+    {"Roman", RomanCalendar},
+    {"Persian", PersianCalendar},
+    {"Hebrew", hebrew::Calendar},
+    {"Quartane", quartane::Calendar},
+    {"Quartane by the ISO year", quartane::Calendar, [] { quartane::options.LeapRuleKey = "ISOalt"; }},
+    {"Quartane by days", quartane::Calendar, [] { quartane::options.Qua454 = false; }},
+    {"Quartane from Friday", quartane::Calendar,
+     [] { quartane::options = {.LeapRuleKey = "41/231", .StartWeekday = 5, .QuarterStructure = "SSL"}; }},
+    {"Quartane by a line", quartane::Calendar,
+     [] { quartane::options = {.LeapRuleKey = "LANEY", .QuarterStructure = "LSS", .UseZov454 = true}; }},
+};
+
+bool isSame(const GridDate& a, const GridDate& b) {
+    return a.year == b.year && a.month == b.month && a.day == b.day && a.monthLength == b.monthLength &&
+           a.firstWeekday == b.firstWeekday;
+}
+
+/// What follows the last month of a year.
+std::int32_t NextYear(const CalendarContract& calendar, std::int32_t year) {
+    const bool skips = calendar.HasYear0 && !calendar.HasYear0() && year == -1;
+    return skips ? 1 : year + 1;
+}
+
+/// Whether a day of the month that `first` begins is the next one of it, and its date leads back to it.
+bool isDayOf(const CalendarContract& calendar, const GridDate& first, FixedDay begin, int day) {
+    GridDate expected = first;
+    expected.day = static_cast<std::int16_t>(day);
+    const FixedDay fixed = begin + day - 1;
+    return isSame(calendar.DateOf(fixed + 0.75), expected) && calendar.ToFixed(first.year, first.month, day) == fixed;
+}
+
+/// Walks the months from the first day that can be displayed to the last: they follow one another by one step, and so
+/// do their days, which convert there and back; the column of a month's first day moves with the weekdays.
+void ExpectMonthsToFollow(const CalendarContract& calendar) {
+    const bool everyDay = std::getenv("HORVANTA_EVERY_DAY") != nullptr;
+    FixedDay begin = MinFixedDay + 40;
+    begin -= calendar.DateOf(begin).day - 1;
+    GridDate first = calendar.DateOf(begin);
+    const double column = Modulo(first.firstWeekday - DayOfWeek(begin), 7);
+    for (int faults = 0; begin < MaxFixedDay - 40 && faults < 5;) {
+        const int within = 2 + static_cast<int>(Modulo(begin, 25));
+        bool sound = first.day == 1 && Modulo(first.firstWeekday - DayOfWeek(begin), 7) == column;
+        for (int day = 1; day <= first.monthLength; ++day) {
+            const bool looked = everyDay || day == 1 || day == within || day == first.monthLength;
+            sound = sound && (!looked || isDayOf(calendar, first, begin, day));
+        }
+        const auto months = static_cast<std::int32_t>(calendar.MonthNames(first.year).size());
+        begin += first.monthLength;
+        const GridDate next = calendar.DateOf(begin);
+        const bool ends = first.month == months;
+        sound = sound && next.day == 1 && next.month == (ends ? 1 : first.month + 1) &&
+                next.year == (ends ? NextYear(calendar, first.year) : first.year);
+        if (!sound) {
+            ++faults;
+            ADD_FAILURE() << "month " << first.month << " of " << first.year << ", before day " << begin;
+        }
+        first = next;
+    }
+}
+
+TEST(Calendars, MonthsAndDaysFollowOneAnotherOverTheWholeRange) {
+    for (const auto& [name, calendar, choose] : laws) {
+        julian::options = {};
+        quartane::options = {};
+        choose();
+        SetFixedDayEpoch(Epoch2001, 1, "as the program starts");
+        SCOPED_TRACE(name);
+        ExpectMonthsToFollow(calendar);
+    }
+}
+
+}  // namespace
+}  // namespace horvanta
