@@ -26,10 +26,10 @@ QLabel 1 0 0
 QLineEdit 1 0 0
 horvanta::ElidingLabel 1 0 0
 QGroupBox 1 0 0
-horvanta::PanelBar 9 0 0
-horvanta::MonthGrid 49 0 0
-horvanta::TextGrid 16 0 0
-horvanta::ArrowPair 1 2 0
+horvanta::StatusBarWidget 9 0 0
+horvanta::CellGridWidget 49 0 0
+horvanta::GridWidget 16 0 0
+horvanta::UpDownWidget 1 2 0
 QToolButton 0 1 0
 QPushButton 0 1 0
 QComboBox 0 1 0

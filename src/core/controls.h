@@ -72,6 +72,7 @@ class Control {
     std::string spoken;  ///< What a screen reader calls it, where neither caption nor tooltip tells it from others.
     bool visible = true;
     bool enabled = true;
+    bool whileBusy = false;           ///< Hears keys and clicks while a long command lets events run.
     std::optional<ColorPair> colors;  ///< None follows the desktop's palette.
 
     std::function<void()> Click;

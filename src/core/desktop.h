@@ -29,7 +29,8 @@ class Desktop {
     virtual void LoadFrame(HorvantaMDI& frame) = 0;
     virtual void LoadForm(Form& form) = 0;
 
-    /// Draws what has changed and handles what has come in from the user since.
+    /// Draws what has changed and handles what has come in since, in the midst of a long command. Of what the user did
+    /// only the keys and clicks for controls with `whileBusy` count; the rest is lost.
     virtual void LetEventsRun() = 0;
 
     virtual void Beep() = 0;

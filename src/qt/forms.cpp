@@ -30,10 +30,12 @@ constexpr DesignerForm designerForms[] = {
 
 }  // namespace
 
-void SetUpForm(std::string_view name, QWidget& widget) {
+std::unique_ptr<QWidget> MakeForm(std::string_view name) {
+    auto widget = std::make_unique<QWidget>();
     for (const DesignerForm& form : designerForms) {
-        if (form.name == name) form.setUp(widget);
+        if (form.name == name) form.setUp(*widget);
     }
+    return widget;
 }
 
 }  // namespace horvanta

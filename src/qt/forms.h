@@ -1,12 +1,13 @@
 #pragma once
 
-#include <string_view>
+#include <QWidget>
 
-class QWidget;
+#include <memory>
+#include <string_view>
 
 namespace horvanta {
 
-/// Lays out an empty widget as the Designer form of that name.
-void SetUpForm(std::string_view name, QWidget& widget);
+/// The widgets of the Designer form of that name; none where there is no such form.
+std::unique_ptr<QWidget> MakeForm(std::string_view name);
 
 }  // namespace horvanta

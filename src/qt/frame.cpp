@@ -1,11 +1,12 @@
 #include "qt/frame.h"
 
 #include "core/moment.h"
-#include "qt/forms.h"
+#include "qt/keys.h"
+#include "qt/user_gate.h"
 
 #include <QAction>
+#include <QApplication>
 #include <QCloseEvent>
-#include <QGuiApplication>
 #include <QKeyEvent>
 #include <QLayout>
 #include <QMdiArea>
@@ -75,24 +76,22 @@ void Frame::AddItem(QMenu& menu, MenuItem& item) {
     for (MenuItem* below : item.items) AddItem(*submenu, *below);
 }
 
-void Frame::Load(Form& form) {
-    auto* content = new QWidget;
-    SetUpForm(form.name, *content);
+void Frame::Load(Form& form, std::unique_ptr<QWidget> content) {
     auto* window = new QMdiSubWindow(area_);
     window->setObjectName(QString::fromStdString(form.name));
-    window->setWidget(content);
+    window->setWidget(content.release());
     const Qt::WindowFlags closable = form.Close ? Qt::WindowCloseButtonHint : Qt::WindowFlags();
     area_->addSubWindow(window, Qt::SubWindow | Qt::CustomizeWindowHint | Qt::WindowTitleHint | closable);
     window->hide();
-    children_.push_back({&form, window, std::make_unique<Binder>(form, *content, *this)});
-    content->layout()->activate();
+    children_.push_back({&form, window, std::make_unique<Binder>(form, *window->widget(), *this)});
+    window->widget()->layout()->activate();
     window->resize(window->sizeHint());
     window->installEventFilter(this);
     NoteSize(form, window->size());
 }
 
-void Frame::Run(const std::function<void()>& act) {
-    if (!act) return;
+void Frame::Run(const std::function<void()>& act, bool whileBusy) {
+    if (!act || (busy_ && !whileBusy)) return;
     ++depth_;
     act();
     if (--depth_ == 0) Draw();
@@ -106,6 +105,16 @@ void Frame::Draw() {
     for (Child& child : children_) GrantFocus(child);
     drawing_ = false;
     AwaitPaint();
+}
+
+void Frame::LetEventsRun() {
+    Draw();
+    const UserGate gate([this](const QWidget* widget) {
+        return std::ranges::any_of(children_, [&](const Child& c) { return c.binder->isHeardWhileBusy(widget); });
+    });
+    const bool before = std::exchange(busy_, true);
+    QCoreApplication::processEvents();
+    busy_ = before;
 }
 
 /// Paints are posted with low priority; what is posted lower still arrives when they are done.
@@ -125,10 +134,13 @@ void Frame::DrawMenus() {
     }
 }
 
+/// A window that is not shown is not drawn; one that comes is drawn first.
 void Frame::DrawChild(Child& child) {
-    child.window->setWindowTitle(QString::fromStdString(child.form->text));
-    child.binder->Draw();
-    DrawPlace(child);
+    if (child.form->visible) {
+        child.window->setWindowTitle(QString::fromStdString(child.form->text));
+        child.binder->Draw();
+        DrawPlace(child);
+    }
     if (child.window->isVisibleTo(child.window->parentWidget()) != child.form->visible) {
         child.window->setVisible(child.form->visible);
     }
@@ -195,7 +207,9 @@ QPoint Frame::FreePlace(const Child& child, QRect wished) const {
 
 void Frame::PlaceAll() {
     const bool before = std::exchange(drawing_, true);
-    for (Child& child : children_) DrawPlace(child);
+    for (Child& child : children_) {
+        if (child.form->visible) DrawPlace(child);
+    }
     drawing_ = before;
 }
 
@@ -230,8 +244,7 @@ void Frame::ComeForward() {
 }
 
 Frame::Child* Frame::ChildOf(const QObject* window) {
-    const auto found =
-        std::find_if(children_.begin(), children_.end(), [&](const Child& c) { return c.window == window; });
+    const auto found = std::ranges::find(children_, window, &Child::window);
     return found == children_.end() ? nullptr : &*found;
 }
 
@@ -257,23 +270,15 @@ bool Frame::eventFilter(QObject* watched, QEvent* event) {
 }
 
 bool Frame::event(QEvent* event) {
-    if (event->type() == paintedEvent) paintPending_ = false;
-    return QMainWindow::event(event);
-}
-
-void Frame::changeEvent(QEvent* event) {
-    QMainWindow::changeEvent(event);
-    if (event->type() == QEvent::WindowStateChange) NotePlace();
-}
-
-void Frame::moveEvent(QMoveEvent* event) {
-    QMainWindow::moveEvent(event);
-    NotePlace();
-}
-
-void Frame::resizeEvent(QResizeEvent* event) {
-    QMainWindow::resizeEvent(event);
-    NotePlace();
+    const bool used = QMainWindow::event(event);
+    switch (event->type()) {
+        case paintedEvent: paintPending_ = false; break;
+        case QEvent::WindowStateChange:
+        case QEvent::Move:
+        case QEvent::Resize: NotePlace(); break;
+        default: break;
+    }
+    return used;
 }
 
 void Frame::NotePlace() {
@@ -284,9 +289,9 @@ void Frame::NotePlace() {
 }
 
 void Frame::closeEvent(QCloseEvent* event) {
-    const bool starting = BusyCount > 0;
-    event->setAccepted(!starting);
-    if (!starting && !Quitting) Run(shell_.Close);
+    const bool busy = BusyCount > 0 || busy_;
+    event->setAccepted(!busy);
+    if (!busy && !Quitting) Run(shell_.Close);
 }
 
 /// Keys that reach the frame because no window has the focus are the time window's.

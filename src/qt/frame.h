@@ -5,6 +5,7 @@
 
 #include <QMainWindow>
 
+#include <functional>
 #include <memory>
 #include <utility>
 #include <vector>
@@ -25,11 +26,15 @@ class Frame final : public QMainWindow, public Acts {
     Frame(const Frame&) = delete;
     Frame& operator=(const Frame&) = delete;
 
-    /// Makes the window of a form from its Designer form, hidden, and tells the form its size.
-    void Load(Form& form);
+    /// Makes the window of a form around its widgets, hidden, and tells the form its size.
+    void Load(Form& form, std::unique_ptr<QWidget> content);
 
     /// Draws what has changed, and shows the frame if it was not.
     void Draw();
+
+    /// Draws, then handles what has come in. Of the user only those controls hear that ask for it; what he does
+    /// elsewhere is lost.
+    void LetEventsRun();
 
     /// Brings the frame before all other windows.
     void ComeForward();
@@ -38,9 +43,6 @@ class Frame final : public QMainWindow, public Acts {
 
   protected:
     bool event(QEvent* event) override;
-    void changeEvent(QEvent* event) override;
-    void moveEvent(QMoveEvent* event) override;
-    void resizeEvent(QResizeEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
 
@@ -52,9 +54,10 @@ class Frame final : public QMainWindow, public Acts {
         int wanted = 0;  ///< The height that its controls asked for when it was drawn last, in pixels.
     };
 
-    void Run(const std::function<void()>& act) override;
+    void Run(const std::function<void()>& act, bool whileBusy = false) override;
     bool isPaintPending() const override { return paintPending_; }
     bool isDrawing() const override { return drawing_; }
+    bool isBusy() const override { return busy_; }
 
     void AddItem(QMenu& menu, MenuItem& item);
     void AwaitPaint();
@@ -75,6 +78,7 @@ class Frame final : public QMainWindow, public Acts {
     std::vector<std::pair<MenuItem*, QAction*>> actions_;
     int depth_ = 0;
     bool drawing_ = false;
+    bool busy_ = false;
     bool paintPending_ = false;
 };
 

@@ -1,5 +1,7 @@
 #include "qt/qt_desktop.h"
 
+#include "qt/forms.h"
+
 #include <QApplication>
 #include <QClipboard>
 #include <QColorDialog>
@@ -30,10 +32,11 @@ void MakeRoomForLines(QMessageBox& box) {
                   grid->columnCount());
 }
 
-/// A box with a text that can be selected, as it is, whatever signs it holds.
-int ShowBox(QMessageBox::Icon icon, std::string_view message, std::string_view title,
-            QMessageBox::StandardButtons buttons, QWidget* parent) {
-    QMessageBox box(icon, QString::fromUtf8(title), QString::fromUtf8(message), buttons, parent);
+/// A box with a text that can be selected, as it is, whatever signs it holds, over windows that have been drawn.
+int ShowBox(Frame& frame, QMessageBox::Icon icon, std::string_view message, std::string_view title,
+            QMessageBox::StandardButtons buttons) {
+    frame.Draw();
+    QMessageBox box(icon, QString::fromUtf8(title), QString::fromUtf8(message), buttons, &frame);
     box.setTextFormat(Qt::PlainText);
     box.setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
     box.setDefaultButton(buttons.testFlag(QMessageBox::Yes) ? QMessageBox::Yes : QMessageBox::Ok);
@@ -45,27 +48,23 @@ int ShowBox(QMessageBox::Icon icon, std::string_view message, std::string_view t
 
 void QtDesktop::LoadFrame(HorvantaMDI& shell) { frame_ = std::make_unique<Frame>(shell); }
 
-void QtDesktop::LoadForm(Form& form) { frame_->Load(form); }
+void QtDesktop::LoadForm(Form& form) { frame_->Load(form, MakeForm(form.name)); }
 
 /// Nothing runs before the frame is shown: the start shows it once it holds everything, and paints it only once.
 void QtDesktop::LetEventsRun() {
-    if (!frame_->isVisible()) return;
-    frame_->Draw();
-    QApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+    if (frame_->isVisible()) frame_->LetEventsRun();
 }
 
 void QtDesktop::Beep() { QApplication::beep(); }
 
 bool QtDesktop::AskYesNo(std::string_view question, std::string_view title) {
-    frame_->Draw();
-    return ShowBox(QMessageBox::Question, question, title, QMessageBox::Yes | QMessageBox::No, frame_.get()) ==
-           QMessageBox::Yes;
+    constexpr auto buttons = QMessageBox::Yes | QMessageBox::No;
+    return ShowBox(*frame_, QMessageBox::Question, question, title, buttons) == QMessageBox::Yes;
 }
 
 YesNoCancel QtDesktop::AskYesNoCancel(std::string_view question, std::string_view title) {
-    frame_->Draw();
     constexpr auto buttons = QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel;
-    const int pressed = ShowBox(QMessageBox::Question, question, title, buttons, frame_.get());
+    const int pressed = ShowBox(*frame_, QMessageBox::Question, question, title, buttons);
     if (pressed == QMessageBox::Yes) return YesNoCancel::Yes;
     return pressed == QMessageBox::No ? YesNoCancel::No : YesNoCancel::Cancel;
 }
@@ -80,8 +79,7 @@ std::optional<std::string> QtDesktop::AskText(std::string_view prompt, std::stri
 }
 
 void QtDesktop::Tell(std::string_view message, std::string_view title) {
-    frame_->Draw();
-    ShowBox(QMessageBox::Information, message, title, QMessageBox::Ok, frame_.get());
+    ShowBox(*frame_, QMessageBox::Information, message, title, QMessageBox::Ok);
 }
 
 /// What is escaped in an address stays so. The opener works in the folder that `SystemDrive` names, if it names one.

@@ -9,23 +9,26 @@ class QToolButton;
 
 namespace horvanta {
 
+class Acts;
+
 /// An arrow up above an arrow down, which repeat while they are held; behind a caption if there is one. They leave the
 /// focus to the field that they change.
-class ArrowPair final : public QWidget {
+class UpDownWidget final : public QWidget {
     Q_OBJECT
   public:
-    explicit ArrowPair(QWidget* parent = nullptr);
+    explicit UpDownWidget(QWidget* parent = nullptr);
 
-    /// Shows what the arrows are for.
     void Draw(const UpDown& arrows);
+
+    /// Keeps room in the caption for a text.
+    void KeepRoom(const QString& widest);
+
+    void Connect(UpDown& arrows, Acts& acts);
 
     QSize sizeHint() const override;
 
-  Q_SIGNALS:
-    void stepped(int direction);
-
   private:
-    QToolButton* MakeArrow(Qt::ArrowType arrow, int direction);
+    QToolButton* MakeArrow(Qt::ArrowType arrow);
 
     QLabel* caption_;
     QToolButton* up_;

@@ -1,0 +1,28 @@
+#pragma once
+
+#include <Qt>
+
+class QKeyEvent;
+
+namespace horvanta {
+
+/// A key by its code, 0 where windows don't know it, and the bits of `KeyShift`.
+struct KeyPress {
+    int code;
+    int shift;
+};
+
+KeyPress KeyPressOf(const QKeyEvent& event);
+
+/// The bits of `KeyShift` for the modifiers that are held.
+int ShiftOf(Qt::KeyboardModifiers held);
+
+bool isEnter(const QKeyEvent& event);
+
+/// What moves in a list or opens it.
+bool isListKey(const QKeyEvent& event);
+
+/// What edits a line of text. Home alone is not among them: it is a key of the windows.
+bool isEditingKey(const QKeyEvent& event);
+
+}  // namespace horvanta

@@ -1,0 +1,42 @@
+#include "qt/labels_widget.h"
+
+#include <QLabel>
+#include <QMouseEvent>
+
+#include <algorithm>
+
+namespace horvanta {
+
+QLabel* LabelsWidget::MakeLabel() {
+    auto* label = new QLabel(this);
+    label->setTextFormat(Qt::PlainText);
+    return label;
+}
+
+QLabel* LabelsWidget::MakePanel() {
+    constexpr int padding = 2;  // pixels between its frame and its text
+    QLabel* panel = MakeLabel();
+    panel->setAlignment(Qt::AlignCenter);
+    panel->setFrameStyle(QFrame::StyledPanel | QFrame::Sunken);
+    panel->setMargin(padding);
+    return panel;
+}
+
+void LabelsWidget::KeepRoomIn(QLabel& label, const QString& widest) {
+    const QString shown = label.text();
+    label.setText(widest);
+    label.setMinimumWidth(label.sizeHint().width());
+    label.setText(shown);
+}
+
+/// Labels pass what the mouse does on to their parent.
+void LabelsWidget::mouseReleaseEvent(QMouseEvent* event) {
+    const auto isHit = [where = event->position().toPoint()](const QLabel* part) {
+        return part && part->isVisible() && part->geometry().contains(where);
+    };
+    const auto hit = std::ranges::find_if(parts_, isHit);
+    if (event->button() != Qt::LeftButton || hit == parts_.end() || !clicked_) return;
+    clicked_(static_cast<std::size_t>(hit - parts_.begin()));
+}
+
+}  // namespace horvanta

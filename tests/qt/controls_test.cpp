@@ -1,0 +1,172 @@
+#include "astro/sun_events.h"
+#include "astro/timescales.h"
+#include "clock/zone_time.h"
+#include "qt/face.h"
+#include "qt/status_bar_widget.h"
+#include "session.h"
+
+#include <QCheckBox>
+#include <QClipboard>
+#include <QGroupBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QRadioButton>
+#include <QToolButton>
+
+#include <set>
+
+using namespace horvanta;
+
+class ControlsTest final : public QObject {
+    Q_OBJECT
+
+  private Q_SLOTS:
+    void init() { settings_.emplace(); }
+
+    void everyControlHasItsWidgetAndEveryWidgetItsControl() {
+        Session session;
+        for (Form* form : session.program.Forms()) {
+            QWidget* content = session.Window(*form)->widget();
+            std::set<QString> controls;
+            for (Control* control : form->controls) {
+                const QString name = QString::fromStdString(control->name);
+                controls.insert(name);
+                auto* widget = content->findChild<QWidget*>(name);
+                QVERIFY2(widget, control->name.c_str());
+                QVERIFY2(MakeFace(*control, *widget), control->name.c_str());
+                QVERIFY2(!widget->accessibleName().isEmpty(), control->name.c_str());
+                for (const auto* part : widget->findChildren<QLabel*>()) QVERIFY(!part->accessibleName().isEmpty());
+            }
+            for (const auto* widget : content->findChildren<QWidget*>()) {
+                QVERIFY2(!isFace(*widget) || controls.contains(widget->objectName()), qPrintable(widget->objectName()));
+            }
+        }
+    }
+
+    void typedDayNumbersAreTakenOrGivenBack() {
+        Session session;
+        auto* field = session.Find<QLineEdit>("FixedDayNum");
+        QVERIFY(field->hasFocus());
+        field->selectAll();
+        QTest::keyClicks(field, QStringLiteral("8415.5"));
+        session.Press(Qt::Key_Return);
+        QCOMPARE(DisplayedMoment, 8415.5);
+        QCOMPARE(session.Find<QLabel>("GregorianDate")->text(), QStringLiteral("Monday, January 15, 2024 "));
+
+        field->selectAll();
+        QTest::keyClicks(field, QStringLiteral("12x"));
+        QTest::mouseClick(session.Find<QToolButton>("NextUp"), Qt::LeftButton);
+        QCOMPARE(DisplayedMoment, 8416);
+        QCOMPARE(field->text(), QStringLiteral("8416"));
+
+        field->setFocus();
+        field->selectAll();
+        QTest::keyClicks(field, QStringLiteral("1000"));
+        session.Find<QPushButton>("isoInfo")->setFocus();
+        QCOMPARE(DisplayedMoment, 1000);
+    }
+
+    void fieldsAndBoxesTakeTheirOwnKeysAndClicks() {
+        Session session;
+        session.program.frame.SetUserLoc.Click();
+        session.frame().Draw();
+        const Moment before = DisplayedMoment;
+        auto* name = session.Find<QLineEdit>("LocName");
+        QTest::keyClicks(name, QStringLiteral("Ur - of = the +"));
+        QCOMPARE(name->text(), QStringLiteral("Ur - of = the +"));
+        auto* degrees = session.Find<QLineEdit>("LatDeg");
+        degrees->setFocus();
+        for (const Qt::Key key : {Qt::Key_Plus, Qt::Key_Equal, Qt::Key_PageUp, Qt::Key_Up, Qt::Key_Minus}) {
+            session.Press(key);
+        }
+        QCOMPARE(degrees->text(), QStringLiteral("12"));
+        auto* elevation = session.Find<QLineEdit>("Elevation");
+        session.Press(Qt::Key_V, Qt::AltModifier);
+        QVERIFY(elevation->hasFocus());
+        QTest::keyClicks(elevation, QStringLiteral("-400"));
+        session.Find<QRadioButton>("ElevFeet")->click();
+        QCOMPARE(elevation->text(), QStringLiteral("-1312.336"));
+        auto* box = session.Find<QGroupBox>("ElevationFrame");
+        QTest::mouseClick(box, Qt::LeftButton, {}, QPoint(box->width() / 2, elevation->geometry().bottom() + 2));
+        QVERIFY(!elevation->text().isEmpty());
+        QTest::mouseClick(box, Qt::LeftButton, {}, QPoint(12, 4));
+        QVERIFY(elevation->text().isEmpty());
+        QCOMPARE(DisplayedMoment, before);
+    }
+
+    void clickedLabelsAreCopied() {
+        Session session;
+        QTest::mouseClick(session.Find<QLabel>("GregCycleInfo"), Qt::LeftButton);
+        QVERIFY(QApplication::clipboard()->text().startsWith(QStringLiteral("Gregorian year ")));
+        QVERIFY(session.Find<QLabel>("ClipBoardStatus")->text().startsWith(QStringLiteral("Gregorian year ")));
+        QTest::mouseClick(session.Find<QLabel>("ClipBoardStatus"), Qt::LeftButton);
+        QVERIFY(QApplication::clipboard()->text().isEmpty());
+    }
+
+    void aClickedCheckBoxShowsWhatTheProgramMadeOfIt() {
+        Session session;
+        struct Row {
+            const char* name;
+            std::function<bool()> option;
+            Qt::CheckState before;
+        };
+        const Row rows[] = {
+            {"UseElevation", [] { return horizon::options.UseElevation; }, Qt::Checked},
+            {"ShowDawnDusk", [] { return time_fields::options.ShowsDawnDusk; }, Qt::Checked},
+            {"UseDeltaT", [] { return !DeltaTDisabled; }, Qt::Checked},
+            {"AdjustDST", [] { return zone_time::options.AdjustDST == Checked; }, Qt::PartiallyChecked},
+        };
+        zone_time::options.AdjustDST = Undecided;
+        AnswerNextBox(QMessageBox::No);
+        session.program.frame.Presets[1].Click();  // a place with an elevation and daylight saving time
+        session.frame().Draw();
+        for (const Row& row : rows) {
+            auto* box = session.Find<QCheckBox>(row.name);
+            QCOMPARE(box->checkState(), row.before);
+            const bool closesBox = QByteArray("UseDeltaT") == row.name;
+            if (closesBox) AnswerNextBox(QMessageBox::Ok);
+            box->setFocus();
+            session.Press(Qt::Key_Space);
+            QVERIFY(!row.option());
+            QCOMPARE(box->checkState(), Qt::Unchecked);
+            session.Press(Qt::Key_Return);
+            QVERIFY(row.option());
+            QCOMPARE(box->checkState(), Qt::Checked);
+        }
+    }
+
+    void coloursComeAndGo() {
+        Session session;
+        auto* box = session.Find<QCheckBox>("AdjustDST");
+        const auto corner = [box] { return box->grab().toImage().pixelColor(box->width() - 1, 0); };
+        const QColor own = corner();
+        AnswerNextBox(QMessageBox::No);
+        session.program.frame.Presets[1].Click();
+        session.frame().Draw();
+        QCOMPARE(corner(), QColor(Qt::white));
+        box->click();
+        QCOMPARE(corner(), own);
+        QCOMPARE(box->palette(), box->parentWidget()->palette());
+    }
+
+    void panelsLineUpAndAClickedOneIsCopied() {
+        Session session;
+        const auto panels = session.Find<StatusBarWidget>("DawnDusk")->findChildren<QLabel*>();
+        const auto legends = session.Find<StatusBarWidget>("DawnDuskLegends")->findChildren<QLabel*>();
+        QCOMPARE(panels.size(), legends.size());
+        for (int i = 0; i < panels.size(); ++i) {
+            QCOMPARE(panels[i]->x(), legends[i]->x());
+            QCOMPARE(panels[i]->width(), legends[i]->width());
+        }
+        QTest::mouseClick(panels[4], Qt::LeftButton);
+        QCOMPARE(QApplication::clipboard()->text(), QStringLiteral("Sunrise: ") + panels[4]->text());
+        QTest::mouseClick(legends[3], Qt::LeftButton);
+        QCOMPARE(QApplication::clipboard()->text(), QStringLiteral("Sunrise: ") + panels[4]->text());
+    }
+
+  private:
+    std::optional<SettingsFolder> settings_;
+};
+
+QTEST_MAIN(ControlsTest)
+#include "controls_test.moc"

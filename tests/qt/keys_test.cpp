@@ -1,0 +1,178 @@
+#include "core/moment.h"
+#include "session.h"
+
+#include <QAction>
+#include <QClipboard>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMdiArea>
+#include <QMenuBar>
+#include <QToolButton>
+#include <QVBoxLayout>
+#include <QWindow>
+
+#include <memory>
+#include <set>
+#include <string>
+#include <tuple>
+
+using namespace horvanta;
+
+namespace {
+
+/// A window with a long command, of which one button hears the user meanwhile and another does not.
+struct CommandWindow {
+    explicit CommandWindow(Session& opened) : session(opened) {
+        auto content = std::make_unique<QWidget>();
+        auto* column = new QVBoxLayout(content.get());
+        for (const Control* control : form.controls) {
+            auto* button = new QPushButton;
+            button->setObjectName(QString::fromStdString(control->name));
+            column->addWidget(button);
+        }
+        cancel.whileBusy = true;
+        cancel.Click = [this] { heard += "cancel "; };
+        cancel.KeyDown = [this](int code, int) {
+            heard += std::to_string(code) + " ";
+            return code == KeyEscape;
+        };
+        other.Click = [this] { heard += "other "; };
+        form.KeyDown = [this](int, int) { return heard += "form ", true; };
+        form.Close = [this] { heard += "close "; };
+        session.frame().Load(form, std::move(content));
+        form.visible = true;
+        cancel.TakeFocus();
+        session.frame().Draw();
+        session.AwaitActive();
+    }
+
+    /// Presses the mouse where a widget is, as a user does: it reaches the widget by way of the window.
+    void Click(const char* name) {
+        auto* widget = session.Find<QWidget>(name);
+        const QPoint where = widget->mapTo(&session.frame(), widget->rect().center());
+        QTest::mouseClick(session.frame().windowHandle(), Qt::LeftButton, {}, where);
+    }
+    void Press(Qt::Key key) { QTest::keyClick(session.frame().windowHandle(), key); }
+
+    Session& session;
+    Form form{"Command", "A long command"};
+    Button cancel{form, "Cancel", Caption("&Cancel")};
+    Button other{form, "Other", Caption("Other")};
+    std::string heard;
+};
+
+}  // namespace
+
+class KeysTest final : public QObject {
+    Q_OBJECT
+
+  private Q_SLOTS:
+    void init() { settings_.emplace(); }
+
+    void keysStepAndEditingKeysEdit() {
+        Session session;
+        auto* field = session.Find<QLineEdit>("FixedDayNum");
+        DisplayedMoment = 8415;
+        UpdateStatus();
+        session.frame().Draw();
+        const std::tuple<Qt::Key, Qt::KeyboardModifiers, double> rows[] = {
+            {Qt::Key_Space, Qt::NoModifier, 8416},    {Qt::Key_Space, Qt::ShiftModifier, 8415},
+            {Qt::Key_PageUp, Qt::NoModifier, 8422},   {Qt::Key_PageDown, Qt::NoModifier, 8415},
+            {Qt::Key_Plus, Qt::KeypadModifier, 8416}, {Qt::Key_Minus, Qt::KeypadModifier, 8415},
+            {Qt::Key_Left, Qt::NoModifier, 8415},     {Qt::Key_Home, Qt::ShiftModifier, 8415},
+            {Qt::Key_Home, Qt::NoModifier, Today()},
+        };
+        for (const auto& [key, held, moment] : rows) {
+            session.Press(key, held);
+            QCOMPARE(DisplayedMoment, moment);
+            QVERIFY(field->hasFocus());
+            if (held == Qt::ShiftModifier && key == Qt::Key_Home) QVERIFY(field->hasSelectedText());
+        }
+        session.frame().findChild<QMdiArea*>()->setActiveSubWindow(session.Window(session.program.gregorian.form));
+        const Moment before = DisplayedMoment;
+        session.Press(Qt::Key_PageUp);
+        QCOMPARE(DisplayedMoment, before + 7);
+        session.Find<QToolButton>("NextDown")->setFocus();
+        session.Press(Qt::Key_Space);
+        QCOMPARE(DisplayedMoment, before + 6);
+        session.Press(Qt::Key_Return);
+        QCOMPARE(DisplayedMoment, before + 5);
+    }
+
+    void shortcutsWorkFromTheDayNumber() {
+        Session session;
+        QVERIFY(session.Find<QLineEdit>("FixedDayNum")->hasFocus());
+        std::set<QKeySequence> taken;  // keys that two items share choose neither
+        for (const auto* action : session.frame().menuBar()->findChildren<QAction*>()) {
+            if (!action->shortcut().isEmpty()) QVERIFY(taken.insert(action->shortcut()).second);
+        }
+        QVERIFY(!settings_->Read().contains("[TimeAstro]"));
+        session.Press(Qt::Key_S, Qt::ControlModifier);
+        QVERIFY(settings_->Read().contains("[TimeAstro]"));
+    }
+
+    void repeatsOfAHeldKeyWaitForThePaint() {
+        Session session;
+        const Moment before = DisplayedMoment;
+        const auto repeat = [&] {
+            QKeyEvent event(QEvent::KeyPress, Qt::Key_Up, Qt::NoModifier, QString(), true);
+            QApplication::sendEvent(QApplication::focusWidget(), &event);
+        };
+        QCoreApplication::processEvents();
+        repeat();
+        repeat();
+        repeat();
+        QCOMPARE(DisplayedMoment, before + 1);
+        QTRY_VERIFY_WITH_TIMEOUT((repeat(), DisplayedMoment > before + 1), 2000);
+
+        session.program.timeAstro.DayUpDown(-1e8, 1);  // to the first day, from where a held key changes nothing
+        session.Press(Qt::Key_Down);
+        session.Press(Qt::Key_Down);
+        QTRY_VERIFY_WITH_TIMEOUT((repeat(), DisplayedMoment > MinFixedDay), 400);
+    }
+
+    void aLongCommandHearsOnlyWhatAsksForIt() {
+        Session session;
+        CommandWindow window(session);
+        QVERIFY(session.Find<QPushButton>("Cancel")->hasFocus());
+        const auto act = [&] {
+            window.Click("Other");
+            window.Click("GregCycleInfo");
+            window.Click("NextUp");
+            session.Window(window.form)->close();
+            session.frame().close();
+            session.program.frame.PickBackColor.Click = [&] { window.heard += "menu "; };
+            for (auto* action : session.frame().menuBar()->findChildren<QAction*>()) {
+                if (action->text() == QStringLiteral("Change Background Color")) action->trigger();
+            }
+            window.Click("Cancel");
+            for (const Qt::Key key : {Qt::Key_Tab, Qt::Key_Escape, Qt::Key_PageUp, Qt::Key_Space}) window.Press(key);
+        };
+        const Moment before = DisplayedMoment;
+        for (int rounds = 0; rounds < 2; ++rounds) {
+            QTimer::singleShot(0, qApp, act);
+            session.desktop.LetEventsRun();
+        }
+        QCoreApplication::processEvents();
+        QCOMPARE(window.heard, std::string("cancel 27 33 cancel cancel 27 33 cancel "));
+        QCOMPARE(DisplayedMoment, before);
+        QVERIFY(session.Find<QPushButton>("Cancel")->hasFocus());
+        QVERIFY(session.frame().isVisible());
+        QVERIFY(QApplication::clipboard()->text().isEmpty());
+
+        window.heard.clear();
+        window.Click("Other");
+        window.Press(Qt::Key_PageUp);
+        session.Window(window.form)->close();
+        QCOMPARE(window.heard, std::string("other form close "));
+        window.Click("NextUp");
+        QCOMPARE(DisplayedMoment, before + 1);
+    }
+
+  private:
+    std::optional<SettingsFolder> settings_;
+};
+
+QTEST_MAIN(KeysTest)
+#include "keys_test.moc"

@@ -1,0 +1,106 @@
+#pragma once
+
+#include "app/horvanta.h"
+#include "core/moment.h"
+#include "qt/qt_desktop.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QMdiSubWindow>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QSettings>
+#include <QTemporaryDir>
+#include <QTest>
+#include <QTimer>
+
+#include <functional>
+#include <optional>
+
+/// A place of its own for the settings of a test.
+class SettingsFolder {
+  public:
+    SettingsFolder() {
+        qputenv("XDG_CONFIG_HOME", folder_.path().toUtf8());
+        QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, folder_.path());
+    }
+
+    static QString Path() { return horvanta::SettingsFile::PathOf(horvanta::ProgramSettings); }
+
+    static void Write(const QByteArray& bytes) {
+        QDir().mkpath(QFileInfo(Path()).path());
+        QFile file(Path());
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        file.write(bytes);
+    }
+
+    static QByteArray Read() {
+        QFile file(Path());
+        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    }
+
+  private:
+    QTemporaryDir folder_;
+};
+
+/// The whole program.
+struct Session {
+    Session() {
+        horvanta::CurrentDesktop = &desktop;
+        program.Start();
+        frame().Draw();
+        frame().showNormal();  // a maximized frame keeps the size of the screen
+        frame().resize(1400, 900);
+        AwaitActive();
+    }
+    ~Session() { horvanta::CurrentDesktop = nullptr; }
+
+    horvanta::Frame& frame() { return *desktop.frame(); }
+
+    template <class Widget>
+    Widget* Find(const char* name) {
+        return frame().findChild<Widget*>(QString::fromLatin1(name));
+    }
+
+    QMdiSubWindow* Window(const horvanta::Form& form) {
+        return frame().findChild<QMdiSubWindow*>(QString::fromStdString(form.name));
+    }
+
+    /// A box that was closed leaves no window active for a while, and a window manager that has just been started
+    /// forgets what it is asked.
+    void AwaitActive() {
+        constexpr int patience = 100;  // milliseconds
+        for (int tries = 0; tries < 50 && !QTest::qWaitForWindowActive(&frame(), patience); ++tries) {
+            frame().activateWindow();
+        }
+        if (!frame().isActiveWindow()) qWarning("the frame did not become active");
+    }
+
+    void Press(Qt::Key key, Qt::KeyboardModifiers held = Qt::NoModifier) {
+        AwaitActive();
+        QTest::keyClick(QApplication::focusWidget(), key, held);
+    }
+
+    horvanta::QtDesktop desktop;
+    horvanta::Horvanta program;
+};
+
+/// Deals with the next dialog of a kind, once it is up.
+template <class Dialog>
+void DealWithNext(const std::function<void(Dialog&)>& deal) {
+    auto* timer = new QTimer(qApp);
+    QObject::connect(timer, &QTimer::timeout, timer, [timer, deal] {
+        auto* dialog = qobject_cast<Dialog*>(QApplication::activeModalWidget());
+        if (!dialog) return;
+        timer->stop();
+        timer->deleteLater();
+        deal(*dialog);
+    });
+    timer->start(1);
+}
+
+inline void AnswerNextBox(QMessageBox::StandardButton button) {
+    DealWithNext<QMessageBox>([button](QMessageBox& box) { box.button(button)->click(); });
+}
