@@ -1,4 +1,5 @@
 #include "calendars/gregorian.h"
+#include "calendars/oriental.h"
 #include "calendars/persian.h"
 #include "calendars/quartane.h"
 #include "calendars/roman.h"
@@ -54,7 +55,7 @@ struct WindowCalendar {
 const WindowCalendar calendars[] = {
     {"Gregorian", GregorianCalendar}, {"Gregorian", ISOCalendar, "Alt"}, {"Julian", JulianCalendar},
     {"Julian", RomanCalendar, "Alt"}, {"Persian", PersianCalendar},      {"Quartane", quartane::Calendar},
-    {"Hebrew", hebrew::Calendar},
+    {"Hebrew", hebrew::Calendar},     {"Chinese", oriental::Calendar},
 };
 
 }  // namespace
