@@ -2,7 +2,6 @@
 
 #include "astro/sun.h"
 #include "astro/year_dates.h"
-#include "calendars/gregorian.h"
 #include "calendars/quartane_year_start.h"
 
 #include <algorithm>
@@ -17,13 +16,6 @@ Moment JumpSolarEvent(Moment from, int direction) {
     std::array<Moment, 4> seasons{0, 90, 180, 270};
     for (Moment& season : seasons) season = SolarLongitudePassage(from, season, direction);
     return direction > 0 ? std::ranges::min(seasons) : std::ranges::max(seasons);
-}
-
-Moment JumpBesselianNewYear(Moment from, int direction) {
-    if (direction > 0) return SolarLongitudePassage(from, besselianLongitude, direction);
-    const std::int32_t year = FixedToGregorianYear(from);
-    const Moment found = SeasonMoment(year, -besselianLongitude);
-    return Floor(from) > Floor(found) ? found : SeasonMoment(year - 1, -besselianLongitude);
 }
 
 /// The whole year next to a date of years. At a new year the date carries the noise of its conversion, up to some
@@ -48,7 +40,7 @@ constexpr EventSearch searches[] = {
     {MenuEvent::QuaLeapCycle, quartane::JumpQuaCycle},
     {MenuEvent::RotationAdjustedNewYear, JumpRAYNewYear},
     {MenuEvent::MeanOrbitalNewYear, JumpOrbitalNewYear},
-    {MenuEvent::BesselianNewYear, JumpBesselianNewYear},
+    {MenuEvent::BesselianNewYear, [](Moment from, int direction) { return SolarLongitudePassage(from, besselianLongitude, direction); }},
     {MenuEvent::SolarEvent, JumpSolarEvent},
     {MenuEvent::NorthwardEquinox, [](Moment from, int direction) { return SolarLongitudePassage(from, 0, direction); }},
     {MenuEvent::NorthSolstice, [](Moment from, int direction) { return SolarLongitudePassage(from, 90, direction); }},

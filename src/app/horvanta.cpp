@@ -51,6 +51,7 @@ void Horvanta::HangHandlers() {
         places.SetUserLocale(slot, place);
         places.UserLoc_Click(slot);
     };
+    userLocales.Forget = [this](std::size_t slot) { places.ForgetUserLocale(slot); };
     for (WindowRow& row : windows) {
         if (row.isThere()) HangWindow(row);
     }
@@ -103,7 +104,9 @@ void Horvanta::LoadWindows() {
 }
 
 void Horvanta::ChooseMoment() {
-    const bool firstRun = DisplayedMoment == 0;
+    SettingsStore& settings = CurrentDesktop->Settings();
+    const bool firstRun =
+        !settings.Read(ProgramSettings, "Item", "RD") && !settings.Read(ProgramSettings, "Item", "SD");
     if (stepping::options.AlwaysToday || firstRun) jumps.MenuJumpToToday_Click();
     if (firstRun) jumps.SaveThisMoment_Click();
     timeAstro.StepMenu_Click(firstRun ? 1 : stepping::options.StepIndex);
@@ -145,6 +148,7 @@ void Horvanta::ResetPrefsAndQuit_Click() {
 }
 
 void Horvanta::ResetColorsAndQuit_Click() {
+    if (userLocales.isDirty() == YesNoCancel::Cancel) return;
     Form_Unload();
     DeleteColorPrefs();
     CurrentDesktop->End();
@@ -157,6 +161,7 @@ void Horvanta::RunUpdatePass() {
             if (row.form.visible && row.*stage) (row.*stage)();
         }
     }
+    jumps.SetAgainCaption();
 }
 
 /// A window that is shown gets the focus; one that is hidden gives it to the time window.

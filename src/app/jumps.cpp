@@ -91,7 +91,8 @@ void Jumps::SetAgainCaption() {
     frame_.JumpAgain.enabled = time_.JumpAgainButton.enabled = known;
     if (!known) return;
     const std::string event =
-        (nextPrevIndex_ < 0 ? "Previous " : "Next ") + RemoveAmpersands(ItemAt(nextPrevIndex_).caption);
+        (nextPrevIndex_ < 0 ? "Previous " : "Next ") +
+        RemoveAmpersands(frame_.NextMenu[static_cast<std::size_t>(std::abs(nextPrevIndex_))].caption);
     frame_.JumpAgain.caption = "Again (" + event + ")";
     time_.JumpAgainButton.tooltip = "Again invoke the \"" + event + "\" command";
 }

@@ -36,10 +36,12 @@ class Jumps {
     /// Repeats the last of them.
     void JumpAgain_Click();
 
+    /// Names the event that Again searches for, by the present caption of its item.
+    void SetAgainCaption();
+
   private:
     void HangSearches();
     void JumpToEvent(std::int32_t index);
-    void SetAgainCaption();
 
     HorvantaMDI& frame_;
     TimeAstro& time_;

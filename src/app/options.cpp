@@ -48,7 +48,7 @@ Options::Options(HorvantaMDI& frame) : frame_(frame) {
     for (std::size_t number = 1; number <= frame_.MapServer.size(); ++number) {
         const auto index = static_cast<std::int32_t>(number);
         frame_.MapServer[number].Shows(web_map::options.MapIndex, index);
-        frame_.MapServer[number].Click = [this, index] { MapServer_Click(index); };
+        if (hasWebMap(index)) frame_.MapServer[number].Click = [this, index] { MapServer_Click(index); };
     }
     MenuItem* const formats[] = {&frame_.SetTempHMM, &frame_.SetTempHourMMM, &frame_.SetTempHourHHH};
     for (std::int32_t format = 1; MenuItem * item : formats) {

@@ -68,7 +68,13 @@ void Places::SetUserLocale(std::size_t slot, const LocaleRecord& place) {
     item.Click = [this, slot] { UserLoc_Click(slot); };
 }
 
-/// The keys of a slot. One without a name was never filled, and is not written.
+void Places::ForgetUserLocale(std::size_t slot) {
+    UserLocales[slot] = {};
+    entries_[slot] = {};
+    frame_.UserLoc[slot].Click = nullptr;
+}
+
+/// The keys of a slot. One without a name holds no place; only that is written, where there was one.
 Settings Places::SlotRows(std::size_t slot) {
     constexpr double highest = 100'000;  // metres
     const std::string section = "User " + std::to_string(slot);
@@ -93,7 +99,11 @@ Settings Places::SlotRows(std::size_t slot) {
                    [this, slot] { return TruthText(isUserLocaleChosen(slot)); }}};
     for (Setting& row : rows) {
         row.application = UserSettings;
-        row.give = [&entry, give = row.give] { return entry.name.empty() ? std::nullopt : give(); };
+        const bool isName = row.key == "Name";
+        row.give = [&entry, section, isName, give = row.give]() -> std::optional<std::string> {
+            const bool emptied = isName && CurrentDesktop->Settings().Read(UserSettings, section, "Name").has_value();
+            return entry.name.empty() && !emptied ? std::nullopt : give();
+        };
     }
     return rows;
 }

@@ -42,6 +42,9 @@ class Places {
     /// Stores a place in a slot of the user's, from 1, and shows it in the menu.
     void SetUserLocale(std::size_t slot, const LocaleRecord& place);
 
+    /// Empties a slot and takes its item out of the menu.
+    void ForgetUserLocale(std::size_t slot);
+
     /// True if the place of a slot is the chosen one.
     bool isUserLocaleChosen(std::size_t slot) { return chosen_ == &frame_.UserLoc[slot]; }
 

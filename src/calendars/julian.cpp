@@ -89,8 +89,8 @@ std::int16_t JulianMonthLength(std::int32_t year, std::int32_t month, bool allow
 
 /// February 29 of a century year that is common in the Gregorian calendar reads as March 1 there; it is told apart from
 /// year 300 on.
-std::int16_t JulianGregDiff(Moment x) {
-    const JulianDate date = FixedToJulianDate(x, false);
+std::int16_t JulianGregDiff(Moment x, bool allowRevised) {
+    const JulianDate date = FixedToJulianDate(x, allowRevised);
     const std::int32_t year = date.year < 0 ? date.year + 1 : date.year;
     const bool isCentury = year >= 300 && year % 100 == 0 && year % 400 != 0;
     const bool isAmiss = isCentury && date.month == 2 && date.day == 29;

@@ -61,8 +61,9 @@ JulianDate FixedToJulianDate(Moment x, bool allowRevised);
 /// Days of a month, 28 to 31.
 std::int16_t JulianMonthLength(std::int32_t year, std::int32_t month, bool allowRevised);
 
-/// How many days the unrevised Julian date of a moment is behind the Gregorian date; negative where it is ahead.
-std::int16_t JulianGregDiff(Moment x);
+/// How many days the Julian date of a moment, which may be a revised one, is behind the Gregorian date; negative where
+/// it is ahead.
+std::int16_t JulianGregDiff(Moment x, bool allowRevised = false);
 
 /// The dominical letters of a year, which may be a revised one.
 std::string JulianDominicalLetters(std::int32_t year);

@@ -184,7 +184,6 @@ constinit const CalendarContract Calendar{.name = "Quartane",
                                           .DateOf = GridDateOf,
                                           .MonthNames = MonthNames,
                                           .DayNames = DayNames,
-                                          .HasYear0 = [] { return !options.LeapRuleKey.starts_with("RJISO"); },
                                           .PresentName = CalendarName};
 
 }  // namespace horvanta::quartane

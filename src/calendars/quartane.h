@@ -82,8 +82,7 @@ std::vector<std::string> EventsOf(const QuaDate& date);
 /// The date of a moment, converted once for each day, numbering, rule and layout.
 const QuaDate& QuaDateOn(Moment x);
 
-/// For month grids: a date in the leap week of a year without one falls back by a week, and the year 0 of the rules by
-/// the Revised Julian calendar, which has none, is stepped over.
+/// For month grids: a date in the leap week of a year without one falls back by a week.
 extern const CalendarContract Calendar;
 
 }  // namespace horvanta::quartane

@@ -98,9 +98,9 @@ std::string CycleMethod(const LeapRule& rule, bool forWebPage) {
            " then the next leap year will be" + lineBreak + "6 years later, otherwise 5 years later.";
 }
 
-/// "365+71/293"
-std::string MeanYearSum(const LeapRule& rule) {
-    return "365+" + std::to_string(rule.ReducedNumerator) + "/" + std::to_string(rule.ReducedDenominator);
+/// "365+71/293", with something around the plus sign if wanted.
+std::string MeanYearSum(const LeapRule& rule, const std::string& plus = "+") {
+    return "365" + plus + std::to_string(rule.ReducedNumerator) + "/" + std::to_string(rule.ReducedDenominator);
 }
 
 std::string CycleExplanation(const LeapRule& rule) {
@@ -112,7 +112,7 @@ std::string CycleExplanation(const LeapRule& rule) {
            std::to_string(rule.LeapNumerator) + " leap years " +
            (CheckIfQuaCycle() == 0 ? "spread as uniformly as possible" : "distributed symmetrically") +
            "\nat 6 or 5 year intervals in " + std::to_string(rule.CycleLength) +
-           " years (modular inverse = " + inverse + ").\n\n" + "The mean year of " + MeanYearSum(rule) +
+           " years (modular inverse = " + inverse + ").\n\n" + "The mean year of " + MeanYearSum(rule, " + ") +
            " days = " + DurationString(rule.MeanYear) + ".";
 }
 

@@ -155,7 +155,7 @@ Moment LinApprox(std::int64_t year, double startYear, double endYear, double sta
     } else {
         days = evenYears(startYear, startFraction) + changingYears(std::fmin(n, endYear) - startYear, startFraction);
     }
-    if (n > endYear) days += evenYears(n - endYear, endFraction);
+    if (n > 0 && n > endYear) days += evenYears(n - endYear, endFraction);
     return GregorianEpoch + offset + days;
 }
 
@@ -191,11 +191,15 @@ Moment JumpNYmoment(Moment from, int direction) {
     const auto newYear = [](std::int64_t year) { return QuaNewYear(year, !isISORule()); };
     const auto isBefore = [](Moment a, Moment b) { return Round(a, 1) < Round(b, 1); };
     const std::int64_t year = FixedToQuaYear(from).year;
-    const Moment present = newYear(year);
-    if (direction < 0) return isBefore(present, from) ? present : newYear(year - 1);
-    if (isBefore(from, present)) return present;
-    const Moment next = newYear(year + 1);
-    return isBefore(from, next) ? next : newYear(year + 2);
+    // a year's moment may lie some days to either side of its first day
+    if (direction < 0) {
+        std::int64_t found = year + 1LL;
+        while (!isBefore(newYear(found), from)) --found;
+        return newYear(found);
+    }
+    std::int64_t found = year;
+    while (!isBefore(from, newYear(found))) ++found;
+    return newYear(found);
 }
 
 Moment JumpQuaCycle(Moment from, int direction) {

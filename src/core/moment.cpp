@@ -7,8 +7,8 @@ namespace {
 
 /// The moment of the same date and time of day after the numbering moved by `shift`.
 Moment Renumbered(Moment x, double shift) {
-    const double timeOfDay = DayFraction(x);
-    return Round(x, 9) - timeOfDay + shift + timeOfDay;
+    constexpr int decimals = 9;  // behind them the day number's own digits leave nothing but noise
+    return Floor(Round(x, decimals)) + shift + Round(DayFraction(x), decimals);
 }
 
 }  // namespace

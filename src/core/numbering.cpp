@@ -15,7 +15,7 @@ void SetFixedDayEpoch(Moment day, double value, const std::string& name) {
 std::int32_t CountKDaysInRange(int k, Moment a, Moment b) {
     const auto [first, last] = std::minmax(a, b);
     const double weeks = Floor((KDayOnOrBefore(k, last) - KDayOnOrAfter(k, first)) / 7);
-    return WholeNumber(weeks + 1);
+    return WholeNumber(std::max(weeks + 1, 0.0));
 }
 
 }  // namespace horvanta

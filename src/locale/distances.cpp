@@ -40,7 +40,8 @@ double OblateDistance(const LocaleRecord& from, const LocaleRecord& to) {
 double DirectionTo(const LocaleRecord& from, const LocaleRecord& to) {
     const double d = to.LongRad - from.LongRad;
     const double b = std::cos(from.LatRad) * std::tan(to.LatRad) - std::sin(from.LatRad) * std::cos(d);
-    return Round(b, 10) == 0 ? Deg(0) : ArcTan2Deg(std::sin(d), b);
+    const double a = std::sin(d);
+    return Round(b, 10) == 0 ? (a > 0 ? 90 : a < 0 ? 270 : 0) : ArcTan2Deg(a, b);
 }
 
 }  // namespace horvanta

@@ -12,8 +12,8 @@ double SphericalDistance(const LocaleRecord& from, const LocaleRecord& to);
 /// 11). 0 for a place to itself and to the point opposite it.
 double OblateDistance(const LocaleRecord& from, const LocaleRecord& to);
 
-/// The true bearing in degrees, clockwise from north, in which one place sees the other. Due east and due west, and a
-/// place seen from itself, come out as 0 where the tangent loses its direction.
+/// The true bearing in degrees, clockwise from north, in which one place sees the other. A place seen
+/// from itself, and the one opposite it, lie at 0.
 double DirectionTo(const LocaleRecord& from, const LocaleRecord& to);
 
 }  // namespace horvanta

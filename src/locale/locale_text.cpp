@@ -54,9 +54,7 @@ std::string DegreeText(double kilometres) {
 
 }  // namespace
 
-std::string_view ScaleName(const LocaleRecord& place) {
-    return DeltaTDisabled ? "Atomic" : place.UseLMT ? "Local Mean" : "Universal";
-}
+std::string_view ScaleName() { return DeltaTDisabled ? "Atomic" : "Universal"; }
 
 std::string CompassPoint(double degrees) {
     constexpr const char* points[] = {"N", "NE", "E", "SE", "S", "SW", "W", "NW", "N"};
@@ -70,12 +68,15 @@ std::string CompassPoint(double degrees) {
     return GeneralText(std::fabs(leftover)) + "° " + neighbour + " of " + points[octant];
 }
 
+std::string ZoneText(double hours, bool toTheSecond) {
+    return std::string(hours < 0 ? "UT-" : "UT+") + FormatTime(HoursToDays(std::fabs(hours)), toTheSecond ? 0 : 2);
+}
+
 std::string LocaleSummary(const LocaleRecord& place) {
     const std::string elevation = !horizon::options.UseElevation ? "ignore elevation"
                                   : place.Elevation == 0         ? "sea level"
-                                                                 : "elevation " + GeneralText(place.Elevation) + "m";
-    const std::string zone =
-        (place.Zone < 0 ? "-" : "+") + FormatTime(HoursToDays(std::fabs(place.Zone)), place.UseLMT ? 0 : 2) + "UT";
+                                                         : "elevation " + GeneralText(Round(place.Elevation, 2)) + "m";
+    const std::string zone = ZoneText(place.Zone, place.UseLMT);
     return place.Location + ":  " + AngleString(std::fabs(place.Latitude)) + (place.North ? "N" : "S") + ", " +
            AngleString(std::fabs(place.Longitude)) + (place.East ? "E" : "W") + ", " + elevation + ", " +
            (place.UseLMT ? "time " : "zone ") + zone;
@@ -150,9 +151,10 @@ constexpr WebMap webMaps[] = {
 
 }  // namespace
 
+bool hasWebMap(std::int32_t index) { return index >= 1 && index <= static_cast<std::int32_t>(std::size(webMaps)); }
+
 std::string MapLink(const LocaleRecord& place, bool html) {
-    if (web_map::options.MapIndex < 1 || web_map::options.MapIndex > static_cast<std::int32_t>(std::size(webMaps)))
-        return "";
+    if (!hasWebMap(web_map::options.MapIndex)) return "";
     const WebMap& map = webMaps[web_map::options.MapIndex - 1];
     const std::string url = "http://" + std::string(map.host) + map.query(place);
     if (!html) return url;

@@ -9,13 +9,15 @@
 /// What is said of places.
 namespace horvanta {
 
-/// What the scale of the displayed moment is called: "Universal", "Local Mean" where the place keeps local mean time,
-/// "Atomic" while Delta T is off.
-std::string_view ScaleName(const LocaleRecord& place = Locale);
+/// What the scale of the displayed moment is called: "Universal", or "Atomic" while Delta T is off.
+std::string_view ScaleName();
 
 /// A direction in degrees by the points of the compass: "True NE" on one of the eight, otherwise how far it lies from
 /// the nearest toward a neighbour, "10° S of E".
 std::string CompassPoint(double degrees);
+
+/// A zone by its hours east of Universal Time, "UT-05:00".
+std::string ZoneText(double hours, bool toTheSecond = false);
 
 /// A place in a line, with its elevation where `UseElevation` counts it, and its zone.
 std::string LocaleSummary(const LocaleRecord& place);
@@ -31,6 +33,9 @@ struct Options {
 };
 inline Options options;
 }  // namespace web_map
+
+/// Whether links to a web map can be made, by its number.
+bool hasWebMap(std::int32_t index);
 
 /// A link to a place on the chosen web map; for web pages with `html` the whole anchor. Empty for a map that has no
 /// form of link.

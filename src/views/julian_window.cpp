@@ -78,7 +78,7 @@ std::string RuleInformation(const RuleWords& rule) {
 std::string Information() {
     const RuleWords& rule = ruleWords[julian::options.Revise];
     return RuleInformation(rule) + "The displayed date " + std::string(TenseWords()) +
-           DifferenceText(JulianGregDiff(DisplayedMoment)) + " the Gregorian Calendar.\n" + CalendarTitle() +
+           DifferenceText(JulianGregDiff(DisplayedMoment, true)) + " the Gregorian Calendar.\n" + CalendarTitle() +
            " is used by " + std::string(rule.users) + "some Orthodox churches.";
 }
 
@@ -89,7 +89,9 @@ std::optional<std::int32_t> AskYearBC(std::string_view title, const julian::Year
                                std::to_string(-choice.latest) + " BC (" + usual + " recommended)";
     const auto answer = CurrentDesktop->AskText(prompt, title, usual);
     if (!answer) return std::nullopt;
-    const double year = -Round(ParseNumber(*answer).value_or(0));
+    const auto number = ParseNumber(*answer);
+    if (!number) return std::nullopt;
+    const double year = -Round(*number);
     if (year >= choice.earliest && year <= choice.latest) return WholeNumber(year);
     CurrentDesktop->Beep();
     return std::nullopt;
@@ -160,7 +162,7 @@ void JulianWindow::Update() {
 /// The difference is told where years are those of the Gregorian calendar too.
 void JulianWindow::ShowCaption() {
     const std::string difference =
-        julian::options.UseAUC ? "" : "(" + DifferenceText(JulianGregDiff(DisplayedMoment)) + " Gregorian) ";
+        julian::options.UseAUC ? "" : "(" + DifferenceText(JulianGregDiff(DisplayedMoment, true)) + " Gregorian) ";
     form.text = JulianCalendarName() + " " + difference + "and Roman";
     TheJulianDate.tooltip = JulianCalendarName() + " date";
 }

@@ -210,7 +210,7 @@ void QuartaneWindow::NameJumps() {
     }
 }
 
-/// Every option moves dates or tells of them, and the focus goes back to where dates are typed.
+/// Every option moves dates or tells of them, and the focus goes back to where dates are typed; lists keep it.
 void QuartaneWindow::Refresh() {
     UpdateStatus();
     frame_.TakeFocus();
@@ -218,12 +218,12 @@ void QuartaneWindow::Refresh() {
 
 void QuartaneWindow::LeapChoice_Click() {
     ChooseLeapRule(LeapChoice.selected);
-    Refresh();
+    UpdateStatus();
 }
 
 void QuartaneWindow::SetStartWeekday() {
     options.StartWeekday = QuaStartOn.selected;
-    Refresh();
+    UpdateStatus();
 }
 
 void QuartaneWindow::SetMonths(bool weeks) {

@@ -45,6 +45,12 @@ struct Jump {
 constexpr Jump jumps[] = {{1, 7}, {7, 4}, {lunarCycle, 12}};
 constexpr double otherJump = 10;
 
+/// What a person reads of the day number; a copy has all its digits.
+std::string DayNumberText() {
+    constexpr int decimals = 6;  // a tenth of a second
+    return GeneralText(Round(DisplayedMoment, decimals));
+}
+
 double StepsOfJump() {
     const auto* jump = std::ranges::find(jumps, Increment, &Jump::increment);
     return jump == std::end(jumps) ? otherJump : jump->steps;
@@ -70,7 +76,9 @@ WindowRow TimeAstro::Row() {
 
 void TimeAstro::HangHandlers() {
     FixedDayNum.LostFocus = [this] { FixedDayNum_LostFocus(); };
-    FixedDayNumLabel.Click = [this] { frame_.CopyToClipboard(FixedDayNum); };
+    FixedDayNumLabel.Click = [this] {
+        frame_.SetClipboardText(FixedDayNum.tooltip + ": " + GeneralText(DisplayedMoment));
+    };
     TimeOfDay.Click = UT.Click = [this] { frame_.SetClipboardText(LocalTimes(DisplayedMoment)); };
     SavedDiffBox.Click = SavedToFrom.Click = [this] { CopySavedDifference(); };
     JumpToPast.Click = [this] { JumpToPast_Click(); };
@@ -129,13 +137,13 @@ Settings TimeAstro::StoredRows() {
     return rows;
 }
 
-/// The words tell on which side of the displayed date the saved one lies.
+/// The words tell on which side of the saved date the displayed one lies.
 void TimeAstro::ShowMoment() {
     const double difference = Round(SavedMoment - DisplayedMoment, 3);
     SavedToFrom.text = std::string("day") + (std::fabs(difference) != 1 ? "s " : " ") +
-                       (difference < 0 ? "before" : "after") + " saved date.";
+                       (difference > 0 ? "before" : "after") + " saved date.";
     SavedDiffBox.text = GeneralText(std::fabs(difference));
-    FixedDayNum.text = GeneralText(DisplayedMoment);
+    FixedDayNum.text = DayNumberText();
     TimeOfDay.text = FormatTime(DisplayedMoment, 0);
     if (toldNumbering_ != NumberingSerial || toldScale_ != ScaleName()) SetFixedDayNumberToolTip();
 }
@@ -250,7 +258,7 @@ void TimeAstro::SetFixedDayNumberToolTip() {
 
 /// A text that was only looked at keeps the moment, digits that it does not show included.
 void TimeAstro::FixedDayNum_LostFocus() {
-    const std::string shown = GeneralText(DisplayedMoment);
+    const std::string shown = DayNumberText();
     const auto day = ParseNumber(FixedDayNum.text);
     if (!day) CurrentDesktop->Beep();
     const bool changed = day && *day != DisplayedMoment && Trimmed(FixedDayNum.text) != shown;

@@ -64,7 +64,7 @@ class TimeAstro {
 
     // clang-format off
     Form form{"TimeAstro", "Time"};
-    TextField FixedDayNum{form, "FixedDayNum", Widest("-2533803.123456789")};
+    TextField FixedDayNum{form, "FixedDayNum", Widest("-2533803.123457")};
     Label FixedDayNumLabel{form, "FixedDayNumLabel", Widest("Local Mean Day Number")};
     Label UT{form, "UT", Widest("Local Mean Time")};
     Label TimeOfDay{form, "TimeOfDay", Widest("00:00:00")};

@@ -82,6 +82,22 @@ std::string SpanText(double days) { return FormatTime(days, 11); }
 
 const char* Hemisphere(double declination) { return declination < 0 ? " S" : " N"; }
 
+double JulianDayShown(Moment universal) {
+    return time_fields::options.ShowsModifiedJulianDay ? MomentToMJD(universal) : MomentToJD(universal);
+}
+
+double YearsShown(Moment universal) {
+    return time_fields::options.ShowsRAYDate ? MomentToRAYDate(universal) : MomentToOrbitalDate(universal);
+}
+
+/// "+14m 17.0s"
+std::string EquationText(double days) {
+    const double tenths = Round(std::fabs(days) * 10 * secondsPerDay);
+    const double minutes = Floor(tenths / 600);
+    return std::string(days < 0 ? "-" : "+") + GeneralText(minutes) + "m " +
+           FormatNumber((tenths - minutes * 600) / 10, "00.0") + "s";
+}
+
 /// Seconds, and the same in days and hours: "195700.5s = 2 days and 06:21:40".
 std::string LongDeltaTText(double seconds) {
     const double size = std::fabs(seconds);
@@ -129,18 +145,20 @@ void TimeFields::HangHandlers() {
     ShowDawnDusk.Click = [this] { ShowDawnDusk_Click(); };
     JD_MJD_Toggle.Click = [this] { JD_MJD_Toggle_Click(); };
     Orbital_RAY_Toggle.Click = [this] { Orbital_RAY_Toggle_Click(); };
-    for (Label* field : {&JD_MJD, &Orbital_RAY_Date, &EoT}) {
-        field->Click = [this, field] { frame_.CopyToClipboard(*field); };
-    }
+    JD_MJD.Click = [this] { Copy(JD_MJD, GeneralText(JulianDayShown(DisplayedMoment))); };
+    Orbital_RAY_Date.Click = [this] { Copy(Orbital_RAY_Date, GeneralText(YearsShown(DisplayedMoment))); };
+    EoT.Click = [this] { Copy(EoT, SignedStr(EquationOfTime(DisplayedMoment) * minutesPerDay) + " minutes"); };
     SunDeclination.Click = [this] {
         const double declination = SolarDeclination(DisplayedMoment);
-        frame_.SetClipboardText(SunDeclination.tooltip + ": " + GeneralText(std::fabs(declination)) + "°" +
-                                Hemisphere(declination));
+        Copy(SunDeclination, GeneralText(std::fabs(declination)) + "°" + Hemisphere(declination));
     };
-    SunLong.Click = [this] {
-        frame_.SetClipboardText(SunLong.tooltip + ": " + GeneralText(SolarLongitude(DisplayedMoment)) + "°");
-    };
+    SunLong.Click = [this] { Copy(SunLong, GeneralText(SolarLongitude(DisplayedMoment)) + "°"); };
     DeltaTdisp.Click = [this] { frame_.SetClipboardText("Delta T: " + LongDeltaTText(DeltaT(DisplayedMoment, 1))); };
+}
+
+/// A value with all its digits, where the field shows those that a person reads.
+void TimeFields::Copy(const Label& field, const std::string& value) {
+    frame_.SetClipboardText(field.tooltip + ": " + value);
 }
 
 /// The three events at the horizon are found once; spans and hours follow from them.
@@ -171,19 +189,18 @@ void TimeFields::ShowAstronomy() {
     SunDeclination.text = FormatNumber(std::fabs(declination), "0.0") + "°" + Hemisphere(declination);
     SunLong.text = FormatNumber(Degrees(Round(SolarLongitude(universal), 1)), "0.0") + "°";
     PostSolarEvents(universal);
-    JD_MJD.text =
-        GeneralText(time_fields::options.ShowsModifiedJulianDay ? MomentToMJD(universal) : MomentToJD(universal));
-    EoT.text = SignedStr(EquationOfTime(universal) * minutesPerDay);
-    DeltaTdisp.text = GeneralText(RoundToDigits(DeltaT(universal, secondsPerDay) * secondsPerDay, deltaTDigits));
+    JD_MJD.text = FormatNumber(JulianDayShown(universal), "0.00000");
+    EoT.text = EquationText(EquationOfTime(universal));
+    DeltaTdisp.text = FormatNumber(DeltaT(universal, 1), "0.0") + " s";
     DeltaTdisp.enabled = !DeltaTDisabled;
 }
 
 /// The date of years, and the beginning of the nearest one if it falls on the day.
 void TimeFields::ShowYears(Moment universal) {
-    const double date = time_fields::options.ShowsRAYDate ? MomentToRAYDate(universal) : MomentToOrbitalDate(universal);
+    const double date = YearsShown(universal);
     const Moment newYear =
         time_fields::options.ShowsRAYDate ? RAYDateToMoment(Round(date)) : OrbitalDateToMoment(Round(date));
-    Orbital_RAY_Date.text = GeneralText(date);
+    Orbital_RAY_Date.text = FormatNumber(date, "0.000000");
     if (Floor(newYear) != Floor(universal)) return;
     AstronomyEvent(newYear, time_fields::options.ShowsRAYDate ? "Rotation-Adjusted New Year" : "Mean Orbital New Year");
 }
@@ -233,7 +250,7 @@ void TimeFields::SetDSTcolour() {
         AdjustDST.tooltip = "Daylight Saving Time disabled";
         return;
     }
-    const bool applies = isDaylightTime(DisplayedMoment);
+    const bool applies = isDaylightTime(UniversalToStandard(DisplayedMoment));
     AdjustDST.colors = applies ? daylightColors : standardColors;
     AdjustDST.tooltip = applies ? "Daylight Saving Time applied for the displayed moment"
                                 : "Standard Time applied for the displayed moment";
@@ -276,21 +293,22 @@ void TimeFields::SetToggles() {
     SetWords(Orbital_RAY_Toggle, Orbital_RAY_Date, yearWords[time_fields::options.ShowsRAYDate]);
 }
 
-/// The moment moves to the other scale, so that it stays the same instant. The conversions are not exact inverses, and
-/// a midnight must not end up just before itself: a moment that was not moved meanwhile gets its old number back.
+/// The moments move to the other scale, so that they stay the same instants. The conversions are not exact inverses,
+/// and a midnight must not end up just before itself: a moment that was not moved meanwhile gets its old number back.
 void TimeFields::UseDeltaT_Click() {
-    if (DeltaTDisabled) {
-        SetDeltaTDisabled(false);
-        const bool unmoved = DisplayedMoment == switchedOff_.terrestrial;
-        DisplayedMoment = unmoved ? switchedOff_.universal : TerrestrialToUniversal(DisplayedMoment);
-        UpdateStatus();
-        return;
+    const bool use = DeltaTDisabled;
+    if (use) SetDeltaTDisabled(false);
+    for (auto& [moment, universal, terrestrial] : switchedOff_) {
+        if (use) {
+            moment = moment == terrestrial ? universal : TerrestrialToUniversal(moment);
+        } else {
+            universal = std::exchange(moment, UniversalToTerrestrial(moment));
+            terrestrial = moment;
+        }
     }
-    switchedOff_ = {DisplayedMoment, UniversalToTerrestrial(DisplayedMoment)};
-    DisplayedMoment = switchedOff_.terrestrial;
-    SetDeltaTDisabled(true);
+    if (!use) SetDeltaTDisabled(true);
     UpdateStatus();
-    CurrentDesktop->Tell(deltaTWarning, "Delta T Disabled");
+    if (!use) CurrentDesktop->Tell(deltaTWarning, "Delta T Disabled");
 }
 
 void TimeFields::UseElevation_Click() {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "core/controls.h"
+#include "core/moment.h"
 #include "core/numerics.h"
 #include "core/preferences.h"
 #include "core/shell.h"
@@ -68,17 +69,17 @@ class TimeFields {
     StatusBar DawnDuskLegends{form, "DawnDuskLegends", Tip("What the times below are"), Widest("Prior Sunset")};
     StatusBar DawnDusk{form, "DawnDusk", Tip("Sunrise and sunset of the displayed day"), Widest("Prior Sunset")};
     Button JD_MJD_Toggle{form, "JD_MJD_Toggle", Widest("Mod Jul Day")};
-    Label JD_MJD{form, "JD_MJD", Widest("-1721425.12345679")};
+    Label JD_MJD{form, "JD_MJD", Widest("-1721425.12346")};
     Button Orbital_RAY_Toggle{form, "Orbital_RAY_Toggle", Widest("Orbital Date")};
-    Label Orbital_RAY_Date{form, "Orbital_RAY_Date", Widest("-0.123456789123456")};
+    Label Orbital_RAY_Date{form, "Orbital_RAY_Date", Widest("-6900.123457")};
     Label SunDecLabel{form, "SunDecLabel", Caption("Declination")};
     Label SunDeclination{form, "SunDeclination", Tip("Solar declination"), Widest("23.4° N")};
     Label SunLongLabel{form, "SunLongLabel", Caption("Solar Longitude")};
     Label SunLong{form, "SunLong", Tip("Solar longitude"), Widest("360.0°")};
     CheckBox UseDeltaT{form, "UseDeltaT", Caption("DeltaT"), Tip("Take account of the slowing of the Earth's rotation")};
-    Label DeltaTdisp{form, "DeltaTdisp", Tip("Delta T = Terrestrial Time – Universal Time, in seconds"), Widest("-195700.5")};
+    Label DeltaTdisp{form, "DeltaTdisp", Tip("Delta T = Terrestrial Time – Universal Time"), Widest("-195700.5 s")};
     Label EoT_Label{form, "EoT_Label", Caption("Equation of Time")};
-    Label EoT{form, "EoT", Tip("Equation of Time = apparent – mean solar time, in minutes"), Widest("+0.00123456789123456")};
+    Label EoT{form, "EoT", Tip("Equation of Time = apparent – mean solar time"), Widest("+700m 59.9s")};
     CheckBox UseElevation{form, "UseElevation", Caption("Elevation"), Tip("Let the elevation lower the horizon")};
     CheckBox AdjustDST{form, "AdjustDST", Caption("Enable Daylight Saving Time")};
     CheckBox ShowDawnDusk{form, "ShowDawnDusk", Caption("Display Sunrise, Sunset ...")};
@@ -87,6 +88,7 @@ class TimeFields {
   private:
     void MakePanels();
     void HangHandlers();
+    void Copy(const Label& field, const std::string& value);
     void ShowYears(Moment universal);
     void PostSolarEvents(Moment universal);
     void AstronomyEvent(Moment universal, const std::string& text);
@@ -94,11 +96,13 @@ class TimeFields {
     HorvantaMDI& frame_;
     const Control& mainField_;
 
-    /// The moment at which Delta T was last switched off, in both scales.
-    struct {
+    /// A moment as it was when Delta T was last switched off, in both scales.
+    struct Switched {
+        Moment& moment;
         Moment universal = NeverMoment;
         Moment terrestrial = NeverMoment;
-    } switchedOff_;
+    };
+    Switched switchedOff_[2] = {{DisplayedMoment}, {SavedMoment}};
 };
 
 }  // namespace horvanta

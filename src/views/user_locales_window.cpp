@@ -50,9 +50,6 @@ bool isSign(int code) {
     return code == KeyPlus || code == KeyMinus || code == KeyNumericPlus || code == KeyNumericMinus;
 }
 
-/// What a slot becomes that is applied without a word.
-LocaleRecord ClearedPlace(std::size_t number) { return MakeLocale(SlotName(number), "", 0, 0, 0); }
-
 }  // namespace
 
 UserLocalesWindow::UserLocalesWindow(HorvantaMDI& frame)
@@ -172,7 +169,7 @@ UserLocalesWindow::Entry UserLocalesWindow::EntryOf(const LocaleRecord& place) {
 
 UserLocalesWindow::Entry UserLocalesWindow::EntryOfSlot() const {
     const LocaleRecord& place = UserLocales[slot];
-    return isClear(slot) || place == ClearedPlace(slot) ? Entry() : EntryOf(place);
+    return isClear(slot) ? Entry() : EntryOf(place);
 }
 
 UserLocalesWindow::Entry UserLocalesWindow::Entered() const {
@@ -288,20 +285,22 @@ double UserLocalesWindow::SizeOfAngle(std::size_t first) const {
 double UserLocalesWindow::LongitudeEntered() const { return SizeOfAngle(LongitudeFields) * (west_ ? -1 : 1); }
 
 /// Steps of an angle carry over to its other fields, and end at the equator or the pole, the prime meridian or the one
-/// opposite.
+/// opposite; those of degrees keep the minutes and seconds down there.
 void UserLocalesWindow::Step(std::size_t index, double count) {
     TakeField(index);
-    const auto& [field, least, greatest, good] = fields_[index];
+    const auto& [field, lowest, greatest, good] = fields_[index];
     if (index < ElevationField) {
         const std::size_t first = index - index % 3;
-        const double stepped = SizeOfAngle(first) * 3600 + count * unitsInSeconds[index % 3];
-        ShowAngle(first, std::clamp(stepped, 0.0, fields_[first].greatest * 3600));
+        const double size = SizeOfAngle(first) * 3600;
+        const double stepped = size + count * unitsInSeconds[index % 3];
+        const double least = index == first ? Modulo(size, 3600) : 0;
+        ShowAngle(first, std::clamp(stepped, least, fields_[first].greatest * 3600));
     } else if (index == ElevationField) {
         const double step = inFeet_ ? FeetToMeters(count) : count;
-        elevation_ = std::clamp(elevation_.value_or(0) + step, least, greatest);
+        elevation_ = std::clamp(elevation_.value_or(0) + step, lowest, greatest);
         ShowElevation();
     } else {
-        Write(index, FieldText(std::clamp(ValueOf(index) + count, least, greatest)));
+        Write(index, FieldText(std::clamp(ValueOf(index) + count, lowest, greatest)));
     }
 }
 
@@ -375,7 +374,7 @@ void UserLocalesWindow::GuessZone_Click() {
 bool UserLocalesWindow::isZoneMeant() const {
     const double ideal = ZoneFromLongitude(LongitudeEntered());
     const double difference = std::fabs(ValueOf(ZoneField) - ideal);
-    if (TimeZone.text.empty() || difference < suspectDifference) return true;
+    if (useLMT_ || TimeZone.text.empty() || difference < suspectDifference) return true;
     return CurrentDesktop->AskYesNo("Time Zone differs by " + GeneralText(difference) + " hours from ideal " +
                                         GeneralText(ideal) +
                                         " based on Longitude.\n\n"
@@ -408,8 +407,8 @@ void UserLocalesWindow::CancelLoc_Click() {
 }
 
 void UserLocalesWindow::ClearLoc_Click() {
-    Show(Entry());
-    ApplyLoc_Click();
+    Forget(slot);
+    ShowSlot(slot);
 }
 
 /// By the long name, which tells whether the place lies in Israel.

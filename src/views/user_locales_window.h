@@ -23,10 +23,10 @@ class UserLocalesWindow {
     /// What the program has to know of it.
     WindowRow Row();
 
-    /// Shows the place of a slot, from 1; one that is clear, or was cleared, as empty fields.
+    /// Shows the place of a slot, from 1; one that is clear as empty fields.
     void ShowSlot(std::size_t number);
 
-    /// True if nothing has ever been stored in the slot.
+    /// True if the slot holds no place.
     static bool isClear(std::size_t number) { return UserLocales[number].Name.empty(); }
 
     /// Where the fields differ from the slot, asks whether to apply them, and does so or gives them up. `Cancel` means
@@ -52,6 +52,9 @@ class UserLocalesWindow {
 
     /// Stores a place in a slot and makes it current.
     std::function<void(std::size_t number, const LocaleRecord& place)> Choose;
+
+    /// Empties a slot; the current place stays, whether it came from there or not.
+    std::function<void(std::size_t number)> Forget;
 
     std::size_t slot = 1;  ///< The one that is edited.
 

@@ -177,11 +177,28 @@ TEST(FixedDayNum, KeepsDigitsItDoesNotShow) {
     EXPECT_EQ(DisplayedMoment, exact);
 }
 
+/// Day 0 is a day like others: who leaves on it finds the saved moment again.
+TEST(Start, AfterLeavingOnDay0IsNoFirstRun) {
+    StoredSettings left;
+    {
+        Desk desk;
+        desk.Obey("set DisplayedMoment 1000");
+        desk.Obey("menu SaveThisMoment");
+        desk.Obey("set DisplayedMoment 0");
+        desk.Obey("menu AlwaysToday");
+        desk.Obey("menu MenuExit");
+        left = desk.desktop.settings.flushed;
+    }
+    const Desk desk(left);
+    EXPECT_EQ(DisplayedMoment, 0);
+    EXPECT_EQ(SavedMoment, 1000);
+}
+
 TEST(SavedMoment, IsToldByItsDistance) {
     constexpr std::tuple<double, const char*, const char*> rows[] = {
         {8415, "0", "days after saved date."},
-        {8416, "1", "day before saved date."},
-        {8414.5, "0.5", "days after saved date."},
+        {8416, "1", "day after saved date."},
+        {8414.5, "0.5", "days before saved date."},
         {8415.0004, "0", "days after saved date."},
     };
     Desk desk;

@@ -5,6 +5,7 @@
 #include "astro/sun.h"
 #include "astro/timescales.h"
 #include "calendars/gregorian.h"
+#include "calendars/quartane_options.h"
 #include "core/moment.h"
 #include "core/text.h"
 #include "desk.h"
@@ -50,6 +51,20 @@ TEST(Events, FindThePerihelion) {
     EXPECT_NEAR(found, GregorianToFixed(2024, 1, 3), 2);
     EXPECT_NEAR(ModuloRange(MeanSolarAnomaly(found), -180, 180), 0, 1e-6);
     EXPECT_NEAR(FindEventSearch(MenuEvent::MeanAphelion)->jump(found, 1) - found, 182.63, 0.01);
+}
+
+/// The event just passed is the previous one, on whichever side of a year's first day it fell.
+TEST(Events, GoBackToTheOneJustPassed) {
+    quartane::options = {.LeapRuleKey = "NE80", .QuaSoupMix = true};
+    for (const MenuEvent event : {MenuEvent::BesselianNewYear, MenuEvent::QuaNewYearMoment}) {
+        const auto jump = FindEventSearch(event)->jump;
+        for (std::int32_t year = 1990; year < 2050; ++year) {
+            const Moment found = jump(GregorianToFixed(year, 6, 1), 1);
+            for (const double later : {0.3, 1.0, 3.0, 200.0}) {
+                EXPECT_NEAR(jump(found + later, -1), found, 1e-4) << year << " " << later;
+            }
+        }
+    }
 }
 
 TEST(Again, RepeatsTheLastEvent) {

@@ -35,6 +35,7 @@ const Law laws[] = {
     {"Vietnamese", oriental::Calendar, [] { oriental::options.OrientVariant = oriental::Vietnamese; }},
     {"Quartane", quartane::Calendar},
     {"Quartane by the ISO year", quartane::Calendar, [] { quartane::options.LeapRuleKey = "ISOalt"; }},
+    {"Quartane by the Revised Julian year", quartane::Calendar, [] { quartane::options.LeapRuleKey = "RJISO"; }},
     {"Quartane by days", quartane::Calendar, [] { quartane::options.Qua454 = false; }},
     {"Quartane from Friday", quartane::Calendar,
      [] { quartane::options = {.LeapRuleKey = "41/231", .StartWeekday = 5, .QuarterStructure = "SSL"}; }},

@@ -150,6 +150,9 @@ TEST_F(JulianWindowTest, ShowsTheDateInEveryCount) {
     EXPECT_EQ(desk_.Obey("events"), R"("Roman" "kalendas Ianuarius 1 PUC" "Kalends")");
     desk_.Obey("press PageDown");
     EXPECT_EQ(desk_.Obey("events"), "none");
+    desk_.Obey("click Julian.UseAUC");
+    Show(2024, 1, 2);
+    EXPECT_EQ(window_.form.text, "Revised Julian (equal to Gregorian) and Roman");
 }
 
 TEST_F(JulianWindowTest, CopiesWhatIsClicked) {

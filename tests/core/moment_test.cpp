@@ -82,6 +82,16 @@ TEST_F(MomentTest, KeepsDatesTimesAndWeekdaysUnderEveryNumbering) {
     EXPECT_EQ(FixedToGregorianDate(DisplayedMoment).day, 16);
 }
 
+/// A time of day of two digits stays one of two digits.
+TEST_F(MomentTest, TakesNoNoiseFromANewNumbering) {
+    for (const double fraction : {0.96, 0.1, 0.3, 0.999999999}) {
+        ChangeFixedDayEpoch(GregorianEpoch, 1, "rata die");
+        DisplayedMoment = 738900 + fraction;
+        ChangeFixedDayEpoch(738899, 1, "test");
+        EXPECT_EQ(DisplayedMoment, 2 + fraction);
+    }
+}
+
 TEST(KDays, LieWithinAWeekOnTheirSide) {
     for (int k = 0; k < 7; ++k) {
         for (Moment x = 738900.25; x < 738907; ++x) {
@@ -98,6 +108,7 @@ TEST(KDays, LieWithinAWeekOnTheirSide) {
     EXPECT_EQ(CountKDaysInRange(1, 738900, 738900), 1);
     EXPECT_EQ(CountKDaysInRange(1, 738914, 738900), 3);
     EXPECT_EQ(CountKDaysInRange(0, 738900, 738905), 0);
+    EXPECT_EQ(CountKDaysInRange(3, 738901.25, 738901.75), 0);
 }
 
 }  // namespace

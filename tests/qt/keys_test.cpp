@@ -148,6 +148,7 @@ class KeysTest final : public QObject {
             }
             window.Click("Cancel");
             for (const Qt::Key key : {Qt::Key_Tab, Qt::Key_Escape, Qt::Key_PageUp, Qt::Key_Space}) window.Press(key);
+            window.Click("FixedDayNum");
         };
         const Moment before = DisplayedMoment;
         for (int rounds = 0; rounds < 2; ++rounds) {

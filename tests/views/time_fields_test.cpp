@@ -32,16 +32,19 @@ TEST_F(TimeFieldsTest, SwitchDeltaTOffAndOnAtTheSameInstant) {
     for (const Moment moment : {-2533803.0, -1.25, 500'000.0, 730120.5, 739000.0, 1'500'000.0, 4'000'000.0}) {
         Show(moment);
         desk.Obey("asked");
+        const Moment saved = SavedMoment;
         desk.Obey("click TimeAstro.UseDeltaT");
         EXPECT_NE(DisplayedMoment, moment);
+        EXPECT_NEAR(SavedMoment, saved + 75.0 / 86400, 3.0 / 86400);
         EXPECT_EQ(DeltaT(moment, 1), 0);
-        EXPECT_EQ(fields.DeltaTdisp.text, "0");
+        EXPECT_EQ(fields.DeltaTdisp.text, "0.0 s");
         EXPECT_FALSE(fields.DeltaTdisp.enabled);
         EXPECT_EQ(desk.program.timeAstro.UT.text, "Atomic Time");
         EXPECT_EQ(desk.Obey("asked").substr(0, 28), "box \"Delta T Disabled\" \"WARN") << moment;
         const Moment atomic = DisplayedMoment;
         desk.Obey("click TimeAstro.UseDeltaT");
         EXPECT_EQ(DisplayedMoment, moment);
+        EXPECT_EQ(SavedMoment, saved);
         EXPECT_EQ(UniversalToTerrestrial(moment), atomic);
 
         desk.Obey("click TimeAstro.UseDeltaT");
@@ -169,12 +172,29 @@ TEST_F(TimeFieldsTest, PostTheNewYearOfTheDateThatIsShown) {
     }
 }
 
+TEST_F(TimeFieldsTest, ShowWhatAPersonReadsAndCopyAllDigits) {
+    Show(739000.123456789);
+    const std::pair<const Control*, const char*> shown[] = {
+        {&desk.program.timeAstro.FixedDayNum, "739000.123457"},
+        {&fields.JD_MJD, "2460424.62346"},
+        {&fields.Orbital_RAY_Date, "2024.312576"},
+        {&fields.EoT, "+1m 52.9s"},
+        {&fields.DeltaTdisp, "74.1 s"},
+    };
+    for (const auto& [control, text] : shown) EXPECT_EQ(control->text, text) << control->name;
+    desk.Obey("click TimeAstro.EoT");
+    EXPECT_EQ(desk.program.timeAstro.ClipBoardStatus.text.substr(0, 56),
+              "Equation of Time = apparent – mean solar time: +1.8814");
+    desk.Obey("press Enter");  // a number that was only looked at keeps its digits
+    EXPECT_EQ(DisplayedMoment, 739000.123456789);
+}
+
 TEST_F(TimeFieldsTest, CopyWhatIsClicked) {
     constexpr std::pair<const char*, const char*> rows[] = {
         {"TimeAstro.TimeOfDay", "Universal Time 06:00:00, DST 09:00:00, Local Mean 08:20:56, Local Apparent 08:15:00"},
         {"TimeAstro.JD_MJD", "Julian Day number since Nov 24, -4713 (Gregorian) at Noon: 2460505.75"},
         {"TimeAstro.DeltaTdisp", "Delta T: 74.188s = 00:01:14"},
-        {"TimeAstro.SavedDiffBox", "181.25 days before saved date. = 181 days 06:00:00"},
+        {"TimeAstro.SavedDiffBox", "181.25 days after saved date. = 181 days 06:00:00"},
         {"TimeAstro.FixedDayNumLabel",
          "Universal Days relative to day 1 on Monday, January 1, 1 (Gregorian) at Midnight: 739081.25"},
     };

@@ -137,15 +137,23 @@ TEST_F(UserLocalesWindowTest, AskBeforeChangesAreLeftBehind) {
     EXPECT_FALSE(window.form.visible);
 }
 
+TEST_F(UserLocalesWindowTest, KeepMinutesWhereDegreesEnd) {
+    Obey({"type User.LatDeg 1", "type User.LatMin 30", "click User.LatDegUpDown down", "click User.LatDegUpDown down"});
+    EXPECT_EQ(window.LatDeg.text + " " + window.LatMin.text, "0 30");
+    Obey({"click User.UseLMT", "type User.TimeZone 12", "asked", "click User.ApplyLoc"});
+    EXPECT_EQ(desk.Obey("asked").find("Check Time Zone"), std::string::npos);
+}
+
 TEST_F(UserLocalesWindowTest, ClearASlotForGood) {
     Enter("LocName", "Ur");
     Obey({"click User.ApplyLoc", "click User.ClearLoc", "asked", "menu SetUserLoc"});
-    EXPECT_EQ(Locale, MakeLocale("User 1", "", 0, 0, 0));
+    EXPECT_EQ(Locale.Name, "Ur");  // the current place stays
+    EXPECT_FALSE(desk.program.frame.UserLoc[1].isShown());
     EXPECT_EQ(desk.Obey("asked"), "none");
     Obey({"menu MenuExit"});
     Desk again(desk.desktop.settings.flushed);
     EXPECT_EQ(again.program.userLocales.LocName.text + again.program.userLocales.LatDeg.text, "");
-    EXPECT_TRUE(again.program.frame.UserLoc[1].isTicked());
+    EXPECT_FALSE(again.program.frame.UserLoc[1].isShown());
 }
 
 TEST_F(UserLocalesWindowTest, CopyPlacesAsTheyAre) {

@@ -113,7 +113,8 @@ std::vector<DeskFunction> CalendarFunctions() {
         Row("JulianToFixed", JulianToFixed),
         Row("FixedToJulianDate", FixedToJulianDate),
         Row("JulianMonthLength", JulianMonthLength),
-        Row("JulianGregDiff", JulianGregDiff),
+        Row(
+            "JulianGregDiff", +[](Moment x) { return JulianGregDiff(x); }),
         Row("JulianDominicalLetters", JulianDominicalLetters),
         Row("JulianYearString", JulianYearString),
         Row("FixedToJulianShortDate", FixedToJulianShortDate),
