@@ -37,13 +37,13 @@ struct AngleSearch {
     double daysPerDegree;    ///< At its mean rate.
     double reach;            ///< Days to both sides of the mean arrival at which the search begins.
     double width;            ///< Days at which it ends.
-    double doubt = 0.00003;  ///< Days; covers the jumps of Delta T from one polynomial to the next.
+    double doubt = 0.000015;  ///< Days; covers the jumps of Delta T from one polynomial to the next.
 };
 
 /// When an angle comes to some degrees within a bracket: the first step goes by the mean rate, the others are secants.
 template <class Angle>
 Moment ArrivalNear(const Bracket& bracket, Moment first, double degrees, double daysPerDegree, const Angle& angle) {
-    constexpr double close = 0.002;  // days: a secant of this step ends far closer than a doubt
+    constexpr double close = 0.0005;  // days: a secant of this step ends far closer than a doubt
     const auto degreesPast = [&](Moment x) { return ModuloRange(angle(x) - degrees, -180, 180); };
     Moment before = first;
     double pastBefore = degreesPast(before);

@@ -130,14 +130,17 @@ Equatorial ToEquator(double longitude, double latitude, double obliquity) {
 }
 
 Equatorial PositionAt(Moment universal) {
-    return ToEquator(Longitude(universal), Latitude(universal), Obliquity(universal));
+    static Memo<1, double, Equatorial> memo;
+    const double centuries = JulianCenturies(universal);
+    return memo.Of(centuries,
+                   [=] { return ToEquator(Longitude(universal), Latitude(universal), ObliquityAt(centuries)); });
 }
 
 double ParallaxAt(double altitude, double distance) {
     return ArcSinDeg(EquatorialRadius * CosDeg(altitude) / distance);
 }
 
-double HourAngle(double siderealDegrees, double rightAscension, const LocaleRecord& place) {
+double HourAngleAt(double siderealDegrees, double rightAscension, const LocaleRecord& place) {
     return Degrees(place.Longitude + siderealDegrees - rightAscension);
 }
 
@@ -167,9 +170,13 @@ double Distance(Moment universal) {
 double Declination(Moment universal) { return PositionAt(universal).declination; }
 double RightAscension(Moment universal) { return PositionAt(universal).rightAscension; }
 
+double HourAngle(Moment universal, const LocaleRecord& place) {
+    return HourAngleAt(ApparentSiderealDegrees(universal), RightAscension(universal), place);
+}
+
 double Altitude(Moment universal, const LocaleRecord& place) {
     const auto [rightAscension, declination] = PositionAt(universal);
-    const double hourAngle = HourAngle(ApparentSiderealDegrees(universal), rightAscension, place);
+    const double hourAngle = HourAngleAt(ApparentSiderealDegrees(universal), rightAscension, place);
     const double altitude = ArcSinDeg(std::sin(place.LatRad) * SinDeg(declination) +
                                       std::cos(place.LatRad) * CosDeg(declination) * CosDeg(hourAngle));
     return ModuloRange(altitude, -180, 180);
@@ -191,7 +198,7 @@ double ObservedAltitude(Moment universal, const LocaleRecord& place) {
 
 double Bearing(Moment universal, const LocaleRecord& place) {
     const auto [rightAscension, declination] = PositionAt(universal);
-    const double hourAngle = HourAngle(SiderealDegrees(universal), rightAscension, place);
+    const double hourAngle = HourAngleAt(SiderealDegrees(universal), rightAscension, place);
     const double x = CosDeg(hourAngle) * std::sin(place.LatRad) - TanDeg(declination) * std::cos(place.LatRad);
     return Degrees(ArcTan2Deg(SinDeg(hourAngle), x) + 180);
 }
@@ -226,7 +233,7 @@ double BrightLimbAngle(Moment universal) {
 
 double ParallacticAngle(Moment universal, const LocaleRecord& place) {
     const auto [rightAscension, declination] = PositionAt(universal);
-    const double hourAngle = HourAngle(ApparentSiderealDegrees(universal), rightAscension, place);
+    const double hourAngle = HourAngleAt(ApparentSiderealDegrees(universal), rightAscension, place);
     return ArcTan2Deg(std::cos(place.LatRad) * SinDeg(hourAngle),
                       std::sin(place.LatRad) * CosDeg(declination) -
                           std::cos(place.LatRad) * SinDeg(declination) * CosDeg(hourAngle));

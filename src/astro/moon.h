@@ -19,6 +19,9 @@ double Distance(Moment universal);
 double Declination(Moment universal);
 double RightAscension(Moment universal);
 
+/// How far the Moon is past the meridian of a place, in [0, 360).
+double HourAngle(Moment universal, const LocaleRecord& place = Locale);
+
 /// Above the horizon of a place, as the Earth's centre would see it: without parallax and refraction.
 double Altitude(Moment universal, const LocaleRecord& place = Locale);
 

@@ -1,6 +1,8 @@
+#include "astro/crescents.h"
 #include "astro/local_time.h"
 #include "astro/lunar_phases.h"
 #include "astro/moon.h"
+#include "astro/moon_events.h"
 #include "astro/sidereal.h"
 #include "astro/sun.h"
 #include "astro/sun_events.h"
@@ -99,6 +101,7 @@ std::vector<DeskFunction> AstroFunctions() {
         Row("lunar::Distance", lunar::Distance),
         Row("lunar::Declination", lunar::Declination),
         Row("lunar::RightAscension", lunar::RightAscension),
+        PlaceRow("lunar::HourAngle", lunar::HourAngle),
         PlaceRow("lunar::Altitude", lunar::Altitude),
         PlaceRow("lunar::Parallax", lunar::Parallax),
         PlaceRow("lunar::TopocentricAltitude", lunar::TopocentricAltitude),
@@ -143,6 +146,18 @@ std::vector<DeskFunction> AstroFunctions() {
         Row("RASCtoJ2K_Lunation", RASCtoJ2K_Lunation),
         Row("JumpMeanNewMoon", JumpMeanNewMoon),
         Row("NumberedLunation", LunationByName),
+        PlaceRow("Moonrise", Moonrise),
+        PlaceRow("Moonset", Moonset),
+        PlaceRow("VisibleCrescent", VisibleCrescent),
+        PlaceRow("VisibleOldCrescent", VisibleOldCrescent),
+        PlaceRow("VisibleCrescentSearch", VisibleCrescentSearch),
+        PlaceRow("VisibleOldCrescentSearch", VisibleOldCrescentSearch),
+        PlaceRow("VisibleCrescentBefore", VisibleCrescentBefore),
+        PlaceRow("VisibleCrescentAfter", VisibleCrescentAfter),
+        PlaceRow("VisibleOldCrescentBefore", VisibleOldCrescentBefore),
+        PlaceRow("VisibleOldCrescentAfter", VisibleOldCrescentAfter),
+        PlaceRow("CrescentPassage", CrescentPassage),
+        PlaceRow("OldCrescentPassage", OldCrescentPassage),
     };
 }
 

@@ -1,3 +1,4 @@
+#include "clock/moon_clock.h"
 #include "clock/zone_time.h"
 #include "desk_rows.h"
 
@@ -11,6 +12,9 @@ std::vector<DeskFunction> ClockFunctions() {
         PlaceRow("StandardToDaylight", StandardToDaylight),
         PlaceRow("DaylightToStandard", DaylightToStandard),
         Row("DaylightSwitchText", DaylightSwitchText),
+        PlaceRow("MoonriseDST", MoonriseDST),
+        PlaceRow("MoonsetDST", MoonsetDST),
+        PlaceRow("lunar::Azimuth", lunar::Azimuth),
     };
 }
 

@@ -1,0 +1,95 @@
+#include "astro/crescents.h"
+
+#include "astro/local_time.h"
+#include "astro/lunar_phases.h"
+#include "astro/moon.h"
+#include "astro/sun_events.h"
+#include "calendars/gregorian.h"
+#include "core/numbering.h"
+#include "locale/presets.h"
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+
+namespace horvanta {
+namespace {
+
+/// The walk of the new moons from 1900 to 2100 by so many lunations, and the days from each to its first dusk and its
+/// last dawn at Jerusalem.
+TEST(Crescents, ComeOnceALunation) {
+    const LocaleRecord place = PresetLocale("Jerusalem");
+    for (std::int64_t n = FirstNewMoonOf2000 - 1236; n < FirstNewMoonOf2000 + 1237; n += 3) {
+        const Moment newMoon = UniversalToStandard(NthNewMoon(n), place);
+        const Moment first = VisibleCrescentAfter(newMoon, place);
+        const Moment last = VisibleOldCrescentBefore(newMoon, place);
+        SCOPED_TRACE(FixedToGregorianString(newMoon));
+        EXPECT_EQ(first, Dusk(first, 4.5, place));
+        EXPECT_EQ(last, Dawn(last, 4.5, place));
+        EXPECT_GT(first - newMoon, 0.5);
+        EXPECT_LT(first - newMoon, 3);
+        EXPECT_GT(newMoon - last, 0.5);
+        EXPECT_LT(newMoon - last, 3);
+        EXPECT_GT(VisibleCrescent(first, place), 10.59);
+        EXPECT_EQ(VisibleCrescent(first - 1, place), 0) << "it is the first";
+        EXPECT_GT(VisibleCrescent(first + 1, place), VisibleCrescent(first, place)) << "it grows";
+        EXPECT_EQ(VisibleOldCrescent(last + 1, place), 0) << "it is the last";
+        EXPECT_EQ(VisibleOldCrescent(first, place), 0);
+        EXPECT_EQ(VisibleCrescent(last, place), 0);
+    }
+}
+
+/// What each search finds from a moment of a lunation, counted in lunations from that one.
+TEST(Crescents, AreFoundFromEveryDayOfTheMonth) {
+    const LocaleRecord place = PresetLocale("Jerusalem");
+    const std::int64_t n = ApproxNthMoon(GregorianToFixed(2025, 6, 1));
+    const auto first = [&](int k) {
+        return VisibleCrescentAfter(UniversalToStandard(NthNewMoon(n + k), place), place);
+    };
+    const auto last = [&](int k) {
+        return VisibleOldCrescentBefore(UniversalToStandard(NthNewMoon(n + k), place), place);
+    };
+    for (double x = first(0) + 0.3; x < last(1) - 0.3; x += 1) {
+        const bool seesFirst = VisibleCrescent(x, place) > 0;
+        const bool seesLast = VisibleOldCrescent(x, place) > 0;
+        SCOPED_TRACE(testing::Message() << x - first(0) << (seesFirst ? " sees first" : seesLast ? " sees last" : ""));
+        EXPECT_EQ(VisibleCrescentBefore(x, place), first(0));
+        EXPECT_EQ(VisibleCrescentAfter(x, place), first(1));
+        EXPECT_EQ(VisibleOldCrescentAfter(x, place), last(1));
+        EXPECT_EQ(VisibleOldCrescentBefore(x, place), last(0));
+        const Moment universal = StandardToUniversal(x, place);
+        EXPECT_EQ(CrescentPassage(universal, -1, place), StandardToUniversal(first(0), place));
+        EXPECT_EQ(CrescentPassage(universal, 1, place), StandardToUniversal(first(1), place));
+        EXPECT_EQ(OldCrescentPassage(universal, -1, place), StandardToUniversal(last(0), place));
+        EXPECT_EQ(OldCrescentPassage(universal, 1, place), StandardToUniversal(last(1), place));
+    }
+    const Moment dark = (last(1) + first(1)) / 2;
+    EXPECT_EQ(VisibleCrescentBefore(dark, place), first(0));
+    EXPECT_EQ(VisibleCrescentAfter(dark, place), first(1));
+    EXPECT_EQ(VisibleOldCrescentAfter(dark, place), last(2));
+    EXPECT_EQ(VisibleOldCrescentBefore(dark, place), last(1));
+    const Moment event = StandardToUniversal(first(1), place);
+    EXPECT_EQ(CrescentPassage(event, 1, place), StandardToUniversal(first(2), place)) << "strictly after";
+    EXPECT_EQ(CrescentPassage(event, -1, place), StandardToUniversal(first(0), place)) << "strictly before";
+    EXPECT_EQ(VisibleCrescentSearch(Floor(first(1)) - 4, 1, place), first(1));
+    EXPECT_EQ(VisibleCrescentSearch(Floor(first(1)) - 6, 1, place), NeverMoment) << "five dates, not six";
+    EXPECT_EQ(VisibleOldCrescentSearch(Floor(last(1)) + 4, -1, place), last(1));
+}
+
+/// Far north there is no dusk in summer, and the Moon of other months stays too low for five evenings.
+TEST(Crescents, StayAwayInPolarSummers) {
+    const LocaleRecord north = MakeLocale("test", "", 70, 20, 0);
+    const FixedDay june = GregorianToFixed(2025, 6, 10);
+    EXPECT_EQ(VisibleCrescent(june, north), NeverMoment);
+    EXPECT_EQ(VisibleOldCrescent(june, north), NeverMoment);
+    EXPECT_EQ(VisibleCrescentAfter(june, north), NeverMoment);
+    EXPECT_EQ(VisibleOldCrescentBefore(june, north), NeverMoment);
+    const Moment next = CrescentPassage(june, 1, north);
+    const Moment last = CrescentPassage(june, -1, north);
+    EXPECT_NEAR(next - june, 200, 100);
+    EXPECT_NEAR(june - last, 80, 60);
+    EXPECT_EQ(CrescentPassage(june, 1, MakeLocale("test", "", 90, 0, 0)), NeverMoment);
+}
+
+}  // namespace
+}  // namespace horvanta

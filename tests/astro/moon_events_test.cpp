@@ -1,0 +1,132 @@
+#include "astro/moon_events.h"
+
+#include "astro/local_time.h"
+#include "astro/moon.h"
+#include "astro/sun_events.h"
+#include "calendars/gregorian.h"
+#include "core/numbering.h"
+#include "locale/presets.h"
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <cstdlib>
+
+namespace horvanta {
+namespace {
+
+LocaleRecord PlaceAt(double latitude, double longitude = 35, double elevation = 0) {
+    return MakeLocale("test", "", latitude, longitude, elevation, {}, true);
+}
+
+struct Crossings {
+    Moment rise = NeverMoment;
+    Moment set = NeverMoment;
+};
+
+/// The first rise and set of a day by looking at the altitude every so many minutes. Standard time.
+Crossings ByLooking(FixedDay day, const LocaleRecord& place, int minutes) {
+    const Moment midnight = StandardToUniversal(day, place);
+    const double step = minutes / 1440.0;
+    Crossings found;
+    double before = lunar::ObservedAltitude(midnight, place);
+    for (Moment x = midnight; x < midnight + 1; x += step) {
+        const double after = lunar::ObservedAltitude(x + step, place);
+        const Moment crossing = UniversalToStandard(x + step * before / (before - after), place);
+        if (before <= 0 && after > 0 && isNever(found.rise)) found.rise = crossing;
+        if (before > 0 && after <= 0 && isNever(found.set)) found.set = crossing;
+        before = after;
+    }
+    return found;
+}
+
+/// No day has a wrong "never", nor a time of the day before or after.
+TEST(MoonEvents, MissNoDay) {
+    const double stride = std::getenv("HORVANTA_EVERY_DAY") ? 1 : 97;
+    for (const double latitude : {0.0, 31.8, -45.0, 60.0, -60.0}) {
+        const LocaleRecord place = PlaceAt(latitude, latitude * 2, 400);
+        for (FixedDay day = GregorianToFixed(1900, 1, 1); day < GregorianToFixed(2100, 1, 1); day += stride) {
+            const auto [rise, set] = ByLooking(day, place, 30);
+            SCOPED_TRACE(testing::Message() << FixedToGregorianString(day) << " at " << latitude);
+            for (const auto& [found, looked] :
+                 {std::pair(Moonrise(day, place), rise), {Moonset(day + 0.7, place), set}}) {
+                const double edge = std::fabs(looked - Round(looked));  // where a second may change the day
+                if (!isNever(looked) && edge < 0.0005) continue;
+                EXPECT_EQ(isNever(found), isNever(looked));
+                if (isNever(found)) continue;
+                EXPECT_NEAR((found - looked) * 1440, 0, 1.5);
+                EXPECT_EQ(Floor(found), day);
+            }
+        }
+    }
+}
+
+/// Each month has one day without a moonrise, and as many moonrises as moonsets.
+TEST(MoonEvents, ComeOncePerLunarDay) {
+    const LocaleRecord place = PresetLocale("Jerusalem");
+    int rises = 0;
+    int sets = 0;
+    Moment last = NeverMoment;
+    for (FixedDay day = GregorianToFixed(2023, 1, 1); day < GregorianToFixed(2026, 1, 1); ++day) {
+        const Moment rise = Moonrise(day, place);
+        sets += !isNever(Moonset(day, place));
+        if (isNever(rise)) continue;
+        ++rises;
+        EXPECT_TRUE(isNever(last) || std::fabs(rise - last - 1.035) < 0.02) << FixedToGregorianString(day);
+        last = rise;
+        EXPECT_NEAR(lunar::ObservedAltitude(StandardToUniversal(rise, place), place), 0, 0.01);
+    }
+    EXPECT_NEAR(rises, 1096 / 1.03505, 1);
+    EXPECT_NEAR(sets, rises, 1);
+}
+
+/// Near the poles there are days and weeks without either, and nothing but times of the date otherwise.
+TEST(MoonEvents, HappenOrNeverHappenAtThePoles) {
+    for (const double latitude : {66.0, 70.0, 82.0, 90.0, -70.0, -90.0}) {
+        const LocaleRecord place = PlaceAt(latitude, 0);
+        int never = 0;
+        for (FixedDay day = GregorianToFixed(2024, 1, 1); day < GregorianToFixed(2025, 1, 1); ++day) {
+            for (const Moment found : {Moonrise(day, place), Moonset(day, place)}) {
+                never += isNever(found);
+                EXPECT_TRUE(found == NeverMoment || Floor(found) == day) << found << " on " << day << latitude;
+            }
+        }
+        EXPECT_GT(never, 24) << latitude;
+        EXPECT_LT(never, 732) << latitude;
+    }
+}
+
+/// Rises and sets of 2025 by Astronomy Engine 2.1.19 (npm astronomy-engine; SearchAltitude of the Moon's centre from
+/// the place at -34.26'), hours and minutes of standard time.
+TEST(MoonEvents, AgreeWithAnEphemeris) {
+    struct Row {
+        const char* place;
+        std::int32_t month, day, rise, set;  ///< -1 is never.
+    };
+    constexpr Row rows[] = {
+        {"Jerusalem", 1, 10, 1324, 310},    {"Jerusalem", 2, 17, 2202, 837},    {"Jerusalem", 3, 22, 41, 1019},
+        {"Jerusalem", 4, 20, 17, 1009},     {"Jerusalem", 5, 12, 1831, 410},    {"Jerusalem", 6, 24, 303, 1810},
+        {"Jerusalem", 7, 30, 1012, 2145},   {"Jerusalem", 9, 6, 1720, 333},     {"Jerusalem", 10, 15, -1, 1400},
+        {"Jerusalem", 12, 4, 1553, 540},    {"Melbourne", 1, 10, 1629, 107},    {"Melbourne", 2, 17, 2119, 1001},
+        {"Melbourne", 3, 22, 2254, 1351},   {"Melbourne", 4, 20, 2247, 1323},   {"Melbourne", 5, 12, 1647, 635},
+        {"Melbourne", 6, 24, 620, 1529},    {"Melbourne", 7, 30, 1005, 2306},   {"Melbourne", 9, 6, 1621, 542},
+        {"Melbourne", 10, 15, 231, 1220},   {"Melbourne", 12, 4, 1901, 330},    {"Times Square", 1, 10, 1325, 418},
+        {"Times Square", 2, 17, 2251, 850}, {"Times Square", 3, 22, 149, 1018}, {"Times Square", 4, 20, 119, 1015},
+        {"Times Square", 5, 12, 1932, 413}, {"Times Square", 6, 24, 305, 1921}, {"Times Square", 7, 30, 1055, 2158},
+        {"Times Square", 9, 6, 1758, 354},  {"Times Square", 10, 15, -1, 1445}, {"Times Square", 12, 4, 1556, 651},
+    };
+    horizon::options.UseElevation = false;
+    for (const Row& row : rows) {
+        const LocaleRecord place = PresetLocale(row.place);
+        const FixedDay day = GregorianToFixed(2025, row.month, row.day);
+        SCOPED_TRACE(testing::Message() << row.place << ' ' << FixedToGregorianString(day));
+        for (const auto& [found, hhmm] : {std::pair(Moonrise(day, place), row.rise), {Moonset(day, place), row.set}}) {
+            ASSERT_EQ(isNever(found), hhmm < 0);
+            if (hhmm < 0) continue;
+            EXPECT_NEAR((found - day) * 1440, hhmm / 100 * 60 + hhmm % 100, 1.5);
+        }
+    }
+}
+
+}  // namespace
+}  // namespace horvanta

@@ -1,0 +1,187 @@
+#include "astro/moon.h"
+
+#include "astro/lunar_phases.h"
+#include "astro/sun_events.h"
+#include "astro/timescales.h"
+#include "calendars/gregorian.h"
+#include "core/numbering.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cmath>
+#include <random>
+
+namespace horvanta {
+namespace {
+
+/// How far one angle is ahead of another, in [-180, 180).
+double Ahead(double degrees, double of) { return Modulo(degrees - of + 180, 360) - 180; }
+
+Moment TerrestrialDate(std::int32_t year, std::int32_t month, std::int32_t day) {
+    return TerrestrialToUniversal(GregorianToFixed(year, month, day));
+}
+
+/// Meeus, Astronomical Algorithms, examples 47.a and 48.a, and the nodes after chapter 47.
+TEST(Moon, AgreesWithPublishedExamples) {
+    const Moment april = TerrestrialDate(1992, 4, 12);
+    EXPECT_NEAR(lunar::Longitude(april), 133.167265, 0.00001);
+    EXPECT_NEAR(lunar::Latitude(april), -3.229126, 0.00001);
+    EXPECT_NEAR(lunar::Distance(april), 368409.7, 0.1);
+    EXPECT_NEAR(lunar::RightAscension(april), 134.688, 0.001);
+    EXPECT_NEAR(lunar::Declination(april), 13.768, 0.001);
+    EXPECT_NEAR(lunar::LitFraction(april), 0.6786, 0.0001);
+    EXPECT_NEAR(lunar::BrightLimbAngle(april), 285.0, 0.1);
+    EXPECT_NEAR(Ahead(lunar::AscendingNode(TerrestrialDate(1913, 5, 27)), 0), 0, 0.005);
+    EXPECT_NEAR(lunar::AscendingNode(TerrestrialDate(1959, 12, 7)), 180.05, 0.005);
+    EXPECT_NEAR(lunar::AscendingNode(TerrestrialDate(1913, 5, 27), true), 0.8763, 0.0005);
+    EXPECT_NEAR(Ahead(lunar::DescendingNode(april), lunar::AscendingNode(april)), -180, 1e-9);
+}
+
+/// Centuries of Terrestrial Time from J2000; longitude and latitude of date and kilometres, by Swiss Ephemeris 2.10.03
+/// with its theory of Moshier.
+TEST(Moon, KeepsToAnEphemerisOverMillennia) {
+    constexpr double rows[][4] = {
+        {-49.9000, 191.7366, 2.3465, 401711.5},  {-45.2969, 72.9476, 0.5121, 368751.8},
+        {-40.6938, 312.5656, -3.3717, 399450.7}, {-36.0907, 206.5445, 4.6265, 392317.0},
+        {-31.4876, 81.8897, -5.0637, 370779.4},  {-26.8845, 327.4238, 3.6103, 404462.9},
+        {-22.2814, 220.5002, -1.6849, 377970.5}, {-17.6783, 93.0807, -2.3075, 369876.8},
+        {-13.0752, 343.4771, 4.0796, 404197.5},  {-8.4721, 235.1048, -4.9444, 369990.0},
+        {-3.8690, 106.7202, 4.2626, 371692.5},   {0.7341, 358.8548, -2.8415, 404455.3},
+        {5.3372, 247.5860, 0.5892, 370408.0},    {9.9403, 120.5340, 3.1332, 380624.0},
+    };
+    for (const auto& [centuries, longitude, latitude, distance] : rows) {
+        const Moment universal = TerrestrialToUniversal(J2000 + centuries * 36525);
+        const double tolerance = 0.006 + 0.0002 * std::fabs(centuries);
+        EXPECT_NEAR(Ahead(lunar::Longitude(universal), longitude), 0, tolerance) << centuries;
+        EXPECT_NEAR(lunar::Latitude(universal), latitude, 0.003) << centuries;
+        EXPECT_NEAR(lunar::Distance(universal), distance, 100) << centuries;
+    }
+}
+
+/// Julian day of Universal Time, latitude and longitude of a place at sea level; right ascension, declination, altitude
+/// seen from the Earth's centre and from the place, azimuth, lit part and breadth, by the same program.
+TEST(Moon, StandsWhereAnEphemerisSeesIt) {
+    struct Row {
+        double julianDay, latitude, longitude;
+        double rightAscension, declination, altitude, topocentric, azimuth, lit, diameter;
+    };
+    constexpr Row rows[] = {
+        {2451545.1234, 31.778, 35.2354, 223.885, -11.353, -44.973, -45.607, 286.952, 0.2202, 0.4944},
+        {2452716.5004, -37.8, 144.95, 173.486, 8.015, -47.715, -48.382, 233.797, 0.9954, 0.5491},
+        {2453887.8774, 64.15, -21.95, 135.993, 20.770, 2.545, 1.634, 43.749, 0.2640, 0.4982},
+        {2455059.2544, 31.778, 35.2354, 77.201, 26.422, -30.309, -31.156, 14.429, 0.2862, 0.5403},
+        {2456230.6314, -37.8, 144.95, 37.574, 16.301, -65.422, -65.791, 147.340, 0.9990, 0.4931},
+        {2457402.0084, 64.15, -21.95, 352.015, -3.241, 2.469, 1.483, 102.638, 0.2332, 0.5385},
+        {2458573.3854, 31.778, 35.2354, 312.420, -19.182, -43.964, -44.606, 86.532, 0.2533, 0.4918},
+        {2459744.7624, -37.8, 144.95, 258.811, -25.467, -3.372, -4.389, 126.217, 0.9987, 0.5563},
+        {2460916.1394, 64.15, -21.95, 213.199, -17.551, 5.517, 4.618, 153.404, 0.2616, 0.4929},
+    };
+    for (const Row& row : rows) {
+        const LocaleRecord place = MakeLocale("test", "", row.latitude, row.longitude, 0);
+        const Moment x = JDToMoment(row.julianDay);
+        SCOPED_TRACE(row.julianDay);
+        EXPECT_NEAR(lunar::RightAscension(x), row.rightAscension, 0.01);
+        EXPECT_NEAR(lunar::Declination(x), row.declination, 0.01);
+        EXPECT_NEAR(lunar::Altitude(x, place), row.altitude, 0.02);
+        EXPECT_NEAR(lunar::TopocentricAltitude(x, place), row.topocentric, 0.04);
+        EXPECT_NEAR(lunar::Bearing(x, place), row.azimuth, 0.05);
+        EXPECT_NEAR(lunar::LitFraction(x), row.lit, 0.005);
+        EXPECT_NEAR(lunar::Diameter(x), row.diameter, 0.01);
+    }
+}
+
+/// The half breadth counts as minutes, so that it adds a quarter of a minute only.
+TEST(Moon, IsObservedFromItsPlace) {
+    const LocaleRecord hill = MakeLocale("test", "", 40, 20, 1500);
+    const LocaleRecord shore = MakeLocale("test", "", 40, 20, 0);
+    for (Moment x = 739000; x < 739001; x += 0.07) {
+        const double observed = lunar::ObservedAltitude(x, shore);
+        EXPECT_NEAR(observed - lunar::TopocentricAltitude(x, shore), 34.26 / 60, 0.001);
+        EXPECT_NEAR(lunar::ObservedAltitude(x, hill) - observed, HorizonDip(hill), 1e-9);
+        EXPECT_NEAR(lunar::Parallax(x, shore), 0.95 * CosDeg(lunar::Altitude(x, shore)), 0.07);
+        horizon::options.UseElevation = false;
+        EXPECT_NEAR(lunar::ObservedAltitude(x, hill), observed, 1e-9);
+        horizon::options.UseElevation = true;
+    }
+}
+
+/// On the meridian the zenith is above the Moon, north of it for a southern one; towards the west it leans to the left.
+TEST(Moon, LeansWithTheSky) {
+    for (const double latitude : {50.0, -50.0}) {
+        const LocaleRecord place = MakeLocale("test", "", latitude, 0, 0);
+        for (const double hourAngle : {0.0, 60.0, 300.0}) {
+            Moment x = 739100;
+            for (int i = 0; i < 4; ++i) x -= Ahead(lunar::HourAngle(x, place), hourAngle) / 347.81;
+            const double angle = lunar::ParallacticAngle(x, place);
+            const double upright = latitude > 0 ? 0 : 180;
+            const double turned = Ahead(angle, upright) * (latitude > 0 ? 1 : -1);
+            EXPECT_EQ(Sign(Round(turned, 2)), hourAngle == 0 ? 0 : hourAngle < 180 ? 1 : -1) << latitude << hourAngle;
+            EXPECT_LT(std::fabs(turned), 90) << latitude;
+        }
+    }
+}
+
+/// The search without short cuts: halve ten days about the mean arrival, down to 0.000001 days.
+Moment PlainSearch(Moment t, double degrees) {
+    const Moment mean = t + 29.530588853 / 360 * Modulo(degrees - lunar::Longitude(t), 360);
+    Moment a = std::max(t, mean - 5);
+    Moment b = mean + 5;
+    for (;;) {
+        const Moment x = (a + b) / 2;
+        if (b - a < 0.000001) return x;
+        (Modulo(lunar::Longitude(x) - degrees, 360) < 180 ? b : a) = x;
+    }
+}
+
+TEST(LunarLongitudeAfter, EqualsThePlainSearch) {
+    std::mt19937_64 random(19920412);
+    std::uniform_real_distribution<double> days(MinFixedDay, MaxFixedDay);
+    std::uniform_real_distribution<double> circle(0, 360);
+    for (int i = 0; i < 2000; ++i) {
+        SetDeltaTDisabled(i % 5 == 0);
+        const Moment x = days(random);
+        const double degrees = i % 4 == 0 ? lunar::Longitude(x) : circle(random);
+        EXPECT_EQ(lunar::LongitudeAfter(x, degrees), PlainSearch(x, degrees)) << x << " to " << degrees;
+    }
+}
+
+/// Between the nearest perigee and the farthest apogee of a millennium about 2000 (Meeus, Astronomical Algorithms,
+/// chapter 50), and each near a mean one.
+TEST(Moon, ComesAndGoes) {
+    for (Moment x = GregorianToFixed(1500, 1, 1); x < GregorianToFixed(2500, 1, 1); x += 1003.3) {
+        const auto [perigee, least] = lunar::DistanceAtPerigee(x);
+        const auto [apogee, greatest] = lunar::DistanceAtApogee(x);
+        EXPECT_TRUE(least > 356300 && least < 370500) << x << ": " << least;
+        EXPECT_TRUE(greatest > 403900 && greatest < 406800) << x << ": " << greatest;
+        EXPECT_NEAR(least, lunar::Distance(perigee), 0.1);
+        EXPECT_GT(perigee, x - 2);
+        EXPECT_LT(perigee, x + 31);
+        const Moment next = lunar::AnomalyPassage(x, 0, 1);
+        EXPECT_GT(next, x);
+        EXPECT_NEAR(lunar::AnomalyPassage(next, 0, 1) - next, 27.5545, 0.001);
+        EXPECT_NEAR(lunar::AnomalyPassage(next, 180, -1), next - 27.5545 / 2, 0.001);
+        EXPECT_NEAR(Ahead(lunar::Longitude(next), lunar::Perigee(next)), 0, 7) << x;
+    }
+}
+
+TEST(Moon, NeverAnswersFromAStaleMemo) {
+    using Question = double (*)(Moment);
+    constexpr Question angles[] = {lunar::Longitude, lunar::Latitude, lunar::Distance, lunar::Declination};
+    const double sinceEpoch = 700000.25;
+    const Moment x = GregorianEpoch + sinceEpoch;
+    for (const Question ask : angles) {
+        const double before = ask(x);
+        SetDeltaTDisabled(true);
+        EXPECT_NE(ask(x), before);
+        SetDeltaTDisabled(false);
+        EXPECT_EQ(ask(x), before);
+        SetFixedDayEpoch(730487, 1, "test");
+        EXPECT_NE(ask(x), before);
+        EXPECT_NEAR(ask(GregorianEpoch + sinceEpoch), before, 1e-4);
+        SetFixedDayEpoch(GregorianEpoch, 1, "rata die");
+    }
+}
+
+}  // namespace
+}  // namespace horvanta
