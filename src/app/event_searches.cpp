@@ -2,6 +2,8 @@
 
 #include "astro/sun.h"
 #include "astro/year_dates.h"
+#include "calendars/easter.h"
+#include "calendars/oriental.h"
 #include "calendars/quartane_year_start.h"
 
 #include <algorithm>
@@ -48,6 +50,11 @@ constexpr EventSearch searches[] = {
     {MenuEvent::SouthSolstice, [](Moment from, int direction) { return SolarLongitudePassage(from, 270, direction); }},
     {MenuEvent::MeanPerihelion, [](Moment from, int direction) { return SolarAnomalyPassage(from, 0, direction); }},
     {MenuEvent::MeanAphelion, [](Moment from, int direction) { return SolarAnomalyPassage(from, 180, direction); }},
+    {MenuEvent::ChineseNewYear, oriental::JumpNewYear},
+    {MenuEvent::Easter, JumpEaster},
+    {MenuEvent::UniformEaster, JumpUniformEaster},
+    {MenuEvent::OrthodoxEaster, JumpOrthoEaster},
+    {MenuEvent::FixedEaster, quartane::JumpFixedEaster},
 };
 // clang-format on
 

@@ -8,6 +8,7 @@
 #include "views/gregorian_window.h"
 #include "views/julian_window.h"
 #include "views/monthly_window.h"
+#include "views/oriental_window.h"
 #include "views/persian_window.h"
 #include "views/quartane_window.h"
 #include "views/time_astro.h"
@@ -50,6 +51,7 @@ class Horvanta {
     GregorianWindow gregorian{frame};
     JulianWindow julian{frame};
     PersianWindow persian{frame};
+    OrientalWindow oriental{frame};
     QuartaneWindow quartane{frame};
     UserLocalesWindow userLocales{frame};
     WorldWindow world;
@@ -66,6 +68,7 @@ class Horvanta {
         Beside(timeAstro.form, gregorian.Row()),
         Below(monthly.form, julian.Row()),
         Below(gregorian.form, persian.Row()),
+        Beside(gregorian.form, oriental.Row()),
         Beside(monthly.form, userLocales.Row()),
         {world.form, world.Dummy},
     };

@@ -1,5 +1,6 @@
 #include "app/options.h"
 
+#include "calendars/easter.h"
 #include "calendars/gregorian.h"
 #include "core/moment.h"
 #include "core/text.h"
@@ -56,6 +57,8 @@ Options::Options(HorvantaMDI& frame) : frame_(frame) {
         item->Click = [this, format] { SetTempHourFormat(format); };
         ++format;
     }
+    frame_.UniformEaster.Shows(easter::options.UniformEaster);
+    frame_.UniformEaster.Click = [] { UniformEaster_Click(); };
 }
 
 /// `GE` is the day number of January 1 of year 1.
@@ -87,6 +90,7 @@ Settings Options::NumberingRows() {
 
 Settings Options::StoredRows() {
     return {
+        TruthRow("Item", "WCC", easter::options, &easter::Options::UniformEaster),
         WholeRow("Item", "THC", time_text::options, &time_text::Options::TempHourFormat, 1, 3),
         WholeRow("Item", "Map", web_map::options, &web_map::Options::MapIndex, 1,
                  static_cast<std::int32_t>(decltype(HorvantaMDI::MapServer)::size())),
@@ -108,6 +112,11 @@ void Options::SetFixedDayNumberingOption(std::int32_t index) {
 
 void Options::SetTempHourFormat(std::int32_t format) {
     time_text::options.TempHourFormat = format;
+    UpdateStatus();
+}
+
+void Options::UniformEaster_Click() {
+    easter::options.UniformEaster = !easter::options.UniformEaster;
     UpdateStatus();
 }
 

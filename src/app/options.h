@@ -31,6 +31,9 @@ class Options {
     /// Chooses the form of temporal hours, 1 to 3.
     void SetTempHourFormat(std::int32_t format);
 
+    /// Lets Easter stand by the moon of the sky for all churches, or not.
+    static void UniformEaster_Click();
+
     /// Chooses the web map that places are looked up on, by its place in the menu, from 1.
     void MapServer_Click(std::int32_t index);
 

@@ -55,18 +55,10 @@ Setting LayoutMark(const Form& time) {
 /// What no one owns yet.
 Settings KeptRows() {
     return {
-        KeptRow("Events", "Chk", "True"),      KeptRow("Hebrew", "Chk", "True"),
-        KeptRow("Lunar", "Chk", "True"),       KeptRow("Chinese", "Chk", "False"),
-        KeptRow("Color", "LBC", "6250335"),    KeptRow("Color", "LFC", "16777215"),
-        KeptRow("Color", "HBC", "16777152"),   KeptRow("Color", "HFC", "0"),
-        KeptRow("Color", "ChinBC", "255"),     KeptRow("Color", "ChinFC", "65535"),
-        KeptRow("Color", "JapBC", "16777215"), KeptRow("Color", "JapFC", "217"),
-        KeptRow("Color", "KorBC", "16777215"), KeptRow("Color", "KorFC", "16711680"),
-        KeptRow("Color", "VietBC", "65535"),   KeptRow("Color", "VietFC", "255"),
-        KeptRow("Item", "EW", "9360"),         KeptRow("Item", "LunOpt", "1"),
-        KeptRow("Item", "JCY1", "-2697"),      KeptRow("Item", "LP", "False"),
-        KeptRow("Item", "WCC", "False"),       KeptRow("Item", "Candles", "18"),
-        KeptRow("Item", "CEN", "1"),           KeptRow("Item", "CCM", "0"),
+        KeptRow("Events", "Chk", "True"),   KeptRow("Hebrew", "Chk", "True"),    KeptRow("Lunar", "Chk", "True"),
+        KeptRow("Color", "LBC", "6250335"), KeptRow("Color", "LFC", "16777215"), KeptRow("Color", "HBC", "16777152"),
+        KeptRow("Color", "HFC", "0"),       KeptRow("Item", "EW", "9360"),       KeptRow("Item", "LunOpt", "1"),
+        KeptRow("Item", "LP", "False"),     KeptRow("Item", "Candles", "18"),
     };
 }
 

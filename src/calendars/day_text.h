@@ -14,14 +14,15 @@ struct DayText {
     DayKind kind = DayKind::None;
 };
 
-/// The kind of a day that is all this: that of the last of them that has one.
-inline DayKind KindOf(const std::vector<DayText>& day) {
-    DayKind kind = DayKind::None;
+/// Of all that a day is, the last that has a kind, which is that of the day; nothing where none has.
+inline DayText HolidayOf(const std::vector<DayText>& day) {
+    DayText holiday;
     for (const DayText& each : day) {
-        if (each.kind != DayKind::None) kind = each.kind;
+        if (each.kind != DayKind::None) holiday = each;
     }
-    return kind;
+    return holiday;
 }
+inline DayKind KindOf(const std::vector<DayText>& day) { return HolidayOf(day).kind; }
 
 /// The texts alone.
 inline std::vector<std::string> TextsOf(const std::vector<DayText>& day) {

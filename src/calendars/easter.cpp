@@ -196,8 +196,7 @@ FixedDay FixedEaster(std::int32_t year) {
 }
 
 Moment JumpFixedEaster(Moment from, int direction) {
-    const auto yearBeside = Calendar.HasYear0() ? YearBeside : YearBesideWithout0;
-    return JumpTo(FixedEaster, yearBeside, FixedToQuaYear(from).year, from, direction);
+    return JumpTo(FixedEaster, YearBeside, FixedToQuaYear(from).year, from, direction);
 }
 
 }  // namespace quartane

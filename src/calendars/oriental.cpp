@@ -117,7 +117,7 @@ namespace {
 // The year from winter solstice to winter solstice, the sui, is what decides the months.
 
 constexpr double winterSolstice = 270;
-constexpr Epoch solsticeOf1999{730109.5};  // near it
+constexpr Epoch solsticeOf1999{730109.5};     // near it
 constexpr std::int64_t farthestSui = 30'000;  // from 1999; the series lead nowhere long before
 
 /// What everything remembered depends on, and which one it is, counted from 1999.
@@ -572,16 +572,15 @@ std::vector<std::string> MonthNames(std::int32_t year) {
     return names;
 }
 
-NamesOfDays DayNames() {
-    NamesOfDays names;
-    std::ranges::copy(PresentNames().weekdays, names.full.begin());
-    std::ranges::copy(PresentNames().shortWeekdays, names.brief.begin());
-    return names;
-}
+NamesOfDays DayNames() { return WeekFrom(0, PresentNames().weekdays, PresentNames().shortWeekdays); }
 
 }  // namespace
 
-constinit const CalendarContract Calendar{"Chinese", GridDateToFixed, GridDateOf, MonthNames,
-                                          DayNames,  nullptr,         nullptr,    CalendarName};
+constinit const CalendarContract Calendar{.name = "Chinese",
+                                          .ToFixed = GridDateToFixed,
+                                          .DateOf = GridDateOf,
+                                          .MonthNames = MonthNames,
+                                          .DayNames = DayNames,
+                                          .PresentName = CalendarName};
 
 }  // namespace horvanta::oriental

@@ -3,6 +3,7 @@
 #include "forms/ui_gregorian.h"
 #include "forms/ui_julian.h"
 #include "forms/ui_monthly.h"
+#include "forms/ui_oriental.h"
 #include "forms/ui_persian.h"
 #include "forms/ui_quartane.h"
 #include "forms/ui_time_astro.h"
@@ -25,7 +26,7 @@ struct DesignerForm {
 constexpr DesignerForm designerForms[] = {
     {"TimeAstro", SetUp<Ui::TimeAstro>}, {"Gregorian", SetUp<Ui::Gregorian>}, {"Monthly", SetUp<Ui::Monthly>},
     {"Quartane", SetUp<Ui::Quartane>},   {"User", SetUp<Ui::User>},           {"Persian", SetUp<Ui::Persian>},
-    {"Julian", SetUp<Ui::Julian>},       {"World", SetUp<Ui::World>},
+    {"Julian", SetUp<Ui::Julian>},       {"World", SetUp<Ui::World>},         {"Chinese", SetUp<Ui::Chinese>},
 };
 
 }  // namespace
