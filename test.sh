@@ -2,7 +2,8 @@
 # ./test.sh        the quick tests
 # ./test.sh all    all that is checked before a change lands
 # ./test.sh bench  the benchmarks and the start of the program, as ratios within one run
-# ./test.sh long   a million random acts under the sanitizers
+# ./test.sh long   random acts under the sanitizers; takes a seed and a number, else a million acts
+# ./test.sh harm   starts on harmed settings, full disks, kills and locks, with figures; takes a share and a seed
 # ./test.sh cycle  the Hebrew new years of the whole cycle of 689,472 years
 # ./test.sh walk   every day of the Persian years -100 to 1600, and each moonrise from 1900 to 2100
 source "$(dirname "$0")/tools/setup.sh"
@@ -64,7 +65,7 @@ runs() {
     on_virtual_display env XDG_CONFIG_HOME="$PWD/$home" XDG_RUNTIME_DIR="$PWD/$home" QT_QPA_PLATFORM=xcb \
         HORVANTA_SCREENSHOT="$home/picture.png" "$1"
     [ -s "$home/picture.png" ]
-    grep -q '^Launch=OK' "$home/Horvanta/Horvanta.ini"
+    grep -q '^Prog/Launch=OK' "$home/Horvanta/Horvanta.ini"
 }
 
 # The Debian package, and what it holds, by the tools made for it. Where that needs no password, it is also installed
@@ -121,7 +122,13 @@ case "${1:-quick}" in
         ;;
     long)
         build sanitize
-        HORVANTA_ACTS=1000000 build/sanitize/tests/horvanta_tests --gtest_filter='Desk.KeepsTheMoment*'
+        HORVANTA_SEED=${2:-5784} HORVANTA_ACTS=${3:-1000000} \
+            build/sanitize/tests/horvanta_tests --gtest_filter='Desk.KeepsTheMoment*'
+        ;;
+    harm)
+        need python3 xvfb
+        build release
+        python3 tests/harm/harm.py build/release/src/qt/horvanta "${2:-1}" "${3:-5784}"
         ;;
     cycle)
         build release
@@ -132,7 +139,7 @@ case "${1:-quick}" in
         HORVANTA_EVERY_DAY=1 build/release/tests/horvanta_tests --gtest_filter='Persian.DaysFollow*:MoonEvents.MissNoDay'
         ;;
     *)
-        sed -n '2,7s/^# //p' test.sh
+        sed -n '2,8s/^# //p' test.sh
         exit 2
         ;;
 esac

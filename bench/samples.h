@@ -44,6 +44,30 @@ inline const std::vector<std::chrono::sys_days>& LibraryDays() {
     return days;
 }
 
+/// Moments of all displayable days.
+inline const std::vector<Moment>& RandomMoments() {
+    static const std::vector<Moment> moments = RandomNumbers(MinFixedDay, MaxFixedDay, 10'000);
+    return moments;
+}
+
+/// Each day of a year, over and over.
+inline const std::vector<FixedDay>& DaysOfAYear() {
+    static const std::vector<FixedDay> days = [] {
+        std::vector<FixedDay> year(365);
+        for (FixedDay& day : year) day = 738900 + static_cast<double>(&day - year.data());
+        return year;
+    }();
+    return days;
+}
+
+/// What a series may cost on this machine: one number where four doubles are computed at once, one where it is two.
+inline double SinesWith([[maybe_unused]] double wideVectors, double narrowVectors) {
+#if defined(__x86_64__)
+    if (__builtin_cpu_supports("avx2")) return wideVectors;
+#endif
+    return narrowVectors;
+}
+
 /// Times a function over a list.
 template <class Item, class Function>
 void ForEach(benchmark::State& state, const std::vector<Item>& items, const Function& function) {

@@ -5,6 +5,7 @@
 #include "core/day_events.h"
 #include "core/desktop.h"
 #include "core/moment.h"
+#include "core/text.h"
 
 #include <ranges>
 
@@ -14,6 +15,11 @@ namespace {
 /// Empty while a start has not finished.
 void WriteLaunchMark(std::string_view text) {
     CurrentDesktop->Settings().Write(ProgramSettings, "Prog", "Launch", text);
+}
+
+bool isNumberStored(std::string_view key) {
+    const auto text = CurrentDesktop->Settings().Read(ProgramSettings, "Item", key);
+    return text && ParseLeadingNumber(*text);
 }
 
 void EnableNeeding(const WindowRow& row) {
@@ -71,26 +77,32 @@ void Horvanta::HangWindow(WindowRow& row) {
 void Horvanta::Start() {
     {
         const BusyHold hold;
-        MarkLaunch();
         LoadWindows();
+        MarkLaunch();
+        TakeSettings();
         ChooseMoment();
     }
     UpdateStatus();
     timeAstro.TakeFocus();
     WriteLaunchMark("OK");
-    CurrentDesktop->Settings().Flush();
+    FlushSettings();
+    isStarted_ = true;
+}
+
+/// Before the mark is set: making them takes most of a start, and what the settings hold can't hinder it.
+void Horvanta::LoadWindows() {
+    CurrentDesktop->LoadFrame(frame);
+    for (Form* form : Forms()) CurrentDesktop->LoadForm(*form);
 }
 
 void Horvanta::MarkLaunch() {
     if (CurrentDesktop->Settings().Read(ProgramSettings, "Prog", "Launch") == "") DeleteAllPrefs();
     WriteLaunchMark("");
-    CurrentDesktop->Settings().Flush();
+    FlushSettings();
 }
 
-void Horvanta::LoadWindows() {
+void Horvanta::TakeSettings() {
     LoadFramePrefs(frame);
-    CurrentDesktop->LoadFrame(frame);
-    for (Form* form : Forms()) CurrentDesktop->LoadForm(*form);
     LoadPrefs(*this);
     for (WindowRow& row : windows) {
         if (row.open == OpenAt::EveryStart) row.form.visible = true;
@@ -103,23 +115,52 @@ void Horvanta::LoadWindows() {
     CurrentDesktop->LetEventsRun();
 }
 
+/// In a first run there is no moment yet, and neither where a damaged line lost it. Where it is there, but the line
+/// that tells whether to start with today was lost, it is not given up for that.
 void Horvanta::ChooseMoment() {
-    SettingsStore& settings = CurrentDesktop->Settings();
-    const bool firstRun =
-        !settings.Read(ProgramSettings, "Item", "RD") && !settings.Read(ProgramSettings, "Item", "SD");
-    if (stepping::options.AlwaysToday || firstRun) jumps.MenuJumpToToday_Click();
-    if (firstRun) jumps.SaveThisMoment_Click();
-    timeAstro.StepMenu_Click(firstRun ? 1 : stepping::options.StepIndex);
+    const bool hasMoment = isNumberStored("RD");
+    const auto wish = CurrentDesktop->Settings().Read(ProgramSettings, timeAstro.form.name, "Chk");
+    if (hasMoment && !TruthOf(wish.value_or(""))) stepping::options.AlwaysToday = false;
+    if (stepping::options.AlwaysToday || !hasMoment) jumps.MenuJumpToToday_Click();
+    if (!isNumberStored("SD")) jumps.SaveThisMoment_Click();
+    timeAstro.StepMenu_Click(stepping::options.StepIndex);
 }
 
-void Horvanta::Form_Unload() {
-    SavePrefs(*this);
+bool Horvanta::Form_Unload() {
+    WritePrefs(*this);
+    return CloseWindows();
+}
+
+/// What has been written to the settings goes onto the disk before.
+bool Horvanta::CloseWindows() {
+    const std::string failure = FlushSettings();
+    if (!failure.empty() && !CurrentDesktop->AskYesNo(failure + "\n\nQuit all the same?", "Quit")) return false;
     Quitting = true;
     for (const WindowRow& row : windows | std::views::reverse) row.form.visible = false;
+    return true;
+}
+
+void Horvanta::CloseAndEnd() {
+    if (CloseWindows()) CurrentDesktop->End();
+}
+
+void Horvanta::SaveSession() {
+    if (isStarted_) SavePrefs(*this);
+}
+
+void Horvanta::EndSession() {
+    SaveSession();
+    Quitting = true;
+    CurrentDesktop->End();
 }
 
 void Horvanta::SavePreferences_Click() {
-    SavePrefs(*this);
+    const std::string failure = SavePrefs(*this);
+    if (failure.empty()) {
+        CurrentDesktop->ShowStatus("The settings are saved.");
+    } else {
+        CurrentDesktop->Tell(failure, "Save Preferences");
+    }
     timeAstro.TakeFocus();
 }
 
@@ -134,8 +175,7 @@ void Horvanta::MenuAbout_Click() {
 
 void Horvanta::MenuExit_Click() {
     if (userLocales.isDirty() == YesNoCancel::Cancel) return;
-    Form_Unload();
-    CurrentDesktop->End();
+    if (Form_Unload()) CurrentDesktop->End();
 }
 
 void Horvanta::QuitWithoutSavePrefs_Click() { CurrentDesktop->End(); }
@@ -143,15 +183,14 @@ void Horvanta::QuitWithoutSavePrefs_Click() { CurrentDesktop->End(); }
 void Horvanta::ResetPrefsAndQuit_Click() {
     Save(places.UserRows());
     DeleteAllPrefs();
-    CurrentDesktop->Settings().Flush();
-    CurrentDesktop->End();
+    CloseAndEnd();
 }
 
 void Horvanta::ResetColorsAndQuit_Click() {
     if (userLocales.isDirty() == YesNoCancel::Cancel) return;
-    Form_Unload();
+    WritePrefs(*this);
     DeleteColorPrefs();
-    CurrentDesktop->End();
+    CloseAndEnd();
 }
 
 void Horvanta::RunUpdatePass() {
@@ -162,6 +201,7 @@ void Horvanta::RunUpdatePass() {
         }
     }
     jumps.SetAgainCaption();
+    history.Note();
 }
 
 /// A window that is shown gets the focus; one that is hidden gives it to the time window.

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "app/history.h"
 #include "app/jumps.h"
 #include "app/options.h"
 #include "app/places.h"
@@ -27,12 +28,17 @@ class Horvanta {
     Horvanta(const Horvanta&) = delete;
     Horvanta& operator=(const Horvanta&) = delete;
 
-    /// Loads the windows and the settings and draws for the first time. While it runs the settings bear the mark of a
-    /// start that did not finish; where the last start left that mark, all settings but the user's own places go.
+    /// Loads the windows and the settings and draws for the first time. While the settings are taken they bear the mark
+    /// of a start that did not finish; where the last start left that mark, all but the user's own places go.
     void Start();
 
-    /// Saves the settings and closes the windows.
-    void Form_Unload();
+    /// Saves the settings and closes the windows. False if the settings could not be saved and the user would rather
+    /// stay.
+    bool Form_Unload();
+
+    /// Saves everything that is applied, without a question, if the start has finished; the second ends as well.
+    void SaveSession();
+    void EndSession();
 
     /// Saves the settings and goes on.
     void SavePreferences_Click();
@@ -59,6 +65,7 @@ class Horvanta {
     Places places{frame, timeAstro.fields};
     Jumps jumps{frame, timeAstro};
     Options options{frame};
+    History history{frame, places};
 
     /// In the order in which they are loaded and update.
     std::vector<WindowRow> windows{
@@ -79,11 +86,16 @@ class Horvanta {
   private:
     void HangHandlers();
     void HangWindow(WindowRow& row);
-    void MarkLaunch();
     void LoadWindows();
+    void MarkLaunch();
+    void TakeSettings();
     void ChooseMoment();
+    bool CloseWindows();
+    void CloseAndEnd();
     void RunUpdatePass();
     void ShowOrHide(WindowRow& row);
+
+    bool isStarted_ = false;
 };
 
 }  // namespace horvanta

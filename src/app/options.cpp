@@ -61,31 +61,71 @@ Options::Options(HorvantaMDI& frame) : frame_(frame) {
     frame_.UniformEaster.Click = [] { UniformEaster_Click(); };
 }
 
-/// `GE` is the day number of January 1 of year 1.
+namespace {
+
+constexpr std::int32_t standardOption = day_numbering::Options().FixedDayOption;
+constexpr std::int32_t numberingOptions = static_cast<std::int32_t>(std::size(numberings));
+
+const Numbering& NumberingOf(std::int32_t option) { return numberings[static_cast<std::size_t>(option) - 1]; }
+
+/// The day number that January 1 of year 1 has under an item, whatever the present numbering.
+double FirstOf(const Numbering& numbering) { return GregorianEpoch + 1 - Floor(numbering.dayOne()); }
+
+/// The item that numbers the days so; the first, which numbers them from any day, if no other does.
+std::int32_t OptionOf(double first) {
+    for (std::int32_t option = 2; option <= numberingOptions; ++option) {
+        if (FirstOf(NumberingOf(option)) == first) return option;
+    }
+    return 1;
+}
+
+/// A row of the numbering that is settled with the others: a text that can't be read counts as none.
+Setting NumberingRow(std::string_view key, std::function<void(const std::string& text)> take,
+                     std::function<std::string()> give) {
+    return {"Item", std::string(key), "",
+            [take = std::move(take)](const std::string& text) {
+                take(text);
+                return true;
+            },
+            std::move(give)};
+}
+
+}  // namespace
+
+/// `GE` is the day number of January 1 of year 1. Under any item but the first it follows from the item, so that a day
+/// number that was saved can be told even where a row is damaged.
 Settings Options::NumberingRows() {
     constexpr double farthest = 1e7;  // days; the displayable ones lie within
     return {
-        WholeRow("Item", "FixOpt", day_numbering::options, &day_numbering::Options::FixedDayOption, 1,
-                 static_cast<std::int32_t>(std::size(numberings))),
-        {"Item", "GE", "-730484",
-         [](const std::string& text) {
-             return TakeIf(NumberOf(text, -farthest, farthest), [](double first) {
-                 SetFixedDayEpoch(GregorianEpoch + 1 - Floor(first), FixedEpochValue, FixedEpochName);
-             });
-         },
-         [] { return ExactText(GregorianEpoch); }},
-        {"Item", "FixEpoch", "1",
-         [](const std::string& text) {
-             return TakeIf(NumberOf(text, -farthest, farthest), [](double value) { FixedEpochValue = value; });
-         },
-         [] { return ExactText(FixedEpochValue); }},
-        {"Item", "FixNam", "",
-         [](const std::string& text) {
-             FixedEpochName = text;
-             return true;
-         },
-         [] { return FixedEpochName; }},
+        NumberingRow(
+            "FixOpt", [this](const std::string& text) { read_.option = WholeOf(text, 1, numberingOptions); },
+            [] { return std::to_string(day_numbering::options.FixedDayOption); }),
+        NumberingRow(
+            "GE", [this](const std::string& text) { read_.first = NumberOf(text, -farthest, farthest); },
+            [] { return ExactText(GregorianEpoch); }),
+        NumberingRow(
+            "FixEpoch", [this](const std::string& text) { read_.value = NumberOf(text, -farthest, farthest); },
+            [] { return ExactText(FixedEpochValue); }),
+        NumberingRow(
+            "FixNam",
+            [this](const std::string& text) {
+                read_.name = NameText(text);
+                Settle(read_);
+            },
+            [] { return FixedEpochName; }),
     };
+}
+
+/// Rows that contradict each other are settled by the item. Where that can't be read it is found by the day number.
+void Options::Settle(const ReadNumbering& read) {
+    const double standardFirst = FirstOf(NumberingOf(standardOption));
+    const std::int32_t option = read.option.value_or(OptionOf(read.first.value_or(standardFirst)));
+    const Numbering& numbering = NumberingOf(option);
+    const bool isFree = option == 1;
+    const double first = isFree ? Floor(read.first.value_or(standardFirst)) : FirstOf(numbering);
+    const double value = isFree ? read.value.value_or(numbering.value) : numbering.value;
+    day_numbering::options.FixedDayOption = option;
+    SetFixedDayEpoch(GregorianEpoch + 1 - first, value, read.name);
 }
 
 Settings Options::StoredRows() {

@@ -4,6 +4,8 @@
 #include "core/shell.h"
 
 #include <cstdint>
+#include <optional>
+#include <string>
 
 namespace horvanta {
 
@@ -20,8 +22,8 @@ class Options {
   public:
     explicit Options(HorvantaMDI& frame);
 
-    /// The numbering, in the order in which it has to be read; and the formats.
-    static Settings NumberingRows();
+    /// The numbering, which has to be read first of all, in the order of its rows; and the formats.
+    Settings NumberingRows();
     static Settings StoredRows();
 
     /// Numbers the days by an item of the numbering menu, from 1. The displayed and the saved moment keep their dates
@@ -38,7 +40,18 @@ class Options {
     void MapServer_Click(std::int32_t index);
 
   private:
+    /// What the settings tell of the numbering, as far as it can be read.
+    struct ReadNumbering {
+        std::optional<std::int32_t> option;
+        std::optional<double> first;  ///< The day number of January 1 of year 1.
+        std::optional<double> value;
+        std::string name;
+    };
+
+    void Settle(const ReadNumbering& read);
+
     HorvantaMDI& frame_;
+    ReadNumbering read_;
 };
 
 }  // namespace horvanta

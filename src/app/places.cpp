@@ -28,15 +28,19 @@ Places::Places(HorvantaMDI& frame, TimeFields& fields) : frame_(frame), fields_(
 }
 
 void Places::SelectLocale(const MenuItem& item, const LocaleRecord& place) {
-    if (place != Locale) {
-        const bool moves = place.Name != Locale.Name && !Locale.Location.empty();
-        if (moves) ReportMove(place);
-        Locale = place;
+    const bool moves = place != Locale && place.Name != Locale.Name && !Locale.Location.empty();
+    if (moves) ReportMove(place);
+    Return({&item, place});
+}
+
+void Places::Return(const Choice& choice) {
+    chosen_ = choice.item;
+    if (choice.place != Locale) {
+        Locale = choice.place;
         fields_.SetDSTinfo();
         fields_.UpdateLocaleCaption();
         fields_.SetSunBelowHorizon();
     }
-    chosen_ = &item;
     UpdateStatus();
 }
 
@@ -81,7 +85,7 @@ Settings Places::SlotRows(std::size_t slot) {
     PlaceEntry& entry = entries_[slot];
     Settings rows{{section, "Name", "",
                    [&entry](const std::string& text) {
-                       entry.name = text;
+                       entry.name = NameText(text);
                        return true;
                    },
                    [&entry] { return entry.name; }},

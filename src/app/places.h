@@ -39,6 +39,18 @@ class Places {
     Settings UserRows();
     Settings StoredRows();
 
+    /// A place that was chosen, with its menu item.
+    struct Choice {
+        const MenuItem* item = nullptr;
+        LocaleRecord place;
+
+        bool operator==(const Choice&) const = default;
+    };
+    Choice Chosen() const { return {chosen_, Locale}; }
+
+    /// Makes a place current again that was, without a report, and updates.
+    void Return(const Choice& choice);
+
     /// Stores a place in a slot of the user's, from 1, and shows it in the menu.
     void SetUserLocale(std::size_t slot, const LocaleRecord& place);
 

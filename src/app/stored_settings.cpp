@@ -7,11 +7,13 @@
 namespace horvanta {
 namespace {
 
-/// Where it stands is only written while it is neither minimised nor maximised.
+/// Where it stands is only written while it is neither minimised nor maximised. A size that was lost is that of the
+/// screen, which is the largest that the desktop allows.
 Settings FrameRows(HorvantaMDI& frame) {
     constexpr double farthest = 1e6;  // twips
-    const auto edge = [&](std::string_view key, double Position::*number) {
+    const auto edge = [&](std::string_view key, double Position::*number, double standard = 0) {
         Setting row = NumberRow(frame.name, key, frame.position, number, -farthest, farthest);
+        row.standard = ExactText(standard);
         row.give = [&frame, give = row.give] { return frame.state == FrameNormal ? give() : std::nullopt; };
         return row;
     };
@@ -23,8 +25,8 @@ Settings FrameRows(HorvantaMDI& frame) {
              [&frame] { return std::to_string(frame.state); }},
             edge("Top", &Position::top),
             edge("Left", &Position::left),
-            edge("Width", &Position::width),
-            edge("Height", &Position::height)};
+            edge("Width", &Position::width, farthest),
+            edge("Height", &Position::height, farthest)};
 }
 
 Settings ProgramRows() {
@@ -36,20 +38,18 @@ Settings ProgramRows() {
     };
 }
 
-/// The position of the Events window marks settings of this layout. Others are cleared, but for the mark of a start
-/// that has not finished.
+/// The position of the Events window marks settings of this layout, whatever it is. Others are cleared, but for the
+/// mark of a start that has not finished.
 Setting LayoutMark(const Form& time) {
-    return {"Events", "Top", "-",
-            [](const std::string& text) {
-                if (text != "-") return true;
+    const auto kept = [] { return CurrentDesktop->Settings().Read(ProgramSettings, "Events", "Top"); };
+    return {"Events", "Top", "",
+            [kept](const std::string&) {
+                if (kept()) return true;
                 DeleteAllPrefs();
                 CurrentDesktop->Settings().Write(ProgramSettings, "Prog", "Launch", "");
                 return true;
             },
-            [&time] {
-                const auto kept = CurrentDesktop->Settings().Read(ProgramSettings, "Events", "Top");
-                return kept ? *kept : GeneralText(time.position.top + time.position.height + 20);
-            }};
+            [kept, &time] { return kept().value_or(GeneralText(time.position.top + time.position.height + 20)); }};
 }
 
 /// What no one owns yet.
@@ -66,7 +66,7 @@ Settings KeptRows() {
 
 Settings StoredRows(Horvanta& program) {
     Settings rows = ProgramRows();
-    Append(rows, Options::NumberingRows());
+    Append(rows, program.options.NumberingRows());
     rows.push_back(LayoutMark(program.timeAstro.form));
     for (WindowRow& row : program.windows) {
         if (row.isThere()) Append(rows, PositionRows(row));
@@ -85,15 +85,16 @@ void LoadFramePrefs(HorvantaMDI& frame) { Load(FrameRows(frame)); }
 
 void LoadPrefs(Horvanta& program) { Load(StoredRows(program)); }
 
-void SavePrefs(Horvanta& program) {
+void WritePrefs(Horvanta& program) {
     Save(FrameRows(program.frame));
     Save(StoredRows(program));
-    CurrentDesktop->Settings().Flush();
 }
 
-void DeleteColorPrefs() {
-    CurrentDesktop->Settings().DeleteSection(ProgramSettings, "Color");
-    CurrentDesktop->Settings().Flush();
+std::string SavePrefs(Horvanta& program) {
+    WritePrefs(program);
+    return FlushSettings();
 }
+
+void DeleteColorPrefs() { CurrentDesktop->Settings().DeleteSection(ProgramSettings, "Color"); }
 
 }  // namespace horvanta

@@ -17,8 +17,10 @@ void LoadFramePrefs(HorvantaMDI& frame);
 /// Everything else. Settings without the mark of this layout are cleared.
 void LoadPrefs(Horvanta& program);
 
-/// Writes everything and brings it onto the disk in one step. What has no owner yet stays as it was found.
-void SavePrefs(Horvanta& program);
+/// Writes everything; what has no owner yet stays as it was found. The second also brings it onto the disk in one step
+/// and returns what `FlushSettings` does.
+void WritePrefs(Horvanta& program);
+std::string SavePrefs(Horvanta& program);
 
 /// Forgets the colours alone.
 void DeleteColorPrefs();

@@ -34,9 +34,9 @@ Moment Halve(Bracket bracket, double width, double doubt, const Guess& guess, co
 
 /// How an angle that grows with time is searched for.
 struct AngleSearch {
-    double daysPerDegree;    ///< At its mean rate.
-    double reach;            ///< Days to both sides of the mean arrival at which the search begins.
-    double width;            ///< Days at which it ends.
+    double daysPerDegree;     ///< At its mean rate.
+    double reach;             ///< Days to both sides of the mean arrival at which the search begins.
+    double width;             ///< Days at which it ends.
     double doubt = 0.000015;  ///< Days; covers the jumps of Delta T from one polynomial to the next.
 };
 

@@ -20,10 +20,11 @@ double EquationOfTimeAt(double c) {
     const double tangent = TanDeg(ObliquityAt(c) / 2);
     const double y = tangent * tangent;
     const double sinAnomaly = SinDeg(anomaly);
-    const double equation =
-        (y * SinDeg(2 * longitude) - 2 * e * sinAnomaly + 4 * e * y * sinAnomaly * CosDeg(2 * longitude) -
-         y * y / 2 * SinDeg(4 * longitude) - 1.25 * e * e * SinDeg(2 * anomaly)) /
-        fullCircle;
+    const double sinTwice = SinDeg(2 * longitude);
+    const double cosTwice = CosDeg(2 * longitude);
+    const double equation = (y * sinTwice - 2 * e * sinAnomaly + 4 * e * y * sinAnomaly * cosTwice -
+                             y * y * sinTwice * cosTwice - 2.5 * e * e * sinAnomaly * CosDeg(anomaly)) /
+                            fullCircle;
     return Sign(equation) * std::min(std::fabs(equation), 0.5);
 }
 

@@ -2,7 +2,7 @@
 
 #include "astro/bisection.h"
 #include "astro/earth_axis.h"
-#include "astro/ephemeris.h"
+#include "astro/ephemeris_files.h"
 #include "astro/local_time.h"
 #include "astro/series.h"
 #include "astro/sun_tables.h"
@@ -104,7 +104,8 @@ Moment FindSeason(std::int32_t year, double degrees) {
 /// The last two are remembered: the calendars ask for the seasons of neighbouring years by turns.
 Moment SeasonMoment(std::int32_t year, double degrees, double offset) {
     if (Modulo(degrees, 90) == 0) {
-        if (const auto listed = SolexSolarLongitudeAfter(year, degrees)) return *listed + offset;
+        const auto listed = ephemeris::ListedSeason(degrees < 0 ? year - 1LL : year, std::fabs(degrees));
+        if (listed) return *listed + offset;
     }
     static Memo<2, SeasonKey, Moment> memo;
     return memo.Of({year, degrees, NumberingSerial, DeltaTSerial}, [=] { return FindSeason(year, degrees); }) + offset;

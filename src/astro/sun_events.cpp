@@ -1,7 +1,9 @@
 #include "astro/sun_events.h"
 
+#include "astro/earth_axis.h"
 #include "astro/local_time.h"
 #include "astro/sun.h"
+#include "astro/timescales.h"
 
 #include <algorithm>
 #include <cmath>
@@ -10,10 +12,13 @@
 namespace horvanta {
 namespace {
 
-/// The Sun's declination in radians, signed.
-double DeclinationInRadians(Moment universal) {
-    return ArcSinRad(SinDeg(SolarLongitude(universal)) * SinDeg(Obliquity(universal)));
+double SineOfDeclination(Moment universal) {
+    const double centuries = JulianCenturies(universal);
+    return SinDeg(SolarLongitude(centuries, true, true)) * SinDeg(ObliquityAt(centuries));
 }
+
+/// Of a sine whose angle lies within a quarter circle.
+double CosineTo(double sine) { return std::sqrt(1 - sine * sine); }
 
 }  // namespace
 
@@ -27,9 +32,8 @@ double SunDepression(const LocaleRecord& place) {
 }
 
 double SineOffset(Moment universal, double depression, const LocaleRecord& place) {
-    const double declination = DeclinationInRadians(universal);
-    return std::tan(place.LatRad) * std::tan(declination) +
-           SinDeg(depression) / (std::cos(declination) * std::cos(place.LatRad));
+    const double sine = SineOfDeclination(universal);
+    return (std::sin(place.LatRad) * sine + SinDeg(depression)) / (std::cos(place.LatRad) * CosineTo(sine));
 }
 
 Moment ApproxMomentOfDepression(Moment local, double depression, bool morning, const LocaleRecord& place) {
@@ -117,11 +121,12 @@ double RiseSetAzimuth(Moment date, bool centre, bool rise, const LocaleRecord& p
     const double depression = centre ? HorizonDip(place) + refraction : SunDepression(place);
     const Moment standardTime = rise ? Dawn(date, depression, place) : Dusk(date, depression, place);
     if (isNever(standardTime)) return NeverMoment;
-    const double declination = DeclinationInRadians(StandardToUniversal(standardTime, place));
-    const double value = -std::tan(place.LatRad) * std::tan(declination);
+    const double sineOfDeclination = SineOfDeclination(StandardToUniversal(standardTime, place));
+    const double tangent = sineOfDeclination / CosineTo(sineOfDeclination);
+    const double value = -std::tan(place.LatRad) * tangent;
     if (!(value < 1)) return NeverMoment;
     const double sine = std::sqrt(std::max(0.0, 1 - value * value));
-    const double x = std::sin(place.LatRad) * value - std::cos(place.LatRad) * std::tan(declination);
+    const double x = std::sin(place.LatRad) * value - std::cos(place.LatRad) * tangent;
     const double angle = ArcTan2Deg(sine, x) - 90;
     return rise ? 90 - angle : angle + 270;
 }

@@ -215,6 +215,28 @@ struct StatusBar final : Control {
     std::function<void(std::size_t index)> PanelClick;
 };
 
+/// A picture of a day's light as a strip from midnight to midnight, with marks for noon and for a time. Its text is a
+/// sentence that says the same.
+struct DayStrip final : Control {
+    using Control::Control;
+    enum class Light { Night, AstronomicalTwilight, NauticalTwilight, CivilTwilight, Daylight };
+    struct Span {
+        double from;  ///< A fraction of the day; it lasts to the next one, or to the end.
+        Light light;
+
+        bool operator==(const Span&) const = default;
+    };
+    struct Day {
+        std::vector<Span> spans;
+        double noon = 0.5;
+
+        bool operator==(const Day&) const = default;
+    };
+    Day day;
+    double time = 0;                                   ///< A fraction of the day.
+    std::function<std::string(double time)> TellTime;  ///< What is to be said of a time that is pointed at.
+};
+
 /// Texts in rows and columns; the first row and the first column are headings.
 struct Grid final : Control {
     using Control::Control;

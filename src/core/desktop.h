@@ -35,6 +35,9 @@ class Desktop {
 
     virtual void Beep() = 0;
 
+    /// A line in the frame's status bar.
+    virtual void ShowStatus(std::string_view line) = 0;
+
     /// A box with a question; true for yes.
     virtual bool AskYesNo(std::string_view question, std::string_view title) = 0;
 

@@ -1,6 +1,7 @@
 #include "core/locale.h"
 
 #include "core/numerics.h"
+#include "core/text.h"
 
 #include <algorithm>
 #include <cctype>
@@ -45,8 +46,10 @@ void SetScale(LocaleRecord& place) {
 LocaleRecord MakeLocale(std::string_view name, std::string_view location, double latitude, double longitude,
                         double elevation, std::optional<double> zone, bool noDST, bool diaspora, bool useLMT) {
     LocaleRecord place;
-    place.Name = FirstFilled(name, location, "Unknown");
-    place.Location = FirstFilled(location, name, "Unspecified Location");
+    const std::string shortName = NameText(name);
+    const std::string longName = NameText(location);
+    place.Name = FirstFilled(shortName, longName, "Unknown");
+    place.Location = FirstFilled(longName, shortName, "Unspecified Location");
     SetPosition(place, latitude, longitude);
     SetScale(place);
     place.Elevation = elevation;

@@ -38,10 +38,10 @@ inline LocaleRecord Locale;
 /// The user's own places, by the number of their slot from 1; a slot that was never filled has no name.
 inline std::array<LocaleRecord, 31> UserLocales;
 
-/// A record from its essentials. A missing text takes the other one; a latitude (degrees, north positive) past a pole
-/// is the pole; the longitude (degrees, east positive) is brought into a half circle to either side. An omitted `zone`
-/// (hours) is the whole hour nearest to the longitude, and with `useLMT` it is the longitude's own time whatever was
-/// given. A location in Israel, by its name, is never in the diaspora.
+/// A record from its essentials, its names as `NameText` has them. A missing one takes the other; a latitude (degrees,
+/// north positive) past a pole is the pole; the longitude (degrees, east positive) is brought into a half circle to
+/// either side. An omitted `zone` (hours) is the whole hour nearest to the longitude, and with `useLMT` it is the
+/// longitude's own time whatever was given. A location in Israel, by its name, is never in the diaspora.
 LocaleRecord MakeLocale(std::string_view name, std::string_view location, double latitude, double longitude,
                         double elevation, std::optional<double> zone = {}, bool noDST = false, bool diaspora = true,
                         bool useLMT = false);

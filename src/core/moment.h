@@ -14,6 +14,7 @@ inline double Increment = 1;          ///< Days to a step of the step keys.
 inline std::int16_t BusyCount = 0;    ///< While above 0, `UpdateStatus` only clamps.
 inline std::int16_t UpdateDepth = 0;  ///< How many runs of `UpdateStatus` are pending.
 inline bool Quitting = false;         ///< The windows are being closed for good.
+inline bool KeyHeld = false;          ///< The present act repeats the last one, by a key that is held.
 
 namespace stepping {
 struct Options {

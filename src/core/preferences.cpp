@@ -64,9 +64,15 @@ Setting KeptRow(std::string_view section, std::string_view key, std::string_view
     return {std::string(section), std::string(key), std::string(standard), {}, {}};
 }
 
-void DeleteAllPrefs() {
-    CurrentDesktop->Settings().Write(ProgramSettings, "X", "X", "X");
-    CurrentDesktop->Settings().DeleteApplication(ProgramSettings);
+void DeleteAllPrefs() { CurrentDesktop->Settings().DeleteApplication(ProgramSettings); }
+
+std::string FlushSettings() {
+    const auto [failure, kept] = CurrentDesktop->Settings().Flush();
+    if (!kept.empty()) CurrentDesktop->ShowStatus(kept);
+    if (failure.empty()) return failure;
+    CurrentDesktop->Beep();
+    CurrentDesktop->ShowStatus(failure);
+    return failure;
 }
 
 }  // namespace horvanta

@@ -12,6 +12,12 @@
 /// The per-user settings: application, section, key and a text. Every value is text; what can't be read is its default.
 namespace horvanta {
 
+/// What the user has to be told of a flush, in sentences.
+struct FlushReport {
+    std::string failure;  ///< Why not everything is on the disk; empty if it is.
+    std::string kept;     ///< Where settings are kept that were forgotten or could not be read; empty if none were.
+};
+
 class SettingsStore {
   public:
     virtual ~SettingsStore() = default;
@@ -22,10 +28,13 @@ class SettingsStore {
     virtual void Write(std::string_view application, std::string_view section, std::string_view key,
                        std::string_view text) = 0;
     virtual void DeleteSection(std::string_view application, std::string_view section) = 0;
+
+    /// Forgets everything of an application. What the disk holds of it is kept aside at the next flush.
     virtual void DeleteApplication(std::string_view application) = 0;
 
-    /// Brings everything written so far onto the disk, replacing the old settings in one step.
-    virtual void Flush() = 0;
+    /// Brings everything written so far onto the disk, replacing the old settings in one step; if that fails they stay
+    /// as they were.
+    virtual FlushReport Flush() = 0;
 };
 
 /// The application that holds the program's options, and the one that holds what a reset of those leaves alone.
@@ -123,5 +132,9 @@ Setting KeptRow(std::string_view section, std::string_view key, std::string_view
 
 /// Forgets all the program's options. What belongs to `UserSettings` stays.
 void DeleteAllPrefs();
+
+/// Brings the settings onto the disk. Returns why that failed, which a beep and the status bar have told; empty if it
+/// did not.
+std::string FlushSettings();
 
 }  // namespace horvanta

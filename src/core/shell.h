@@ -140,6 +140,7 @@ class HorvantaMDI {
       MenuItem SavePreferences{FileMenu, "SavePreferences", "Save &Preferences", "Ctrl+S"};
       MenuItem SaveThisMoment{FileMenu, "SaveThisMoment", "Save This &Moment"};
       MenuItem JumpTo{FileMenu, "JumpTo", "&Jump To..."};
+        MenuItem JumpToDate{JumpTo, "JumpToDate", "&Date...", "Ctrl+G"};
         MenuItem JumpToSaved{JumpTo, "JumpToSaved", "&Saved Moment"};
         MenuItem MenuJumpToToday{JumpTo, "MenuJumpToToday", "&Today (at midnight)"};
         MenuItem MenuJumpToNow{JumpTo, "MenuJumpToNow", "&Now (date and time)"};
@@ -155,6 +156,8 @@ class HorvantaMDI {
 
     MenuItem UndoMenu{menuBar, "UndoMenu", "&Undo"};
       MenuItem UndoLastColorChange{UndoMenu, "UndoLastColorChange", "Undo Last &Color Change"};
+      MenuItem Back{UndoMenu, "Back", "&Back", "Alt+Left"};
+      MenuItem Forward{UndoMenu, "Forward", "&Forward", "Alt+Right"};
 
     MenuItem LocaleMenu{menuBar, "LocaleMenu", "&Locale"};
       MenuItem UDLs{LocaleMenu, "UDLs", "User-Defined Locales..."};

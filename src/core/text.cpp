@@ -3,7 +3,10 @@
 #include <algorithm>
 #include <array>
 #include <charconv>
+#include <iterator>
+#include <optional>
 #include <span>
+#include <utility>
 
 namespace horvanta {
 namespace {
@@ -302,6 +305,70 @@ std::string_view FromCharacter(std::string_view text, int n) {
         if (!continuation && ++character == n) return text.substr(i);
     }
     return {};
+}
+
+std::string Elided(std::string_view text, std::size_t most) {
+    const std::string_view rest = FromCharacter(text, static_cast<int>(most) + 1);
+    if (rest.empty()) return std::string(text);
+    const std::string_view last = FromCharacter(text, static_cast<int>(most));
+    return std::string(text.substr(0, text.size() - last.size())) + "…";
+}
+
+namespace {
+
+/// What no name holds: the controls, the ends of lines and paragraphs, and the marks that turn the direction of what
+/// stands behind them.
+constexpr std::pair<char32_t, char32_t> unnameable[] = {
+    {0, 0x1F},        {0x7F, 0x9F},     {0x2028, 0x202E}, {0x2066, 0x2069},
+    {0xD800, 0xDFFF}, {0xFDD0, 0xFDEF}, {0xFEFF, 0xFEFF}, {0xFFF9, 0xFFFF},
+};
+
+bool isNameable(char32_t c) {
+    return c <= 0x10FFFF &&
+           std::ranges::none_of(unnameable, [c](const auto& range) { return c >= range.first && c <= range.second; });
+}
+
+/// How many bytes the character at the front of a text takes in UTF-8, and its code; one byte and no code where none
+/// begins.
+struct Character {
+    std::size_t bytes = 1;
+    std::optional<char32_t> code;
+};
+
+Character FrontOf(std::string_view text) {
+    struct Lead {
+        unsigned char mask, bits;
+        std::size_t bytes;
+        char32_t least;
+    };
+    constexpr Lead leads[] = {{0x80, 0, 1, 0}, {0xE0, 0xC0, 2, 0x80}, {0xF0, 0xE0, 3, 0x800}, {0xF8, 0xF0, 4, 0x10000}};
+    const auto front = static_cast<unsigned char>(text.front());
+    const auto* lead = std::ranges::find_if(leads, [front](const Lead& l) { return (front & l.mask) == l.bits; });
+    if (lead == std::end(leads) || text.size() < lead->bytes) return {};
+    auto code = static_cast<char32_t>(front & ~lead->mask);
+    for (const char c : text.substr(1, lead->bytes - 1)) {
+        if ((static_cast<unsigned char>(c) & 0xC0) != 0x80) return {};
+        code = code << 6 | (static_cast<unsigned char>(c) & 0x3F);
+    }
+    return code < lead->least ? Character() : Character{lead->bytes, code};
+}
+
+}  // namespace
+
+std::string NameText(std::string_view name) {
+    constexpr int longest = 60;
+    std::string text;
+    while (!name.empty()) {
+        const auto [bytes, code] = FrontOf(name);
+        if (bytes == 1 && whiteSpace.find(name.front()) != std::string_view::npos) {
+            text += ' ';
+        } else if (code && isNameable(*code)) {
+            text += name.substr(0, bytes);
+        }
+        name.remove_prefix(bytes);
+    }
+    const std::string_view trimmed = Trimmed(text);
+    return std::string(Trimmed(trimmed.substr(0, trimmed.size() - FromCharacter(trimmed, longest + 1).size())));
 }
 
 std::string ReplaceAll(std::string_view text, std::string_view what, std::string_view with) {

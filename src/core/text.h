@@ -2,6 +2,7 @@
 
 #include "core/numerics.h"
 
+#include <cstddef>
 #include <cstdint>
 #include <optional>
 #include <string>
@@ -102,6 +103,13 @@ std::string_view Trimmed(std::string_view text);
 
 /// The text from the n-th character on, the first being 1; empty if it has fewer.
 std::string_view FromCharacter(std::string_view text, int n);
+
+/// The text within `most` characters: a longer one ends in "…".
+std::string Elided(std::string_view text, std::size_t most);
+
+/// A name that the user gave, as it can stand anywhere: trimmed, without control characters and bytes that are none of
+/// a character, white space as blanks, at most 60 characters.
+std::string NameText(std::string_view name);
 
 /// Replaces every `what` in the text from left to right; an empty `what` changes nothing.
 std::string ReplaceAll(std::string_view text, std::string_view what, std::string_view with);

@@ -1,5 +1,6 @@
 #include "qt/binder.h"
 
+#include "core/moment.h"
 #include "qt/keys.h"
 
 #include <QApplication>
@@ -112,11 +113,13 @@ bool Binder::AskForKey(const Control* control, const QKeyEvent& event) {
     if (code == 0 || !(controlAsked || formAsked)) return false;
     if (event.isAutoRepeat() && acts_.isPaintPending()) return true;
     bool used = false;
+    KeyHeld = event.isAutoRepeat();
     acts_.Run(
         [&, key = code, held = shift] {
             used = (controlAsked && control->KeyDown(key, held)) || (formAsked && form_.KeyDown(key, held));
         },
         control && control->whileBusy);
+    KeyHeld = false;
     return used;
 }
 

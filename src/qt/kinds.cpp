@@ -1,4 +1,5 @@
 #include "qt/cell_grid_widget.h"
+#include "qt/day_strip_widget.h"
 #include "qt/face.h"
 #include "qt/grid_widget.h"
 #include "qt/keys.h"
@@ -218,6 +219,7 @@ constexpr Kind kinds[] = {
     KindOf<OwnFace<StatusBar, StatusBarWidget>>,
     KindOf<OwnFace<CellGrid, CellGridWidget>>,
     KindOf<OwnFace<Grid, GridWidget>>,
+    KindOf<OwnFace<DayStrip, DayStripWidget>>,
 };
 
 }  // namespace

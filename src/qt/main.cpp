@@ -1,6 +1,5 @@
 #include "app/horvanta.h"
-#include "app/stored_settings.h"
-#include "core/moment.h"
+#include "astro/ephemeris_files.h"
 #include "qt/command_line.h"
 #include "qt/first_paint.h"
 #include "qt/qt_desktop.h"
@@ -9,7 +8,11 @@
 
 #include <QApplication>
 #include <QIcon>
+#include <QStandardPaths>
 #include <QTimer>
+
+#include <cstdio>
+#include <optional>
 
 namespace {
 
@@ -25,10 +28,31 @@ void TakePicture(horvanta::Horvanta& program, horvanta::Frame& frame) {
     });
 }
 
-/// Ends after the first paint of all windows if the environment asks for it, so that the start can be timed.
+/// Ends after the first paint of all windows if the environment asks for it, so that the start can be timed, or what
+/// it makes of the settings be seen.
 void EndAfterPaint(horvanta::Horvanta& program, horvanta::Frame& frame) {
-    if (qEnvironmentVariable("HORVANTA_END_AFTER") != QStringLiteral("paint")) return;
-    new horvanta::FirstPaint(frame, [&program] { program.QuitWithoutSavePrefs_Click(); });
+    const QString wish = qEnvironmentVariable("HORVANTA_END_AFTER");
+    if (wish == QStringLiteral("paint")) {
+        new horvanta::FirstPaint(frame, [&program] { program.QuitWithoutSavePrefs_Click(); });
+    } else if (wish == QStringLiteral("save")) {
+        new horvanta::FirstPaint(frame, [&program] { program.EndSession(); });
+    }
+}
+
+/// How a start ends that is not the first; nothing for the first.
+std::optional<int> StatusOf(horvanta::SingleInstance::Outcome outcome) {
+    using Outcome = horvanta::SingleInstance::Outcome;
+    if (outcome == Outcome::First) return std::nullopt;
+    if (outcome == Outcome::Answered) return 0;
+    std::fputs("Horvanta is running already, but does not answer.\n", stderr);
+    return 1;
+}
+
+/// The ephemeris files lie beside the program, or in the user's data.
+void TellWhereEphemeridesAre() {
+    const QString data = QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation);
+    horvanta::ephemeris::SetFolders(
+        {QCoreApplication::applicationDirPath().toStdString(), (data + QStringLiteral("/Horvanta")).toStdString()});
 }
 
 }  // namespace
@@ -41,16 +65,15 @@ int main(int argc, char* argv[]) {
     QApplication::setWindowIcon(QIcon(QStringLiteral(":/horvanta.png")));
 
     horvanta::SingleInstance instance;
-    if (!instance.Claim()) return 0;
+    if (const auto status = StatusOf(instance.Claim())) return *status;
 
+    TellWhereEphemeridesAre();
     horvanta::QtDesktop desktop;
     horvanta::CurrentDesktop = &desktop;
     horvanta::Horvanta program;
     horvanta::SessionEnd sessionEnd;
-    sessionEnd.Save = [&program] {
-        if (horvanta::BusyCount == 0) SavePrefs(program);
-    };
-    sessionEnd.Close = [&desktop] { return desktop.frame()->close(); };
+    sessionEnd.Save = [&program] { program.SaveSession(); };
+    sessionEnd.End = [&program] { program.EndSession(); };
     program.Start();
     desktop.frame()->Draw();
     instance.ComeForward = [&desktop] { desktop.frame()->ComeForward(); };

@@ -13,6 +13,7 @@
 #include <QGridLayout>
 #include <QInputDialog>
 #include <QMessageBox>
+#include <QStatusBar>
 #include <QUrl>
 
 #include <algorithm>
@@ -55,6 +56,8 @@ void QtDesktop::LetEventsRun() {
 }
 
 void QtDesktop::Beep() { QApplication::beep(); }
+
+void QtDesktop::ShowStatus(std::string_view line) { frame_->statusBar()->showMessage(QString::fromUtf8(line)); }
 
 bool QtDesktop::AskYesNo(std::string_view question, std::string_view title) {
     constexpr auto buttons = QMessageBox::Yes | QMessageBox::No;

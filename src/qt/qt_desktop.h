@@ -15,6 +15,7 @@ class QtDesktop final : public Desktop {
     void LoadForm(Form& form) override;
     void LetEventsRun() override;
     void Beep() override;
+    void ShowStatus(std::string_view line) override;
     bool AskYesNo(std::string_view question, std::string_view title) override;
     YesNoCancel AskYesNoCancel(std::string_view question, std::string_view title) override;
     std::optional<std::string> AskText(std::string_view prompt, std::string_view title,

@@ -1,13 +1,14 @@
 #include "qt/session_end.h"
 
 #include <QGuiApplication>
-#include <QTimer>
 
 #include <array>
 #include <cerrno>
 #include <csignal>
+#include <cstdlib>
 #include <fcntl.h>
 #include <unistd.h>
+#include <utility>
 
 namespace horvanta {
 namespace {
@@ -32,6 +33,13 @@ void Catch(int signal) {
     sigaction(signal, &action, nullptr);
 }
 
+SessionEnd* living = nullptr;
+
+/// The toolkit leaves the process at once when it loses the display, as at the end of a session without a manager.
+void SaveAtExit() {
+    if (living) std::exchange(living, nullptr)->Save();
+}
+
 int OpenPipe() {
     if (pipe2(signalPipe, O_CLOEXEC | O_NONBLOCK) != 0) return -1;
     for (const int signal : {SIGTERM, SIGINT, SIGHUP}) Catch(signal);
@@ -45,16 +53,14 @@ SessionEnd::SessionEnd() : notifier_(OpenPipe(), QSocketNotifier::Read) {
         std::array<char, 16> bytes;
         while (read(signalPipe[0], bytes.data(), bytes.size()) > 0) {
         }
-        TryToClose();
+        End();
     });
     QObject::connect(
         qGuiApp, &QGuiApplication::commitDataRequest, &notifier_, [this] { Save(); }, Qt::DirectConnection);
+    living = this;
+    [[maybe_unused]] static const int registered = std::atexit(SaveAtExit);
 }
 
-/// Asks again while the program is busy.
-void SessionEnd::TryToClose() {
-    constexpr int pause = 100;  // milliseconds
-    if (!Close()) QTimer::singleShot(pause, &notifier_, [this] { TryToClose(); });
-}
+SessionEnd::~SessionEnd() { living = nullptr; }
 
 }  // namespace horvanta

@@ -251,6 +251,10 @@ void TimeAstro::SetFixedDayNumberToolTip() {
     FixedDayNumLabel.text = scale + " Day Number";
     FixedDayNum.tooltip =
         scale + " Days relative to day 1 on " + FixedToGregorianString(1) + " (Gregorian) at Midnight";
+    const GregorianDate dayOne = FixedToGregorianDate(1);
+    DayOne.text = "1 = " + std::string(GregorianMonthNames[dayOne.month - 1].substr(0, 3)) + " " +
+                  std::to_string(dayOne.day) + ", " + std::to_string(dayOne.year);
+    DayOne.tooltip = FixedDayNum.tooltip;
     UT.text = scale + " Time";
     TimeOfDay.tooltip = UT.text + " (" + scale.front() + "T) at displayed day fraction, click for local times";
     UT.tooltip = "Click for local times";

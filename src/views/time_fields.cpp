@@ -12,7 +12,9 @@
 #include "core/moment.h"
 #include "core/text.h"
 #include "locale/locale_text.h"
+#include "views/day_strip.h"
 
+#include <algorithm>
 #include <cmath>
 #include <functional>
 #include <iterator>
@@ -145,6 +147,10 @@ void TimeFields::HangHandlers() {
     ShowDawnDusk.Click = [this] { ShowDawnDusk_Click(); };
     JD_MJD_Toggle.Click = [this] { JD_MJD_Toggle_Click(); };
     Orbital_RAY_Toggle.Click = [this] { Orbital_RAY_Toggle_Click(); };
+    DayLight.TellTime = [](double time) {
+        const Moment clock = Floor(DisplayedMoment) + time;
+        return SunAtText(StandardToUniversal(DaylightToStandard(clock)));
+    };
     JD_MJD.Click = [this] { Copy(JD_MJD, GeneralText(JulianDayShown(DisplayedMoment))); };
     Orbital_RAY_Date.Click = [this] { Copy(Orbital_RAY_Date, GeneralText(YearsShown(DisplayedMoment))); };
     EoT.Click = [this] { Copy(EoT, SignedStr(EquationOfTime(DisplayedMoment) * minutesPerDay) + " minutes"); };
@@ -180,6 +186,27 @@ void TimeFields::ShowDay() {
                                  ClockText(sunset)};
     static_assert(std::size(texts) == std::size(legends));
     for (std::size_t i = 0; i < std::size(texts); ++i) DawnDusk.panels[i].text = texts[i];
+    ShowLight(day, isNever(sunrise) || isNever(sunset));
+}
+
+/// The strip, and in the tooltips of the panels at the horizon why there is no sunrise or sunset.
+void TimeFields::ShowLight(FixedDay day, bool noHorizon) {
+    const Moment standardTime = UniversalToStandard(DisplayedMoment);
+    const Moment clock = StandardToDaylight(standardTime);
+    DayLight.day = DayOfLight(day);
+    DayLight.time = clock - Floor(clock);
+    DayLight.text = StripSentence(DayLight.day, DisplayedMoment);
+    ClockLabel.text = "Clock time, " + ZoneText(Locale.Zone + (clock - standardTime) * 24, Locale.UseLMT);
+    SetSunBelowHorizon();
+    const bool up = DayLight.day.spans.front().light == DayStrip::Light::Daylight;
+    const bool allDay = noHorizon && DayLight.day.spans.size() == 1 && up;
+    const bool neverUp = noHorizon && std::ranges::none_of(DayLight.day.spans, [](const DayStrip::Span& span) {
+                             return span.light == DayStrip::Light::Daylight;
+                         });
+    if (!allDay && !neverUp) return;
+    for (const std::size_t index : panelsAtHorizon) {
+        DawnDusk.panels[index].tooltip = allDay ? "Sun up all day" : "Sun down all day";
+    }
 }
 
 void TimeFields::ShowAstronomy() {
@@ -288,7 +315,10 @@ Settings TimeFields::StoredRows() {
 }
 
 void TimeFields::SetToggles() {
-    DawnDusk.visible = DawnDuskLegends.visible = time_fields::options.ShowsDawnDusk;
+    for (Control* part : {static_cast<Control*>(&DawnDuskLegends), static_cast<Control*>(&DawnDusk),
+                          static_cast<Control*>(&DayLight), static_cast<Control*>(&ClockLabel)}) {
+        part->visible = time_fields::options.ShowsDawnDusk;
+    }
     SetWords(JD_MJD_Toggle, JD_MJD, julianDayWords[time_fields::options.ShowsModifiedJulianDay]);
     SetWords(Orbital_RAY_Toggle, Orbital_RAY_Date, yearWords[time_fields::options.ShowsRAYDate]);
 }

@@ -174,7 +174,7 @@ UserLocalesWindow::Entry UserLocalesWindow::EntryOfSlot() const {
 
 UserLocalesWindow::Entry UserLocalesWindow::Entered() const {
     Entry entry;
-    entry.name = Trimmed(LocName.text);
+    entry.name = NameText(LocName.text);
     for (std::size_t i = 0; i < NumberFields; ++i) {
         if (i != ElevationField) entry.numbers[i] = fields_[i].field.text;
     }
@@ -337,7 +337,8 @@ void UserLocalesWindow::SelectSlot(double number) {
 
 void UserLocalesWindow::SetCopyLocToolText() {
     const std::string number = "User-Defined Locale " + std::to_string(slot);
-    CopyLoc.text = "&Copy  \"" + ReplaceAll(Locale.Location, "&", "&&") + "\"\nto " + number;
+    constexpr std::size_t room = 30;  // characters, so that the buttons below stay in the window
+    CopyLoc.text = "&Copy  \"" + ReplaceAll(Elided(Locale.Location, room), "&", "&&") + "\"\nto " + number;
     CopyLoc.tooltip = "Copy locale settings from \"" + Locale.Location + "\" to " + number;
 }
 
@@ -385,7 +386,7 @@ bool UserLocalesWindow::isZoneMeant() const {
 
 bool UserLocalesWindow::ApplyLoc_Click() {
     if (!TakeFields() || !isZoneMeant()) return false;
-    const std::string entered(Trimmed(LocName.text));
+    const std::string entered = NameText(LocName.text);
     const std::string name = entered.empty() ? SlotName(slot) : entered;
     const auto zone = TimeZone.text.empty() ? std::nullopt : std::optional(ValueOf(ZoneField));
     const double latitude = SizeOfAngle(LatitudeFields) * (south_ ? -1 : 1);

@@ -61,7 +61,7 @@ TEST(Start, FindsWhatTheLastRunSaved) {
 /// A start that is killed leaves the mark empty, and whatever it choked on is gone at the next.
 TEST(Start, ClearsTheSettingsAfterAStartThatDidNotFinish) {
     struct KilledDesktop : RecordingDesktop {
-        void LoadForm(Form&) override { throw 1; }
+        void LetEventsRun() override { throw 1; }
     } killed;
     killed.settings.values = SettingsOf({{"Item", "RD", "1000"}, {"TimeAstro", "Chk", "False"}});
     killed.settings.values["Horvanta-UDLs"]["User 1"]["Name"] = "Home";
@@ -78,6 +78,8 @@ TEST(Start, ClearsTheSettingsAfterAStartThatDidNotFinish) {
     EXPECT_EQ(DisplayedMoment, 8415);
     EXPECT_TRUE(stepping::options.AlwaysToday);
     EXPECT_EQ(desk.desktop.settings.values["Horvanta-UDLs"]["User 1"]["Name"], "Home");
+    EXPECT_EQ(desk.desktop.settings.kept["Horvanta"]["Item"]["RD"], "1000");
+    EXPECT_EQ(desk.Obey("status"), "\"The former settings are kept.\"");
 }
 
 TEST(Start, TakesDefaultsForDamagedSettings) {
@@ -115,6 +117,48 @@ TEST(End, HasFourWays) {
         EXPECT_EQ(desk.desktop.settings.Read(ProgramSettings, "Item", "RD").value_or("none"), moment) << item;
         EXPECT_EQ(desk.desktop.settings.Read(ProgramSettings, "Color", "AFC").value_or("none"), foreground) << item;
     }
+}
+
+/// The user hears of it in three ways, and may stay to make room; nothing that was on the disk goes.
+TEST(End, TellsThatTheSettingsCouldNotBeSaved) {
+    for (const char* item : {"MenuExit", "ResetPrefsAndQuit", "ResetColorsAndQuit"}) {
+        Desk desk;
+        desk.Obey("menu SavePreferences");
+        EXPECT_EQ(desk.Obey("status"), "\"The settings are saved.\"");
+        const StoredSettings before = desk.desktop.settings.flushed;
+        desk.desktop.settings.refusal = "The disk is full.";
+        desk.Obey("menu SavePreferences");
+        EXPECT_EQ(desk.Obey("asked"), "beep; box \"Save Preferences\" \"The disk is full.\"");
+        EXPECT_EQ(desk.Obey("status"), "\"The disk is full.\"");
+        desk.Obey("answer no");
+        desk.Obey(std::string("menu ") + item);
+        EXPECT_FALSE(desk.desktop.ended) << item;
+        EXPECT_TRUE(desk.program.timeAstro.form.visible);
+        EXPECT_EQ(desk.Obey("asked"), "beep; box \"Quit\" \"The disk is full.\\n\\nQuit all the same?\" no");
+        EXPECT_EQ(desk.desktop.settings.flushed, before) << item;
+        desk.desktop.settings.refusal.clear();
+        desk.Obey("menu SavePreferences");
+        EXPECT_EQ(desk.desktop.settings.flushed["Horvanta"]["Item"], before.at("Horvanta").at("Item")) << item;
+        desk.desktop.settings.refusal = "The disk is full.";
+        desk.Obey("answer yes");
+        desk.Obey(std::string("menu ") + item);
+        EXPECT_TRUE(desk.desktop.ended) << item;
+    }
+}
+
+/// What is being entered and was not applied is neither saved nor asked about.
+TEST(End, OfTheSessionSavesWithoutAQuestion) {
+    Desk desk;
+    desk.Obey("menu SetUserLoc");
+    desk.Obey("type User.LocName Home");
+    desk.Obey("click User.ApplyLoc");
+    desk.Obey("type User.LocName Away");
+    desk.Obey("press Plus");
+    desk.Obey("asked");
+    desk.program.EndSession();
+    EXPECT_TRUE(desk.desktop.ended);
+    EXPECT_EQ(desk.Obey("asked"), "none");
+    EXPECT_EQ(desk.desktop.settings.flushed["Horvanta-UDLs"]["User 1"]["Name"], "Home");
 }
 
 TEST(Keys, MoveTheMoment) {

@@ -2,6 +2,7 @@
 
 #include "astro/timescales.h"
 #include "core/moment.h"
+#include "core/settings_text.h"
 #include "core/text.h"
 #include "desk.h"
 #include "hebrew/hebrew_options.h"
@@ -28,7 +29,7 @@ constexpr Row rows[] = {
     {"Monthly", "Top", "75"}, {"Monthly", "Chk", "False"}, {"Quartane", "Left", "345"}, {"Julian", "Chk", "True"},
     {"Events", "Top", "90"}, {"Events", "Chk", "False"}, {"Hebrew", "Chk", "False"}, {"User", "Chk", "True"},
     {"Lunar", "Chk", "False"}, {"Persian", "Chk", "True"}, {"Chinese", "Chk", "True"}, {"Chinese", "Left", "105"},
-    {"Item", "FixOpt", "2"}, {"Item", "GE", "1"}, {"Item", "FixEpoch", "61"}, {"Item", "FixNam", "rata die"},
+    {"Item", "FixOpt", "2"}, {"Item", "GE", "1"}, {"Item", "FixEpoch", "1"}, {"Item", "FixNam", "rata die"},
     {"Item", "EW", "9000"}, {"Item", "EH", "4000"}, {"Item", "Step", "5"}, {"Item", "Year", "False"},
     {"Item", "OrbRAY", "RAY Date"}, {"Item", "JDMJD", "Mod Jul Day"}, {"Item", "Qua454", "False"},
     {"Item", "QuaQS", "LSS"}, {"Item", "QuaLeap", "71/400"}, {"Item", "QuaStart", "2"}, {"Item", "UseZov454", "True"},
@@ -57,7 +58,7 @@ std::string TextOf(StoredSettings& settings, const Row& row) { return settings["
 TEST(StoredSettings, ComeBackAsTheyWereSaved) {
     Desk desk(AllRows());
     EXPECT_EQ(DisplayedMoment, 739000.125);
-    EXPECT_EQ(FixedEpochValue, 61);
+    EXPECT_EQ(FixedEpochValue, 1);
     EXPECT_EQ(Increment, 3652.42189);
     EXPECT_TRUE(DeltaTDisabled);
     EXPECT_EQ(Locale, PresetLocale("Tehran"));
@@ -89,9 +90,8 @@ TEST(StoredSettings, TakeDefaultsForDamage) {
             EXPECT_EQ(neighbour, row[1] == std::string("AFC") ? "0" : "2") << row[1] << " " << damage;
         }
     }
-    constexpr Row owned[] = {{"Item", "GE"},  {"Item", "Step"}, {"Item", "dT"},
-                             {"Item", "Map"}, {"Color", "GBC"}, {"Gregorian", "Chk"},
-                             {"Item", "THC"}, {"Item", "LOC"},  {"Item", "AdjDST"}};
+    constexpr Row owned[] = {{"Item", "Step"}, {"Item", "dT"},       {"Item", "Map"}, {"Color", "GBC"},
+                             {"Item", "THC"},  {"Gregorian", "Chk"}, {"Item", "LOC"}, {"Item", "AdjDST"}};
     for (const Row& row : owned) {
         StoredSettings settings = AllRows();
         settings["Horvanta"][row[0]][row[1]] = "beige";
@@ -149,12 +149,32 @@ TEST(StoredSettings, ReadNumbersAsTheyAreWritten) {
     EXPECT_EQ(hebrew::options.MoladTimeFormat, 7);
 }
 
+/// A damaged line for the displayed moment, or for whether to start with today, costs neither the other nor the saved
+/// moment or the step.
+TEST(StoredSettings, KeepMomentsApart) {
+    for (const char* damage : {"", "beige"}) {
+        StoredSettings settings = AllRows();
+        settings["Horvanta"]["TimeAstro"]["Chk"] = damage;
+        {
+            const Desk desk(settings);
+            EXPECT_EQ(DisplayedMoment, 739000.125);
+        }
+        settings = AllRows();
+        settings["Horvanta"]["Item"]["RD"] = damage;
+        const Desk desk(settings);
+        EXPECT_EQ(DisplayedMoment, 738900);
+        EXPECT_EQ(SavedMoment, 700000.5);
+        EXPECT_EQ(stepping::options.StepIndex, 5);
+    }
+}
+
 /// The numbering is that of the last run, its date and its jump too.
 TEST(StoredSettings, KeepTheDateUnderEveryNumbering) {
     for (const double epoch : {1.0, -730484.0, 1721426.0, -678575.0, 1373430.0}) {
         StoredSettings left = AllRows();
         {
             Desk desk(left);
+            desk.program.options.SetFixedDayNumberingOption(1);
             ChangeFixedDayEpoch(GregorianEpoch + 1 - epoch, 0.5, "mine");
             desk.Obey("menu MenuExit");
             left = desk.desktop.settings.flushed;
@@ -168,12 +188,63 @@ TEST(StoredSettings, KeepTheDateUnderEveryNumbering) {
     }
 }
 
-TEST(StoredSettings, OfAnOlderLayoutAreCleared) {
+/// Whatever one row of the numbering says, or two that contradict each other, no saved date moves.
+TEST(StoredSettings, TellTheNumberingByTheRowsThatCanBeRead) {
+    const Row damages[] = {{"FixOpt", "beige"}, {"FixOpt", "13"},  {"GE", ""},         {"GE", "beige"},
+                           {"GE", "-730484"},   {"GE", "1e300"},   {"FixEpoch", "-3"}, {"FixEpoch", "beige"},
+                           {"GE", "12345"},     {"FixNam", "\x01"}};
+    for (std::int32_t option = 2; option <= 12; ++option) {
+        StoredSettings left = AllRows();
+        {
+            Desk desk(left);
+            desk.program.options.SetFixedDayNumberingOption(option);
+            desk.Obey("menu MenuExit");
+            left = desk.desktop.settings.flushed;
+        }
+        const double first = GregorianEpoch;
+        const double value = FixedEpochValue;
+        for (const auto& [key, text, none] : damages) {
+            StoredSettings damaged = left;
+            damaged["Horvanta"]["Item"][key] = text;
+            const Desk desk(damaged);
+            EXPECT_EQ(GregorianEpoch, first) << option << " " << key << " " << text;
+            EXPECT_EQ(FixedEpochValue, value) << option << " " << key << " " << text;
+            EXPECT_NEAR(DisplayedMoment - GregorianEpoch, 738999.125, 1e-9) << option << " " << key << " " << text;
+        }
+    }
+}
+
+TEST(StoredSettings, OfAnOlderLayoutAreClearedAndKept) {
     StoredSettings settings = AllRows();
+    settings["Horvanta"]["Events"]["Top"] = "beige";
+    {
+        const Desk desk(settings);
+        EXPECT_EQ(Locale.Name, "Tehran");
+        EXPECT_EQ(desk.desktop.status, "");
+    }
     settings["Horvanta"].erase("Events");
-    const Desk desk(settings);
+    Desk desk(settings);
     EXPECT_EQ(Locale.Name, "Greenwich");
     EXPECT_EQ(stepping::options.StepIndex, 1);
+    EXPECT_EQ(desk.desktop.settings.kept["Horvanta"]["Item"]["LOC"], "Tehran");
+    EXPECT_EQ(desk.desktop.status, "The former settings are kept.");
+}
+
+/// A file that was cut anywhere has all its keys up to there, and starts.
+TEST(StoredSettings, OfACutFileAreTakenAsFarAsTheyGo) {
+    const StoredSettings all = AllRows();
+    const std::string text = SettingsText("Horvanta", all.at("Horvanta"));
+    for (std::size_t end = 0; end <= text.size(); end += 41) {
+        StoredSettings cut = all;
+        cut["Horvanta"] = ReadSettingsText(text.substr(0, end)).values;
+        const bool hasLayout = cut["Horvanta"]["Events"].contains("Top");
+        const bool hasColor = cut["Horvanta"]["Color"].contains("GBC");
+        Desk desk(cut);
+        EXPECT_TRUE(desk.desktop.asked.empty());
+        EXPECT_EQ(desk.desktop.settings.flushed["Horvanta"]["Prog"]["Launch"], "OK") << end;
+        const Color background = desk.program.gregorian.GregorianDate.colors->background;
+        EXPECT_EQ(background == Color::FromNumber(3), hasLayout && hasColor) << end;
+    }
 }
 
 TEST(StoredSettings, ChooseTheUsersOwnPlaceWithoutAQuestion) {

@@ -54,7 +54,7 @@ TEST(MoonEvents, MissNoDay) {
                 if (!isNever(looked) && edge < 0.0005) continue;
                 EXPECT_EQ(isNever(found), isNever(looked));
                 if (isNever(found)) continue;
-                EXPECT_NEAR((found - looked) * 1440, 0, 1.5);
+                EXPECT_NEAR((found - looked) * 1440, 0, 2);
                 EXPECT_EQ(Floor(found), day);
             }
         }

@@ -22,8 +22,8 @@ TEST(MoonClock, AddsTheDaylightHour) {
     EXPECT_EQ(MoonriseDST(none, place), NeverMoment);
     for (const FixedDay day : {summer, winter}) {
         const Moment clockTime = MoonriseDST(day, place);
-        EXPECT_EQ(lunar::Azimuth(clockTime, place),
-                  lunar::Bearing(StandardToUniversal(Moonrise(day, place), place), place));
+        EXPECT_NEAR(lunar::Azimuth(clockTime, place),
+                  lunar::Bearing(StandardToUniversal(Moonrise(day, place), place), place), 1e-6);
         EXPECT_NEAR(lunar::Azimuth(clockTime, place), 90, 45) << "it rises in the east";
     }
 }

@@ -128,5 +128,25 @@ TEST(Text, IsCountedInCharacters) {
     EXPECT_EQ(ReplaceAll("aaa", "aa", "b"), "ba");
 }
 
+/// Whatever was typed, pasted or left in a damaged file.
+TEST(NameText, CanStandAnywhere) {
+    const std::string letters(70, 'x');
+    const std::pair<std::string, std::string> rows[] = {
+        {"  Kfar Saba\t\n", "Kfar Saba"},
+        {"a\tb\nc", "a b c"},
+        {"a\x01\x7F\xC2\x85\xE2\x80\xA8z", "az"},
+        {"\xE2\x80\xAE moc", "moc"},
+        {"\xFF\xC0\xAF\xED\xA0\x80é", "é"},
+        {"ירושלים\xD7", "ירושלים"},
+        {letters, letters.substr(0, 60)},
+        {"\xF0\x9F\x8C\x8D", "\xF0\x9F\x8C\x8D"},
+        {" \x01 ", ""},
+        {"<b>&[*]\"", "<b>&[*]\""},
+        {letters.substr(0, 59) + " é" + letters, letters.substr(0, 59)}};
+    for (const auto& [name, text] : rows) EXPECT_EQ(NameText(name), text);
+    EXPECT_EQ(Elided("ירושלים", 7), "ירושלים");
+    EXPECT_EQ(Elided("ירושלים", 4), "ירו…");
+}
+
 }  // namespace
 }  // namespace horvanta

@@ -11,7 +11,6 @@
 #include <QMdiSubWindow>
 #include <QMessageBox>
 #include <QPushButton>
-#include <QSettings>
 #include <QTemporaryDir>
 #include <QTest>
 #include <QTimer>
@@ -22,10 +21,7 @@
 /// A place of its own for the settings of a test.
 class SettingsFolder {
   public:
-    SettingsFolder() {
-        qputenv("XDG_CONFIG_HOME", folder_.path().toUtf8());
-        QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, folder_.path());
-    }
+    SettingsFolder() { qputenv("XDG_CONFIG_HOME", folder_.path().toUtf8()); }
 
     static QString Path() { return horvanta::SettingsFile::PathOf(horvanta::ProgramSettings); }
 

@@ -1,4 +1,6 @@
 #include "astro/crescents.h"
+#include "astro/ephemeris.h"
+#include "astro/ephemeris_files.h"
 #include "astro/local_time.h"
 #include "astro/lunar_phases.h"
 #include "astro/moon.h"
@@ -17,7 +19,15 @@ std::string AnswerOf(const Apsis& apsis) { return RecordAnswer("moment distance"
 
 }  // namespace lunar
 
+namespace ephemeris {
+
+std::string AnswerOf(const Complaint& complaint) { return RecordAnswer("title text", complaint.title, complaint.text); }
+
+}  // namespace ephemeris
+
 namespace {
+
+void SetEphemerisFolder(std::string_view folder) { ephemeris::SetFolders({std::filesystem::path(folder)}); }
 
 /// A convention by its name.
 const LunationConvention& ConventionOf(std::string_view name) {
@@ -146,6 +156,15 @@ std::vector<DeskFunction> AstroFunctions() {
         Row("RASCtoJ2K_Lunation", RASCtoJ2K_Lunation),
         Row("JumpMeanNewMoon", JumpMeanNewMoon),
         Row("NumberedLunation", LunationByName),
+        Row("ephemeris::SetFolder", SetEphemerisFolder),
+        Row("ephemeris::ListedSeason", ephemeris::ListedSeason),
+        Row("ephemeris::ListedQuarter", ephemeris::ListedQuarter),
+        Row("ephemeris::ListedConjunction", ephemeris::ListedConjunction),
+        Row("ephemeris::ComplaintOfYear", ephemeris::ComplaintOfYear),
+        Row("ephemeris::ComplaintOfLunation", ephemeris::ComplaintOfLunation),
+        Row("SolexSolarLongitudeAfter", SolexSolarLongitudeAfter),
+        Row("SolexLunarQuarter", SolexLunarQuarter),
+        Row("LunarQuarter", LunarQuarter),
         PlaceRow("Moonrise", Moonrise),
         PlaceRow("Moonset", Moonset),
         PlaceRow("VisibleCrescent", VisibleCrescent),

@@ -130,12 +130,14 @@ std::string Desk::Obey(std::string_view line) try {
         {"choose", &Desk::Choose},     {"type", &Desk::Type},
         {"answer", &Desk::Answer},     {"show", &Desk::Show},
         {"events", &Desk::Events},     {"asked", &Desk::Asked},
+        {"status", &Desk::Status},
     };
     std::string_view rest = line;
     const std::string_view name = TakeWord(rest);
     const auto* verb = std::ranges::find(verbs, name, &Verb::name);
     if (verb == std::end(verbs)) throw BadLine("no such line: " + std::string(name));
-    if (desktop.ended && verb->obey != &Desk::Asked) throw BadLine("the program has ended");
+    const bool isRecord = verb->obey == &Desk::Asked || verb->obey == &Desk::Status;
+    if (desktop.ended && !isRecord) throw BadLine("the program has ended");
     const std::string answer = (this->*verb->obey)(rest);
     desktop.Settle();
     return answer;
@@ -171,8 +173,14 @@ std::string Desk::Get(std::string_view rest) {
 std::string Desk::Press(std::string_view rest) {
     const int code = CodeOf(TakeWord(rest));
     int shift = 0;
-    while (!rest.empty()) shift |= ShiftOf(TakeWord(rest));
-    if (!desktop.Press(code, shift)) throw BadLine("no window has the focus");
+    while (!rest.empty()) {
+        const std::string_view word = TakeWord(rest);
+        KeyHeld = KeyHeld || word == "held";
+        shift |= word == "held" ? 0 : ShiftOf(word);
+    }
+    const bool pressed = desktop.Press(code, shift);
+    KeyHeld = false;
+    if (!pressed) throw BadLine("no window has the focus");
     return "ok";
 }
 
@@ -186,7 +194,7 @@ std::string Desk::Menu(std::string_view rest) {
 
 Control& Desk::ControlInReach(std::string_view name) const {
     Control& control = ControlNamed(name);
-    if (!control.form.visible || !control.visible || !control.enabled) throw BadLine("not shown: " + std::string(name));
+    if (!isInReach(control)) throw BadLine("not in reach: " + std::string(name));
     return control;
 }
 
@@ -208,6 +216,7 @@ std::string Desk::ClickPanel(StatusBar& bar, std::string_view number) {
 }
 
 std::string Desk::ClickArrow(UpDown& arrows, std::string_view direction) {
+    if (!arrows.Step) throw BadLine("nothing happens there");
     if (direction != "up" && direction != "down") throw BadLine("neither up nor down: " + std::string(direction));
     arrows.Step(direction == "up" ? 1 : -1, 0);
     return "ok";
@@ -215,6 +224,7 @@ std::string Desk::ClickArrow(UpDown& arrows, std::string_view direction) {
 
 std::string Desk::ClickCell(CellGrid& grid, std::string_view number) {
     const auto cell = ParseNumber(number);
+    if (!grid.CellClick) throw BadLine("nothing happens there");
     if (!cell || *cell < 0 || *cell >= static_cast<double>(grid.cells.size())) throw BadLine("no such cell");
     desktop.Focus(grid);
     grid.CellClick(WholeNumber<std::size_t>(*cell));
@@ -224,7 +234,12 @@ std::string Desk::ClickCell(CellGrid& grid, std::string_view number) {
 std::string Desk::ClickCell(const Grid& grid, std::string_view place) {
     const auto row = ParseNumber(TakeWord(place));
     const auto column = ParseNumber(place);
-    if (!row || !column || *row < 0 || *column < 0) throw BadLine("takes a row and a column");
+    if (!row || !column) throw BadLine("takes a row and a column");
+    const auto within = [](double number, const auto& list) {
+        return number >= 0 && number < static_cast<double>(list.size());
+    };
+    if (!within(*row, grid.rows) || !within(*column, grid.rows.front())) throw BadLine("no such cell");
+    if (!grid.CellClick) throw BadLine("nothing happens there");
     grid.CellClick(WholeNumber<std::size_t>(*row), WholeNumber<std::size_t>(*column));
     return "ok";
 }
@@ -268,19 +283,21 @@ std::string Desk::DblClick(std::string_view rest) { return Act(rest, &Control::D
 std::string Desk::RightClick(std::string_view rest) { return Act(rest, &Control::RightClick); }
 
 std::string Desk::Focus(std::string_view rest) {
-    desktop.Focus(ControlNamed(rest));
+    desktop.Focus(ControlInReach(rest));
     return "ok";
 }
 
 std::string Desk::Close(std::string_view rest) {
-    const std::function<void()>& close = rest == program.frame.name ? program.frame.Close : FormNamed(rest).Close;
+    const bool isFrame = rest == program.frame.name;
+    if (!isFrame && !FormNamed(rest).visible) throw BadLine("not in reach: " + std::string(rest));
+    const std::function<void()>& close = isFrame ? program.frame.Close : FormNamed(rest).Close;
     if (!close) throw BadLine("can't be closed: " + std::string(rest));
     close();
     return "ok";
 }
 
 std::string Desk::Type(std::string_view rest) {
-    auto* field = dynamic_cast<TextField*>(&ControlNamed(TakeWord(rest)));
+    auto* field = dynamic_cast<TextField*>(&ControlInReach(TakeWord(rest)));
     if (!field || !desktop.Type(*field, rest)) throw BadLine("nothing can be typed there");
     return "ok";
 }
@@ -321,6 +338,8 @@ std::string Desk::Events(std::string_view) {
     }
     return Joined(items);
 }
+
+std::string Desk::Status(std::string_view) { return Quoted(desktop.status); }
 
 std::string Desk::Asked(std::string_view) { return Joined(std::exchange(desktop.asked, {})); }
 

@@ -40,6 +40,7 @@ class Desk {
     std::string Show(std::string_view rest);
     std::string Events(std::string_view rest);
     std::string Asked(std::string_view rest);
+    std::string Status(std::string_view rest);
 
     std::string Choose(std::string_view rest);
     std::string ClickCell(CellGrid& grid, std::string_view number);

@@ -1,4 +1,5 @@
 #include "desk_rows.h"
+#include "hebrew/conjunctions.h"
 #include "hebrew/hebrew_arithmetic.h"
 #include "hebrew/hebrew_modes.h"
 #include "hebrew/molad.h"
@@ -45,6 +46,7 @@ std::vector<DeskFunction> HebrewFunctions() {
         Row("molad", molad),
         Row("MoladBefore", MoladBefore),
         Row("TraditionalMolad", TraditionalMolad),
+        Row("SolexNewMoon", SolexNewMoon),
         Row("TraditionalMomentToLunation", TraditionalMomentToLunation),
         Row("MyMoladMoment", MyMoladMoment),
         Row("MoladDay", MoladDay),

@@ -25,7 +25,20 @@ void MemorySettings::DeleteSection(std::string_view application, std::string_vie
     values[std::string(application)].erase(std::string(section));
 }
 
-void MemorySettings::DeleteApplication(std::string_view application) { values.erase(std::string(application)); }
+void MemorySettings::DeleteApplication(std::string_view application) {
+    const auto found = values.find(application);
+    if (found == values.end()) return;
+    if (isWorthKeeping(found->second)) forgotten_[found->first] = found->second;
+    values.erase(found);
+}
+
+FlushReport MemorySettings::Flush() {
+    if (!refusal.empty()) return {refusal, ""};
+    flushed = values;
+    if (forgotten_.empty()) return {};
+    kept = std::exchange(forgotten_, {});
+    return {"", "The former settings are kept."};
+}
 
 void RecordingDesktop::LoadForm(Form& form) {
     form.position.width = 5000;
@@ -85,15 +98,16 @@ std::optional<Color> RecordingDesktop::ChooseColor(Color present) {
 void RecordingDesktop::SetClipboard(const std::string& text) { asked.push_back("clipboard " + Quoted(text)); }
 
 /// A focused button keeps Space and Enter, a text field Enter and what it uses itself; other keys go to the focused
-/// window.
+/// window. A control that was hidden or disabled since has no keys any more, but its window has.
 bool RecordingDesktop::Press(int code, int shift) {
-    if (!focused) return false;
+    if (!focused || !focused->form.visible) return false;
+    const bool reached = isInReach(*focused);
     auto* field = dynamic_cast<TextField*>(focused);
-    if (TakesClicks(*focused) && (code == KeySpace || code == KeyEnter)) {
+    if (reached && TakesClicks(*focused) && (code == KeySpace || code == KeyEnter)) {
         if (focused->Click) focused->Click();
-    } else if (field && code == KeyEnter) {
+    } else if (reached && field && code == KeyEnter) {
         LeaveField();
-    } else if (focused->KeyDown && focused->KeyDown(code, shift)) {
+    } else if (reached && focused->KeyDown && focused->KeyDown(code, shift)) {
         return true;
     } else if (focused->form.KeyDown) {
         focused->form.KeyDown(code, shift);
@@ -102,8 +116,7 @@ bool RecordingDesktop::Press(int code, int shift) {
 }
 
 bool RecordingDesktop::Type(TextField& field, std::string_view text) {
-    if (!field.visible || !field.enabled) return false;
-    Focus(field);
+    if (!Focus(field)) return false;
     field.text = text;
     LeaveField();
     return true;
@@ -111,25 +124,29 @@ bool RecordingDesktop::Type(TextField& field, std::string_view text) {
 
 void RecordingDesktop::LeaveField() {
     auto* field = dynamic_cast<TextField*>(focused);
-    if (field && field->LostFocus) field->LostFocus();
+    if (field && isInReach(*field) && field->LostFocus) field->LostFocus();
 }
 
-void RecordingDesktop::Focus(Control& control) {
+bool RecordingDesktop::Focus(Control& control) {
+    if (!isInReach(control)) return false;
     if (focused != &control) LeaveField();
     Activate(control);
+    return focused == &control;
 }
 
 void RecordingDesktop::Activate(Control& control) {
-    focused = &control;
+    if (!control.form.visible) return;
+    if (isInReach(control)) focused = &control;
     if (frame_) frame_->activeForm = &control.form;
 }
 
 void RecordingDesktop::Settle() {
     for (Form* form : forms) {
-        Control* wished = std::exchange(form->focusWish, nullptr);
-        if (wished && form->visible) Activate(*wished);
+        if (Control* wished = std::exchange(form->focusWish, nullptr)) Activate(*wished);
     }
 }
+
+bool isInReach(const Control& control) { return control.form.visible && control.visible && control.enabled; }
 
 bool TakesClicks(const Control& control) {
     return dynamic_cast<const Button*>(&control) || dynamic_cast<const CheckBox*>(&control) ||

@@ -1,10 +1,10 @@
 #pragma once
 
 #include "core/desktop.h"
+#include "core/settings_text.h"
 #include "core/shell.h"
 
 #include <deque>
-#include <map>
 #include <optional>
 #include <string>
 #include <vector>
@@ -20,16 +20,16 @@ class MemorySettings final : public SettingsStore {
                std::string_view text) override;
     void DeleteSection(std::string_view application, std::string_view section) override;
     void DeleteApplication(std::string_view application) override;
-    void Flush() override { flushed = values; }
+    FlushReport Flush() override;
 
-    using Section = std::map<std::string, std::string, std::less<>>;
-    using Application = std::map<std::string, Section, std::less<>>;
-    using Applications = std::map<std::string, Application, std::less<>>;
-    Applications values;
-    Applications flushed;  ///< What is on the disk.
+    StoredSettings values;
+    StoredSettings flushed;  ///< What is on the disk.
+    StoredSettings kept;     ///< What was forgotten.
+    std::string refusal;     ///< Why the disk takes nothing; empty while it does.
+
+  private:
+    StoredSettings forgotten_;  ///< Since the last flush.
 };
-
-using StoredSettings = MemorySettings::Applications;
 
 /// What the user does with the next box.
 struct BoxAnswer {
@@ -46,6 +46,7 @@ class RecordingDesktop : public Desktop {
     void LoadForm(Form& form) override;
     void LetEventsRun() override { Settle(); }
     void Beep() override;
+    void ShowStatus(std::string_view line) override { status = line; }
     bool AskYesNo(std::string_view question, std::string_view title) override;
     YesNoCancel AskYesNoCancel(std::string_view question, std::string_view title) override;
     std::optional<std::string> AskText(std::string_view prompt, std::string_view title,
@@ -61,12 +62,13 @@ class RecordingDesktop : public Desktop {
     // What a user does. Each returns false where there is nothing to act on.
     bool Press(int code, int shift);
     bool Type(TextField& field, std::string_view text);
-    void Focus(Control& control);
+    bool Focus(Control& control);
 
     /// Grants the wishes for focus, as a drawing desktop does when an act has returned.
     void Settle();
 
     std::vector<std::string> asked;  ///< Beeps, boxes and clipboard texts, in their order.
+    std::string status;              ///< The line in the status bar.
     std::deque<BoxAnswer> answers;
     std::vector<Form*> forms;
     Control* focused = nullptr;
@@ -82,6 +84,9 @@ class RecordingDesktop : public Desktop {
 
     HorvantaMDI* frame_ = nullptr;
 };
+
+/// Whether a user can act on a control: it is shown and enabled.
+bool isInReach(const Control& control);
 
 /// True for buttons, check boxes and option buttons, which take the focus when they are clicked, and keys as clicks.
 bool TakesClicks(const Control& control);

@@ -1,0 +1,43 @@
+#include "app/history.h"
+
+#include "core/moment.h"
+#include "desk.h"
+
+#include <gtest/gtest.h>
+
+namespace horvanta {
+namespace {
+
+TEST(History, WalksBackAndForwardThroughWhatWasDisplayed) {
+    Desk desk;
+    EXPECT_EQ(desk.Obey("menu Back"), "error: not enabled: Back");
+    const Moment start = DisplayedMoment;
+    for (const char* line : {"type TimeAstro.FixedDayNum 1000", "menu SetParis", "press Up", "press Up held",
+                             "press Up held", "menu SetEpochOptMenu 2", "press PageUp"}) {
+        EXPECT_EQ(desk.Obey(line), "ok");
+    }
+    struct Step {
+        const char* item;
+        double fromStart2001;  ///< Days from January 1, 2001, which was day 1.
+        const char* place;
+    };
+    constexpr Step steps[] = {{"Back", 1003, "Paris"},
+                              {"Back", 1000, "Paris"},
+                              {"Back", 1000, "Greenwich"},
+                              {"Forward", 1000, "Paris"},
+                              {"Forward", 1003, "Paris"}};
+    for (const auto& [item, day, place] : steps) {
+        EXPECT_EQ(desk.Obey(std::string("menu ") + item), "ok");
+        EXPECT_EQ(DisplayedMoment - Epoch2001 + 1, day) << item;
+        EXPECT_EQ(Locale.Name, place) << item << day;
+    }
+    EXPECT_EQ(desk.Obey("asked").find("box"), 0U);  // the move to Paris was reported, and none of the others
+    desk.Obey("press Down");                        // what lay ahead is given up
+    EXPECT_EQ(desk.Obey("menu Forward"), "error: not enabled: Forward");
+    for (const char* item : {"Back", "Back", "Back", "Back"}) EXPECT_EQ(desk.Obey(std::string("menu ") + item), "ok");
+    EXPECT_EQ(DisplayedMoment - Epoch2001 + 1, start);
+    EXPECT_EQ(desk.Obey("menu Back"), "error: not enabled: Back");
+}
+
+}  // namespace
+}  // namespace horvanta
