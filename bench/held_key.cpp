@@ -33,8 +33,9 @@ int main(int argc, char* argv[]) {
     horvanta::CurrentDesktop = &desktop;
     horvanta::Horvanta program;
     program.Start();
-    program.JulianCal_Click();
-    program.PersianCal_Click();
+    for (const auto* item : {&program.frame.JulianCal, &program.frame.PersianCal, &program.frame.OrientCal}) {
+        item->Click();
+    }
     desktop.frame()->Draw();
     QCoreApplication::processEvents();
 

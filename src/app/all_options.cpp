@@ -3,7 +3,9 @@
 #include "app/options.h"
 #include "astro/sun_events.h"
 #include "astro/timescales.h"
+#include "calendars/easter.h"
 #include "calendars/julian.h"
+#include "calendars/oriental.h"
 #include "calendars/quartane_options.h"
 #include "clock/zone_time.h"
 #include "core/moment.h"
@@ -21,12 +23,14 @@ void ResetAllOptions() {
     SetFixedDayEpoch(GregorianEpoch, 1, "rata die");  // January 1 of year 1 is day 1
     SetDeltaTDisabled(false);
     day_numbering::options = {};
+    easter::options = {};
     hebrew::options = {};
     horizon::options = {};
     julian::options = {};
     lunar::options = {};
     RevertToFixedYermCycle();
     monthly::options = {};
+    oriental::options = {};
     quartane::options = {};
     stepping::options = {};
     time_fields::options = {};

@@ -6,6 +6,8 @@
 #include "astro/moon.h"
 #include "astro/sun.h"
 #include "astro/year_dates.h"
+#include "calendars/easter.h"
+#include "calendars/oriental.h"
 #include "calendars/quartane_year_start.h"
 #include "hebrew/holidays.h"
 #include "hebrew/molad.h"
@@ -72,6 +74,11 @@ constexpr EventSearch searches[] = {
     {MenuEvent::MeanPerihelion, [](Moment from, int direction) { return SolarAnomalyPassage(from, 0, direction); }},
     {MenuEvent::MeanAphelion, [](Moment from, int direction) { return SolarAnomalyPassage(from, 180, direction); }},
     {MenuEvent::MoladMoment, JumpMolad},
+    {MenuEvent::ChineseNewYear, oriental::JumpNewYear},
+    {MenuEvent::Easter, JumpEaster},
+    {MenuEvent::UniformEaster, JumpUniformEaster},
+    {MenuEvent::OrthodoxEaster, JumpOrthoEaster},
+    {MenuEvent::FixedEaster, quartane::JumpFixedEaster},
 };
 // clang-format on
 

@@ -12,6 +12,7 @@
 #include "views/julian_window.h"
 #include "views/lunar_window.h"
 #include "views/monthly_window.h"
+#include "views/oriental_window.h"
 #include "views/persian_window.h"
 #include "views/quartane_window.h"
 #include "views/time_astro.h"
@@ -61,6 +62,7 @@ class Horvanta {
     JulianWindow julian{frame};
     HebrewWindow hebrew{frame};
     PersianWindow persian{frame};
+    OrientalWindow oriental{frame};
     QuartaneWindow quartane{frame};
     UserLocalesWindow userLocales{frame};
     WorldWindow world;
@@ -81,6 +83,7 @@ class Horvanta {
         Below(monthly.form, julian.Row()),
         Below(quartane.form, hebrew.Row()),
         Below(gregorian.form, persian.Row()),
+        Beside(gregorian.form, oriental.Row()),
         Beside(monthly.form, userLocales.Row()),
         {world.form, world.Dummy},
         Below(quartane.form, hebrew.Row()),

@@ -1,5 +1,6 @@
 #include "app/options.h"
 
+#include "calendars/easter.h"
 #include "calendars/gregorian.h"
 #include "core/moment.h"
 #include "core/text.h"
@@ -66,6 +67,8 @@ Options::Options(HorvantaMDI& frame) : frame_(frame) {
         item->Click = [this, format] { SetTempHourFormat(format); };
         ++format;
     }
+    frame_.UniformEaster.Shows(easter::options.UniformEaster);
+    frame_.UniformEaster.Click = [] { UniformEaster_Click(); };
 }
 
 namespace {
@@ -137,6 +140,7 @@ void Options::Settle(const ReadNumbering& read) {
 
 Settings Options::StoredRows() {
     return {
+        TruthRow("Item", "WCC", easter::options, &easter::Options::UniformEaster),
         WholeRow("Item", "THC", time_text::options, &time_text::Options::TempHourFormat, 1, 3),
         WholeRow("Item", "Map", web_map::options, &web_map::Options::MapIndex, 1,
                  static_cast<std::int32_t>(decltype(HorvantaMDI::MapServer)::size())),
@@ -174,6 +178,11 @@ void Options::SetLunationCaptions() {
 
 void Options::SetSignedPhase(bool isSigned) {
     lunar::options.SignedPhase = isSigned;
+    UpdateStatus();
+}
+
+void Options::UniformEaster_Click() {
+    easter::options.UniformEaster = !easter::options.UniformEaster;
     UpdateStatus();
 }
 

@@ -40,6 +40,9 @@ class Options {
     /// Names that way in the jumps to lunations; to be called when settings have chosen it.
     void SetLunationCaptions();
 
+    /// Lets Easter stand by the moon of the sky for all churches, or not.
+    static void UniformEaster_Click();
+
     /// Chooses the web map that places are looked up on, by its place in the menu, from 1.
     void MapServer_Click(std::int32_t index);
 

@@ -51,21 +51,6 @@ Setting LayoutMark() {
             []() -> std::optional<std::string> { return std::nullopt; }};
 }
 
-/// What no one owns yet.
-Settings KeptRows() {
-    return {
-        KeptRow("Chinese", "Chk", "False"),
-
-        KeptRow("Color", "ChinBC", "255"),     KeptRow("Color", "ChinFC", "65535"),
-        KeptRow("Color", "JapBC", "16777215"), KeptRow("Color", "JapFC", "217"),
-        KeptRow("Color", "KorBC", "16777215"), KeptRow("Color", "KorFC", "16711680"),
-        KeptRow("Color", "VietBC", "65535"),   KeptRow("Color", "VietFC", "255"),
-
-        KeptRow("Item", "JCY1", "-2697"),      KeptRow("Item", "WCC", "False"),
-        KeptRow("Item", "CEN", "1"),           KeptRow("Item", "CCM", "0"),
-    };
-}
-
 }  // namespace
 
 Settings StoredRows(Horvanta& program) {
@@ -81,7 +66,6 @@ Settings StoredRows(Horvanta& program) {
         Append(rows, row.settings);
     }
     Append(rows, Options::StoredRows());
-    Append(rows, KeptRows());
     return rows;
 }
 

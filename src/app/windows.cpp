@@ -23,9 +23,9 @@ Setting EdgeRow(WindowRow& row, std::string_view key, double Position::*edge) {
             [&row, edge] { return ExactText(row.form.position.*edge); }};
 }
 
-Setting ColorRow(const std::string& key, const WindowColors& colors, const Control& worn, bool isBackground) {
+Setting ColorRow(const std::string& key, const WindowColors& colors, const ColorPair& worn, bool isBackground) {
     return {"Color", key, std::to_string(colors.standard.Part(isBackground).Number()), {}, [&worn, isBackground] {
-                return std::to_string(worn.colors->Part(isBackground).Number());
+                return std::to_string(worn.Part(isBackground).Number());
             }};
 }
 
@@ -58,15 +58,17 @@ Settings PositionRows(WindowRow& row) {
 Settings ColorRows(WindowColors& colors) {
     constexpr std::int32_t white = 0xffffff;
     Settings rows;
+    if (colors.key.empty()) return rows;
     for (const bool isBackground : {true, false}) {
         const std::string ending = isBackground ? "BC" : "FC";
-        rows.push_back(ColorRow(std::string(colors.key) + ending, colors, colors.mainDate, isBackground));
+        rows.push_back(ColorRow(std::string(colors.key) + ending, colors, colors.Chosen(), isBackground));
         rows.back().take = [&colors, isBackground](const std::string& text) {
             return TakeIf(WholeOf(text, 0, white),
                           [&](std::int32_t number) { colors.SetColor(Color::FromNumber(number), isBackground); });
         };
         for (const auto& [control, shade, key] : colors.further) {
-            if (!key.empty()) rows.push_back(ColorRow(std::string(key) + ending, colors, control, isBackground));
+            if (!key.empty())
+                rows.push_back(ColorRow(std::string(key) + ending, colors, *control.colors, isBackground));
         }
     }
     return rows;

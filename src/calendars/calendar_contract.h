@@ -1,5 +1,6 @@
 #pragma once
 
+#include "calendars/day_text.h"
 #include "core/numerics.h"
 
 #include <array>
@@ -69,6 +70,9 @@ struct CalendarContract {
 
     /// The month behind which a leap month moves those that follow; 0 where no month moves.
     std::int16_t leapMonthAfter = 0;
+
+    /// What a moment's day is in it; null for one that marks no days.
+    std::vector<DayText> (*DaysOf)(Moment x) = nullptr;
 };
 
 /// For calendars that never have a year 0.

@@ -1,6 +1,7 @@
 #include "calendars/gregorian.h"
 
 #include "calendars/calendar_text.h"
+#include "calendars/civil_days.h"
 #include "calendars/twelve_months.h"
 #include "core/memo.h"
 #include "core/text.h"
@@ -171,7 +172,8 @@ constinit const CalendarContract GregorianCalendar{
     .ToFixed = GregorianToFixed,
     .DateOf = GregorianGridDate,
     .MonthNames = [](std::int32_t) { return Texts(GregorianMonthNames); },
-    .DayNames = [] { return WeekFrom(0, WeekdayNames, ShortWeekdayNames); }};
+    .DayNames = [] { return WeekFrom(0, WeekdayNames, ShortWeekdayNames); },
+    .DaysOf = CivilDaysOf};
 
 constinit const CalendarContract ISOCalendar{.name = "ISO",
                                              .ToFixed = ISOBlockToFixed,

@@ -2,6 +2,7 @@
 
 #include "astro/timescales.h"
 #include "calendars/calendar_text.h"
+#include "calendars/civil_days.h"
 #include "calendars/gregorian.h"
 #include "calendars/quartane_year_start.h"
 #include "core/memo.h"
@@ -184,6 +185,7 @@ constinit const CalendarContract Calendar{.name = "Quartane",
                                           .DateOf = GridDateOf,
                                           .MonthNames = MonthNames,
                                           .DayNames = DayNames,
-                                          .PresentName = CalendarName};
+                                          .PresentName = CalendarName,
+                                          .DaysOf = [](Moment x) { return CivilDays(QuaDateOn(x)); }};
 
 }  // namespace horvanta::quartane

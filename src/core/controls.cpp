@@ -3,6 +3,7 @@
 #include "core/text.h"
 
 #include <algorithm>
+#include <cmath>
 
 namespace horvanta {
 namespace {
@@ -10,6 +11,26 @@ namespace {
 std::uint8_t ShadeChannel(std::uint8_t channel, int strength) {
     const int moved = channel < 128 ? channel + strength : channel - strength;
     return static_cast<std::uint8_t>(std::clamp(moved, 0, 255));
+}
+
+/// Of white 1, of black 0.
+double Luminance(Color color) {
+    const auto linear = [](std::uint8_t channel) {
+        const double part = channel / 255.0;
+        return part <= 0.04045 ? part / 12.92 : std::pow((part + 0.055) / 1.055, 2.4);
+    };
+    return 0.2126 * linear(color.red) + 0.7152 * linear(color.green) + 0.0722 * linear(color.blue);
+}
+
+bool isLegible(Color color, Color ground) {
+    const auto [darker, brighter] = std::minmax({Luminance(color), Luminance(ground)});
+    return brighter + 0.05 >= 4.5 * (darker + 0.05);
+}
+
+/// The colour so many tenths of the way to black or to white.
+Color Toward(int end, Color color, int tenths) {
+    const auto channel = [=](int from) { return static_cast<std::uint8_t>(from + (end - from) * tenths / 10); };
+    return {channel(color.red), channel(color.green), channel(color.blue)};
 }
 
 bool hasWords(std::string_view text) {
@@ -22,6 +43,19 @@ bool hasWords(std::string_view text) {
 
 Color Shade(Color color, int strength) {
     return {ShadeChannel(color.red, strength), ShadeChannel(color.green, strength), ShadeChannel(color.blue, strength)};
+}
+
+Color Legible(Color wish, Color ground) {
+    const int end = isLegible({}, ground) ? 0 : 255;
+    int tenths = 0;
+    while (tenths < 10 && !isLegible(Toward(end, wish, tenths), ground)) ++tenths;
+    return Toward(end, wish, tenths);
+}
+
+Color InkOf(Mark mark, Color ground, Color unmarked) {
+    constexpr Color warm{190, 30, 20};
+    constexpr Color cool{20, 80, 190};
+    return mark == Mark::None ? unmarked : Legible(mark == Mark::Warm ? warm : cool, ground);
 }
 
 void Control::JoinForm() { form.controls.push_back(this); }

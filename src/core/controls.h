@@ -33,6 +33,16 @@ struct Color {
 /// The colour with each channel moved by `strength`, away from the nearer of its two ends.
 Color Shade(Color color, int strength);
 
+/// The colour, or the first on its way to black or to white that has a contrast of 4.5 to its ground (Web Content
+/// Accessibility Guidelines 2.1).
+Color Legible(Color wish, Color ground);
+
+/// How a text stands out among its like: by a warm or a cool colour. What it stands out for is told in words as well.
+enum class Mark { None, Warm, Cool };
+
+/// The colour of a marked text on a ground; `unmarked` for one without a mark.
+Color InkOf(Mark mark, Color ground, Color unmarked);
+
 /// Text and background, which are only ever set together.
 struct ColorPair {
     Color background;
@@ -142,7 +152,9 @@ struct CellGrid final : Control {
     using Control::Control;
     struct Cell {
         std::string text;
-        bool blank = true;  ///< Not a day of the month.
+        bool blank = true;    ///< Not a day of the month.
+        std::string tooltip;  ///< What the day is.
+        Mark mark = Mark::None;
 
         bool operator==(const Cell&) const = default;
     };

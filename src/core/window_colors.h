@@ -17,7 +17,8 @@ class WindowColors {
         std::string_view key = "";
     };
 
-    /// The settings name the colours by `settingsKey`. All controls wear the standard ones from now on.
+    /// The settings name the colours by `settingsKey`; with an empty one the window keeps them itself. All controls
+    /// wear the standard ones from now on.
     WindowColors(std::string_view settingsKey, const ColorPair& standardColors, Control& mainDateControl,
                  std::vector<Further> furtherControls = {});
     WindowColors(const WindowColors&) = delete;
@@ -25,13 +26,23 @@ class WindowColors {
 
     void SetColor(Color color, bool isBackground);
 
-    /// The colour that is worn now.
-    Color Shown(bool isBackground) const { return mainDate.colors->Part(isBackground); }
+    /// Lets the main date stand out by a mark, or not.
+    void MarkDate(Mark mark);
+
+    /// The colours that were chosen; a mark may give the main date another one for its text.
+    const ColorPair& Chosen() const { return chosen_; }
+
+    /// Of the two that were chosen.
+    Color Shown(bool isBackground) const { return chosen_.Part(isBackground); }
 
     const std::string_view key;
     const ColorPair standard;
     Control& mainDate;
     const std::vector<Further> further;
+
+  private:
+    ColorPair chosen_;
+    Mark mark_ = Mark::None;
 };
 
 }  // namespace horvanta

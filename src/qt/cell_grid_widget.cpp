@@ -63,7 +63,9 @@ void CellGridWidget::DrawCell(const CellGrid& grid, std::size_t index) {
     const bool active = index == grid.active && !cell.blank;
     label.setText(QString::fromStdString(cell.text));
     const std::string& heading = grid.headings[index % daysInWeek].text;
-    ShowName(label, QString::fromStdString(cell.blank ? "no day" : heading + " " + cell.text));
+    const std::string told = cell.tooltip.empty() ? "" : ", " + cell.tooltip;
+    ShowName(label, QString::fromStdString(cell.blank ? "no day" : heading + " " + cell.text + told));
+    ShowTip(label, cell.tooltip);
     const QPalette colors = ColorsOf(grid, cell, active);
     if (label.palette() != colors) label.setPalette(colors);
     if (label.font().bold() == active) return;
@@ -76,9 +78,10 @@ QPalette CellGridWidget::ColorsOf(const CellGrid& grid, const CellGrid::Cell& ce
     QPalette colors = palette();
     const bool ownColors = active && grid.activeColors;
     const QColor standard = colors.color(cell.blank ? QPalette::Button : QPalette::Base);
-    colors.setColor(QPalette::Window, ownColors ? ToQColor(grid.activeColors->background) : standard);
-    colors.setColor(QPalette::WindowText,
-                    ownColors ? ToQColor(grid.activeColors->foreground) : colors.color(QPalette::Text));
+    const QColor ground = ownColors ? ToQColor(grid.activeColors->background) : standard;
+    const QColor ink = ownColors ? ToQColor(grid.activeColors->foreground) : colors.color(QPalette::Text);
+    colors.setColor(QPalette::Window, ground);
+    colors.setColor(QPalette::WindowText, ToQColor(InkOf(cell.mark, ToColor(ground), ToColor(ink))));
     return colors;
 }
 

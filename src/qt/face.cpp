@@ -4,6 +4,11 @@ namespace horvanta {
 
 QColor ToQColor(Color color) { return {color.red, color.green, color.blue}; }
 
+Color ToColor(const QColor& color) {
+    return {static_cast<std::uint8_t>(color.red()), static_cast<std::uint8_t>(color.green()),
+            static_cast<std::uint8_t>(color.blue())};
+}
+
 void ShowTip(QWidget& widget, const std::string& tooltip) {
     const QString tip = QString::fromStdString(tooltip);
     if (widget.toolTip() != tip) widget.setToolTip(tip);

@@ -6,6 +6,7 @@
 #include "forms/ui_julian.h"
 #include "forms/ui_lunar.h"
 #include "forms/ui_monthly.h"
+#include "forms/ui_oriental.h"
 #include "forms/ui_persian.h"
 #include "forms/ui_quartane.h"
 #include "forms/ui_time_astro.h"
@@ -29,7 +30,7 @@ constexpr DesignerForm designerForms[] = {
     {"TimeAstro", SetUp<Ui::TimeAstro>}, {"Gregorian", SetUp<Ui::Gregorian>}, {"Monthly", SetUp<Ui::Monthly>},
     {"Quartane", SetUp<Ui::Quartane>},   {"User", SetUp<Ui::User>},           {"Persian", SetUp<Ui::Persian>},
     {"Julian", SetUp<Ui::Julian>},       {"World", SetUp<Ui::World>},         {"Lunar", SetUp<Ui::Lunar>},
-    {"Events", SetUp<Ui::Events>},       {"Hebrew", SetUp<Ui::Hebrew>},
+    {"Events", SetUp<Ui::Events>},       {"Hebrew", SetUp<Ui::Hebrew>},       {"Chinese", SetUp<Ui::Chinese>},
 };
 
 }  // namespace

@@ -1,5 +1,6 @@
 #include "qt/qt_desktop.h"
 
+#include "qt/face.h"
 #include "qt/forms.h"
 
 #include <QApplication>
@@ -20,8 +21,6 @@
 
 namespace horvanta {
 namespace {
-
-std::uint8_t Channel(int value) { return static_cast<std::uint8_t>(value); }
 
 /// Gives a box the width of the lines of its text, up to what the eye can follow; by itself it breaks them early.
 void MakeRoomForLines(QMessageBox& box) {
@@ -105,7 +104,7 @@ std::optional<Color> QtDesktop::ChooseColor(Color present) {
     frame_->Draw();
     const QColor chosen = QColorDialog::getColor(QColor(present.red, present.green, present.blue), frame_.get());
     if (!chosen.isValid()) return std::nullopt;
-    return Color{Channel(chosen.red()), Channel(chosen.green()), Channel(chosen.blue())};
+    return ToColor(chosen);
 }
 
 void QtDesktop::SetClipboard(const std::string& text) {

@@ -1,10 +1,12 @@
 #include "views/gregorian_window.h"
 
 #include "calendars/calendar_text.h"
+#include "calendars/civil_days.h"
 #include "core/day_events.h"
 #include "core/memo.h"
 #include "core/moment.h"
 #include "core/text.h"
+#include "views/holiday_mark.h"
 
 namespace horvanta {
 namespace {
@@ -76,7 +78,13 @@ void GregorianWindow::Update() {
 }
 
 void GregorianWindow::ShowGregorianDate(const horvanta::GregorianDate& date) {
-    GregorianDate.text = GregorianDateString(date) + " ";
+    const std::vector<DayText> day = CivilDays(date);
+    const std::string dateText = GregorianDateString(date);
+    GregorianDate.text = dateText + " ";
+    const DayText holiday = HolidayOf(day);
+    GregorianDate.tooltip = "Gregorian date" + WrapIfNotEmpty(holiday.text, " (", ")", "");
+    colors.MarkDate(MarkOf(holiday.kind));
+    day_events::AddAll(form.name, dateText, TextsOf(day), GregorianDate);
     const std::int32_t length = GregorianYearLength(isGregorianLeapYear(date.year));
     DayNumInGregYear.text = "Gregorian day " + PartAndRest(date.yearDay, length);
     Dominical.text = GregorianDominicalLetters(date.year);

@@ -1,6 +1,7 @@
 #include "views/julian_window.h"
 
 #include "calendars/calendar_text.h"
+#include "calendars/civil_days.h"
 #include "calendars/gregorian.h"
 #include "core/day_events.h"
 #include "core/desktop.h"
@@ -154,6 +155,7 @@ void JulianWindow::Update() {
                          " ";
     Dominical.text = JulianDominicalLetters(date.year);
     ShowOlympiad(date);
+    day_events::AddAll(JulianCalendarName(), FixedToJulianShortDate(date.fixed), OrthodoxDays(date), TheJulianDate);
     const RomanDate roman = FixedToRomanDate(DisplayedMoment);
     TheRomanDate.text = RomanDateString(roman);
     day_events::AddAll("Roman", RomanEventString(roman), EventsOf(roman), TheRomanDate);

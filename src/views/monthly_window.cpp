@@ -3,6 +3,7 @@
 #include "core/desktop.h"
 #include "core/moment.h"
 #include "core/text.h"
+#include "views/holiday_mark.h"
 
 #include <algorithm>
 #include <cmath>
@@ -26,6 +27,12 @@ constexpr DayKey dayKeys[] = {
     {KeyNumeric4, -7, -1},  {KeyUp, -1, -7},           {KeyNumeric8, -1, -7},  {KeyRight, 7, 1},
     {KeyNumeric6, 7, 1},    {KeyDown, 1, 7},           {KeyNumeric2, 1, 7},
 };
+
+/// Tells in a cell what its day is.
+void TellOf(const std::vector<DayText>& day, CellGrid::Cell& cell) {
+    for (const DayText& each : day) cell.tooltip += (cell.tooltip.empty() ? "" : ", ") + each.text;
+    cell.mark = MarkOf(KindOf(day));
+}
 
 }  // namespace
 
@@ -144,14 +151,16 @@ void MonthlyWindow::WearColors() {
 }
 
 void MonthlyWindow::ShowCells(const GridDate& date) {
-    const auto textOf = Current().contract->CellText;
+    const CalendarContract& calendar = *Current().contract;
+    const FixedDay eve = Floor(DisplayedMoment) - date.day;  // of the month
     for (int cell = 0; cell < static_cast<int>(Days.cells.size()); ++cell) {
         const int day = cell - date.firstWeekday + 1;
-        const bool blank = day < 1 || day > date.monthLength;
-        Days.cells[static_cast<std::size_t>(cell)] = {blank    ? ""
-                                                      : textOf ? textOf(date, day)
-                                                               : std::to_string(day),
-                                                      blank};
+        CellGrid::Cell& shown = Days.cells[static_cast<std::size_t>(cell)];
+        shown = {};
+        if (day < 1 || day > date.monthLength) continue;
+        shown.blank = false;
+        shown.text = calendar.CellText ? calendar.CellText(date, day) : std::to_string(day);
+        if (calendar.DaysOf) TellOf(calendar.DaysOf(eve + day), shown);
     }
     Days.active = static_cast<std::size_t>(date.day - 1 + date.firstWeekday);
 }

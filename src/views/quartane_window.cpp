@@ -1,6 +1,7 @@
 #include "views/quartane_window.h"
 
 #include "calendars/calendar_text.h"
+#include "calendars/civil_days.h"
 #include "calendars/gregorian.h"
 #include "calendars/quartane_leap_rules.h"
 #include "calendars/quartane_leap_text.h"
@@ -9,6 +10,7 @@
 #include "core/desktop.h"
 #include "core/moment.h"
 #include "core/text.h"
+#include "views/holiday_mark.h"
 
 #include <algorithm>
 #include <utility>
@@ -130,7 +132,11 @@ void QuartaneWindow::Update() {
     const QuaDate& date = QuaDateOn(DisplayedMoment);
     ShowOptions();
     ShowDate(date);
-    day_events::AddAll(CalendarName(), QuaDateString(date), EventsOf(date), QuartaneDateBox);
+    const std::string dateText = QuaDateString(date);
+    const std::vector<DayText> day = CivilDays(date);
+    colors.MarkDate(MarkOf(KindOf(day)));
+    day_events::AddAll(CalendarName(), dateText, TextsOf(day), QuartaneDateBox);
+    day_events::AddAll(CalendarName(), dateText, EventsOf(date), QuartaneDateBox);
 }
 
 Settings QuartaneWindow::StoredRows() {

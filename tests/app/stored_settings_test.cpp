@@ -34,14 +34,14 @@ constexpr Row rows[] = {
     {"Item", "OrbRAY", "RAY Date"}, {"Item", "JDMJD", "Mod Jul Day"}, {"Item", "Qua454", "False"},
     {"Item", "QuaQS", "LSS"}, {"Item", "QuaLeap", "71/400"}, {"Item", "QuaStart", "2"}, {"Item", "UseZov454", "True"},
     {"Item", "UseZov010", "False"}, {"Item", "Even", "True"}, {"Item", "Mix", "True"}, {"Item", "CCM", "2"},
-    {"Item", "CEN", "3"}, {"Item", "THC", "2"}, {"Item", "MTF", "5"}, {"Item", "RD", "739000.125"},
+    {"Item", "CEN", "0"}, {"Item", "THC", "2"}, {"Item", "MTF", "5"}, {"Item", "RD", "739000.125"},
     {"Item", "SD", "700000.5"}, {"Item", "AdjDST", "2"}, {"Item", "dT", "0"}, {"Item", "ShowDD", "0"},
-    {"Item", "Elev", "0"}, {"Item", "UseAUC", "1"}, {"Item", "JCY1", "-2636"}, {"Item", "Rectify", "1"},
-    {"Item", "YRF", "-752"}, {"Item", "OSY", "-775"}, {"Item", "LP", "True"}, {"Item", "WCC", "True"},
+    {"Item", "Elev", "0"}, {"Item", "UseAUC", "1"}, {"Item", "JCY1", "-2637"}, {"Item", "Rectify", "1"},
+    {"Item", "YRF", "-752"}, {"Item", "OSY", "-775"}, {"Item", "LP", "True"}, {"Item", "WCC", "True"}, {"Item", "UseEnglish", "False"},
     {"Item", "LOC", "Tehran"}, {"Item", "Map", "4"}, {"Item", "MC", "3"}, {"Item", "AD", "&Down"},
     {"Item", "LunOpt", "2"}, {"Item", "LunOff", "17037"}, {"Item", "LunCap", "Brown"}, {"Item", "Candles", "40"},
     {"Color", "ABC", "1"}, {"Color", "AFC", "2"}, {"Color", "GBC", "3"}, {"Color", "GFC", "4"}, {"Color", "LBC", "5"},
-    {"Color", "ChinFC", "6"}, {"Color", "JBC", "7"}, {"Color", "PBC", "9"}, {"Color", "CFC", "8"},
+    {"Color", "ChinFC", "6"}, {"Color", "JBC", "7"}, {"Color", "PBC", "9"}, {"Color", "CFC", "16711680"},
     {"Later", "Key", "kept"},
 };
 // clang-format on
@@ -106,10 +106,10 @@ constexpr std::pair<const char*, const char*> keys[] = {
     {"Prog", "Name Ver Rev Pub"},
     {"Item",
      "FixOpt GE FixEpoch FixNam Candles EW Step Year OrbRAY JDMJD Qua454 QuaQS QuaLeap QuaStart UseZov454 UseZov010 "
-     "Even Mix CCM CEN THC MTF RD SD AdjDST dT ShowDD Elev UseAUC JCY1 Rectify YRF OSY LP WCC LOC Map MC AD LunOpt"},
+     "Even Mix CCM CEN THC MTF RD SD AdjDST dT ShowDD Elev UseAUC JCY1 UseEnglish Rectify YRF OSY LP WCC LOC Map MC AD LunOpt"},
     {"Color",
      "LBC LFC ABC AFC GBC GFC SBC SFC HBC HFC PBC PFC JBC JFC ChinBC ChinFC JapBC JapFC KorBC KorFC VietBC VietFC IBC "
-     "IFC RBC RFC"},
+     "IFC RBC RFC CFC"},
     {"TimeAstro", "Top Left Chk"},
     {"Monthly", "Top Left Chk"},
     {"Quartane", "Top Left Chk"},
@@ -120,7 +120,7 @@ constexpr std::pair<const char*, const char*> keys[] = {
     {"Persian", "Top Left Chk"},
     {"Hebrew", "Chk"},
     {"Lunar", "Chk"},
-    {"Chinese", "Chk"},
+    {"Chinese", "Top Left Chk"},
     {"User 30", "Name Lat Long Elev Zone NoDST UseLMT Chk"},
     {"UserNum", "Num"},
 };

@@ -1,6 +1,7 @@
 #include "calendars/calendar_contract.h"
 #include "calendars/gregorian.h"
 #include "calendars/julian.h"
+#include "calendars/oriental.h"
 #include "calendars/persian.h"
 #include "calendars/quartane.h"
 #include "calendars/roman.h"
@@ -30,6 +31,10 @@ const Law laws[] = {
     {"Persian", PersianCalendar},
     {"Hebrew", hebrew::Calendar},
     {"Yerm", YermCalendar},
+    {"Chinese", oriental::Calendar},
+    {"Japanese", oriental::Calendar, [] { oriental::options.OrientVariant = oriental::Japanese; }},
+    {"Korean", oriental::Calendar, [] { oriental::options.OrientVariant = oriental::Korean; }},
+    {"Vietnamese", oriental::Calendar, [] { oriental::options.OrientVariant = oriental::Vietnamese; }},
     {"Quartane", quartane::Calendar},
     {"Quartane by the ISO year", quartane::Calendar, [] { quartane::options.LeapRuleKey = "ISOalt"; }},
     {"Quartane by the Revised Julian year", quartane::Calendar, [] { quartane::options.LeapRuleKey = "RJISO"; }},

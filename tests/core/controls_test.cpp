@@ -2,12 +2,40 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <cmath>
+
 namespace horvanta {
 namespace {
 
 TEST(Shade, MovesAwayFromTheNearerEnd) {
     EXPECT_EQ(Shade({0, 127, 128}, 48), (Color{48, 175, 80}));
     EXPECT_EQ(Shade({255, 10, 200}, 300), (Color{0, 255, 0}));
+}
+
+double Luminance(Color color) {
+    const auto linear = [](double part) {
+        return part <= 0.04045 ? part / 12.92 : std::pow((part + 0.055) / 1.055, 2.4);
+    };
+    return 0.2126 * linear(color.red / 255.0) + 0.7152 * linear(color.green / 255.0) +
+           0.0722 * linear(color.blue / 255.0);
+}
+
+TEST(InkOf, CanBeReadOnAnyGround) {
+    for (int number = 0; number < 0x1000000; number += 0x0f0d07) {
+        const Color ground = Color::FromNumber(number);
+        for (const Mark mark : {Mark::Warm, Mark::Cool}) {
+            const double a = Luminance(ground) + 0.05;
+            const double b = Luminance(InkOf(mark, ground, {})) + 0.05;
+            EXPECT_GE(std::max(a / b, b / a), 4.5) << number;
+        }
+        EXPECT_EQ(InkOf(Mark::None, ground, ground), ground);
+    }
+    constexpr Color white{255, 255, 255};
+    const Color warm = InkOf(Mark::Warm, white, {});
+    const Color cool = InkOf(Mark::Cool, white, {});
+    EXPECT_GT(warm.red, warm.blue);
+    EXPECT_GT(cool.blue, cool.red);
 }
 
 TEST(AccessibleName, SaysWhatASignDoesNot) {

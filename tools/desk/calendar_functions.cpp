@@ -1,5 +1,8 @@
+#include "calendars/civil_days.h"
+#include "calendars/easter.h"
 #include "calendars/gregorian.h"
 #include "calendars/julian.h"
+#include "calendars/oriental.h"
 #include "calendars/persian.h"
 #include "calendars/quartane.h"
 #include "calendars/quartane_leap_rules.h"
@@ -38,6 +41,17 @@ std::string AnswerOf(const RomanDate& d) {
 
 std::string AnswerOf(const Olympiad& o) { return RecordAnswer("cycle year", o.cycle, o.year); }
 
+namespace oriental {
+
+std::string AnswerOf(const OrientDate& d) {
+    return RecordAnswer(
+        "fixed elapsed cycle year shownYear newYear nextNewYear gregorianYear isLongYear isLeapSui month isLeapMonth day weekday sexagesimal place monthLength",
+        d.fixed, d.elapsed, d.cycle, d.year, d.shownYear, d.newYear, d.nextNewYear, d.gregorianYear, d.isLongYear,
+        d.isLeapSui, d.month, d.isLeapMonth, d.day, d.weekday, d.sexagesimal, d.place, d.monthLength);
+}
+
+}  // namespace oriental
+
 namespace quartane {
 
 std::string AnswerOf(const QuaYear& y) { return RecordAnswer("year newYear", y.year, y.newYear); }
@@ -57,6 +71,19 @@ std::string AnswerOf(const LeapRule& r) {
 }
 
 }  // namespace quartane
+
+namespace {
+
+/// The texts of a day, each with the number of its kind behind it if it has one.
+std::vector<std::string> DayAnswer(const std::vector<DayText>& day) {
+    std::vector<std::string> texts;
+    for (const auto& [text, kind] : day) {
+        texts.push_back(kind == DayKind::None ? text : text + " [" + std::to_string(static_cast<int>(kind)) + "]");
+    }
+    return texts;
+}
+
+}  // namespace
 
 std::vector<DeskFunction> CalendarFunctions() {
     return {
@@ -141,6 +168,56 @@ std::vector<DeskFunction> CalendarFunctions() {
         Row("QuaLeapIntervals", quartane::QuaLeapIntervals),
         Row("QuaGroupIntervals", quartane::QuaGroupIntervals),
         Row("ReduceIntervals", quartane::ReduceIntervals),
+        Row("GregorianPaschalMoon", GregorianPaschalMoon),
+        Row("AstronomicalPaschalMoon", AstronomicalPaschalMoon),
+        Row("EasterSunday", EasterSunday),
+        Row("OrthodoxEaster", OrthodoxEaster),
+        Row("AltOrthodoxEaster", AltOrthodoxEaster),
+        Row("MovableChristianHoliday", MovableChristianHoliday),
+        Row("JumpEaster", JumpEaster),
+        Row("JumpUniformEaster", JumpUniformEaster),
+        Row("JumpOrthoEaster", JumpOrthoEaster),
+        Row("QuaPaschalMoon", quartane::QuaPaschalMoon),
+        Row("QuaEaster", quartane::QuaEaster),
+        Row("FixedEaster", quartane::FixedEaster),
+        Row("JumpFixedEaster", quartane::JumpFixedEaster),
+        Row(
+            "CivilDays", +[](Moment x) { return DayAnswer(CivilDaysOf(x)); }),
+        Row(
+            "OrthodoxDays", +[](Moment x) { return OrthodoxDays(FixedToJulianDate(x, true)); }),
+        Row(
+            "QuaCivilDays", +[](Moment x) { return DayAnswer(quartane::CivilDays(quartane::FixedToQuaDate(x))); }),
+        Row("OrientEpoch", oriental::OrientEpoch),
+        Row("OrientYearEpoch", oriental::OrientYearEpoch),
+        Row("OrientZone", oriental::OrientZone),
+        Row("OrientUniversal", oriental::OrientUniversal),
+        Row("OrientStandard", oriental::OrientStandard),
+        Row("OrientMidnight", oriental::OrientMidnight),
+        Row("MajorSolarTerm", oriental::MajorSolarTerm),
+        Row("MinorSolarTerm", oriental::MinorSolarTerm),
+        Row("MajorSolarTermOnOrAfter", oriental::MajorSolarTermOnOrAfter),
+        Row("MinorSolarTermOnOrAfter", oriental::MinorSolarTermOnOrAfter),
+        Row("OrientLongitudeOnOrAfter", oriental::OrientLongitudeOnOrAfter),
+        Row("WinterSolsticeOnOrBefore", oriental::WinterSolsticeOnOrBefore),
+        Row("NewYearOnOrBefore", oriental::NewYearOnOrBefore),
+        Row("NewYear", oriental::NewYear),
+        Row("OrientToFixed", oriental::OrientToFixed),
+        Row("FixedToOrientDate", oriental::FixedToOrientDate),
+        Row("FixedToOrientMonthDay", oriental::FixedToOrientMonthDay),
+        Row(
+            "OrientDateString", +[](Moment x) { return oriental::OrientDateString(oriental::FixedToOrientDate(x)); }),
+        Row("SexagesimalName", oriental::SexagesimalName),
+        Row("SexagesimalDay", oriental::SexagesimalDay),
+        Row(
+            "SexagesimalMonth", +[](Moment x) { return oriental::SexagesimalMonth(oriental::FixedToOrientDate(x)); }),
+        Row("DayName", oriental::DayName),
+        Row("NameDifference", oriental::NameDifference),
+        Row("DayNameOnOrBefore", oriental::DayNameOnOrBefore),
+        Row("KoreanYear", oriental::KoreanYear),
+        Row("MarriageAugury", oriental::MarriageAugury),
+        Row("JumpNewYear", oriental::JumpNewYear),
+        Row(
+            "OrientEvents", +[](Moment x) { return oriental::EventsOf(oriental::FixedToOrientDate(x)); }),
         Row(
             "WorldCellText",
             +[](std::int32_t month, std::int32_t day) {
@@ -156,6 +233,10 @@ std::vector<DeskFunction> CalendarFunctions() {
 
 std::vector<DeskVariable> CalendarVariables() {
     return {
+        Variable("UniformEaster", easter::options.UniformEaster),
+        Choice("OrientVariant", oriental::options.OrientVariant, oriental::Chinese, oriental::Vietnamese),
+        Choice("OrientEpochYear", oriental::options.OrientEpochYear, oriental::EpochYears[2], oriental::EpochYears[0]),
+        Variable("UseEnglish", oriental::options.UseEnglish),
         Variable("Revise", julian::options.Revise),
         Variable("UseAUC", julian::options.UseAUC),
         Variable("YRF", julian::options.YRF),

@@ -1,4 +1,5 @@
 #include "calendars/gregorian.h"
+#include "calendars/oriental.h"
 #include "calendars/persian.h"
 #include "calendars/quartane.h"
 #include "calendars/roman.h"
@@ -55,7 +56,7 @@ struct WindowCalendar {
 const WindowCalendar calendars[] = {
     {"Gregorian", GregorianCalendar}, {"Gregorian", ISOCalendar, "Alt"}, {"Julian", JulianCalendar},
     {"Julian", RomanCalendar, "Alt"}, {"Persian", PersianCalendar},      {"Quartane", quartane::Calendar},
-    {"Hebrew", hebrew::Calendar},     {"Lunar", YermCalendar},
+    {"Hebrew", hebrew::Calendar},     {"Lunar", YermCalendar},            {"Chinese", oriental::Calendar},
 };
 
 }  // namespace
