@@ -108,12 +108,26 @@ void Horvanta::TakeSettings() {
         if (row.open == OpenAt::EveryStart) row.form.visible = true;
         EnableNeeding(row);
     }
+    PlaceWindows();
     options.SetLunationCaptions();
     timeAstro.SetYearStepCaptions();
     timeAstro.fields.SetToggles();
     monthly.InitCalendars();
     places.ChooseFirst();
     CurrentDesktop->LetEventsRun();
+}
+
+/// A window that no one has moved stands by another one, which may stand by a third.
+void Horvanta::PlaceWindows() {
+    constexpr int longestChain = 4;
+    for (int round = 0; round < longestChain; ++round) {
+        for (const WindowRow& row : windows) {
+            if (row.form.positioned || !row.standardPosition) continue;
+            const Position standard = row.standardPosition();
+            row.form.position.left = standard.left;
+            row.form.position.top = standard.top;
+        }
+    }
 }
 
 /// In a first run there is no moment yet, and neither where a damaged line lost it. Where it is there, but the line

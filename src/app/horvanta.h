@@ -73,21 +73,20 @@ class Horvanta {
     Options options{frame};
     History history{frame, places};
 
-    /// In the order in which they are loaded and update.
+    /// In the order in which they are loaded and update: what they post stands in the day's list in this order.
     std::vector<WindowRow> windows{
         timeAstro.Row(),
-        Beside(timeAstro.form, gregorian.Row()),
-        Below(timeAstro.form, quartane.Row()),
-        Beside(quartane.form, monthly.Row()),
         Below(gregorian.form, lunar.Row()),
+        Below(timeAstro.form, quartane.Row()),
+        Beside(timeAstro.form, gregorian.Row()),
         Below(monthly.form, julian.Row()),
-        Below(quartane.form, hebrew.Row()),
         Below(gregorian.form, persian.Row()),
         Beside(gregorian.form, oriental.Row()),
+        Below(quartane.form, hebrew.Row()),
+        Beside(quartane.form, monthly.Row()),
+        Below(monthly.form, events.Row()),
         Beside(monthly.form, userLocales.Row()),
         {world.form, world.Dummy},
-        Below(quartane.form, hebrew.Row()),
-        Below(monthly.form, events.Row()),
     };
 
     /// The same, as far as they are there.
@@ -99,6 +98,7 @@ class Horvanta {
     void LoadWindows();
     void MarkLaunch();
     void TakeSettings();
+    void PlaceWindows();
     void ChooseMoment();
     bool CloseWindows();
     void CloseAndEnd();

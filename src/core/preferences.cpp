@@ -60,10 +60,6 @@ Setting WrittenRow(std::string_view section, std::string_view key, std::string_v
     return {std::string(section), std::string(key), std::string(text), {}, [text = std::string(text)] { return text; }};
 }
 
-Setting KeptRow(std::string_view section, std::string_view key, std::string_view standard) {
-    return {std::string(section), std::string(key), std::string(standard), {}, {}};
-}
-
 void DeleteAllPrefs() { CurrentDesktop->Settings().DeleteApplication(ProgramSettings); }
 
 std::string FlushSettings() {

@@ -126,9 +126,8 @@ Setting NumberRow(std::string_view section, std::string_view key, Owner& owner, 
             [=, &owner] { return ExactText(owner.*field); }};
 }
 
-/// A text that is only written, and one that no one owns yet: it stays as a later version may have left it.
+/// A text that is only written.
 Setting WrittenRow(std::string_view section, std::string_view key, std::string_view text);
-Setting KeptRow(std::string_view section, std::string_view key, std::string_view standard);
 
 /// Forgets all the program's options. What belongs to `UserSettings` stays.
 void DeleteAllPrefs();
