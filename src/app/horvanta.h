@@ -72,7 +72,6 @@ class Horvanta {
         Beside(quartane.form, monthly.Row()),
         Below(gregorian.form, lunar.Row()),
         Below(monthly.form, julian.Row()),
-        Below(quartane.form, hebrew.Row()),
         Below(gregorian.form, persian.Row()),
         Beside(monthly.form, userLocales.Row()),
         {world.form, world.Dummy},
