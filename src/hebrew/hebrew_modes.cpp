@@ -25,8 +25,7 @@ constexpr std::int32_t elul = 6;
 constexpr std::int32_t tishrei = 7;
 constexpr std::int32_t tammuz = 4;
 
-// The day on which a month begins, by its conjunction (universal). "Before the sunset" leaves the day of a time on the
-// scale named; "after" takes the next.
+// The day on which a month begins, by its conjunction (universal).
 
 /// The conjunction's day of local mean time, some days later.
 template <double days>
