@@ -105,7 +105,7 @@ FixedDay DayOfEveMolad(double n, const LocaleRecord&) { return Floor(Traditional
 /// The equinox of its spring, after a universal start.
 Moment EquinoxOf(std::int32_t year) { return SolarLongitudeAfter(RAYDateToMoment(year - 3760.0), 0); }
 
-/// The 15th begins after the equinox.
+/// The 15th ends after the equinox.
 bool isAfterEquinox(FixedDay first, Moment equinox, const LocaleRecord& place) {
     return UniversalSunset(first + 14, place) > equinox;
 }
