@@ -25,8 +25,7 @@ constexpr std::int32_t elul = 6;
 constexpr std::int32_t tishrei = 7;
 constexpr std::int32_t tammuz = 4;
 
-// The day on which a month begins, by its conjunction (universal). "Before the sunset" leaves the day of a time on the
-// scale named; "after" takes the next.
+// The day on which a month begins, by its conjunction (universal).
 
 /// The conjunction's day of local mean time, some days later.
 template <double days>
@@ -106,7 +105,7 @@ FixedDay DayOfEveMolad(double n, const LocaleRecord&) { return Floor(Traditional
 /// The equinox of its spring, after a universal start.
 Moment EquinoxOf(std::int32_t year) { return SolarLongitudeAfter(RAYDateToMoment(year - 3760.0), 0); }
 
-/// The 15th begins after the equinox.
+/// The 15th ends after the equinox.
 bool isAfterEquinox(FixedDay first, Moment equinox, const LocaleRecord& place) {
     return UniversalSunset(first + 14, place) > equinox;
 }
