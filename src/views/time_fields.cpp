@@ -5,6 +5,7 @@
 #include "astro/sun_events.h"
 #include "astro/timescales.h"
 #include "astro/year_dates.h"
+#include "calendars/gregorian.h"
 #include "clock/zone_time.h"
 #include "core/day_events.h"
 #include "core/desktop.h"
@@ -215,6 +216,7 @@ void TimeFields::ShowAstronomy() {
     SunDeclination.text = FormatNumber(std::fabs(declination), "0.0") + "°" + Hemisphere(declination);
     SunLong.text = FormatNumber(Degrees(Round(SolarLongitude(universal), 1)), "0.0") + "°";
     PostSolarEvents(universal);
+    PostClockChange(Floor(universal));
     JD_MJD.text = FormatNumber(JulianDayShown(universal), "0.00000");
     EoT.text = EquationText(EquationOfTime(universal));
     DeltaTdisp.text = FormatNumber(DeltaT(universal, 1), "0.0") + " s";
@@ -247,6 +249,17 @@ void TimeFields::PostSolarEvents(Moment universal) {
         const Moment moment = SolarAnomalyPassage(Floor(universal) - 1, anomaly, 1);
         if (Floor(moment) != Floor(universal)) continue;
         AstronomyEvent(moment, std::string("Mean ") + word + "helion of Earth-Moon Barycenter");
+    }
+}
+
+/// In the south, daylight time ends on the day on which it begins in the north.
+void TimeFields::PostClockChange(FixedDay day) {
+    if (Locale.NoDST || zone_time::options.AdjustDST != Checked) return;
+    const std::int32_t year = FixedToGregorianYear(day);
+    const std::pair<Moment, bool> changes[] = {{DaylightStart(year), Locale.North}, {DaylightEnd(year), !Locale.North}};
+    for (const auto& [standardTime, toDaylight] : changes) {
+        if (Floor(standardTime) != day) continue;
+        AstronomyEvent(StandardToUniversal(standardTime), DaylightSwitchText(standardTime, toDaylight));
     }
 }
 

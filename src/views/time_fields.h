@@ -94,6 +94,7 @@ class TimeFields {
     void Copy(const Label& field, const std::string& value);
     void ShowYears(Moment universal);
     void PostSolarEvents(Moment universal);
+    void PostClockChange(FixedDay day);
     void AstronomyEvent(Moment universal, const std::string& text);
 
     HorvantaMDI& frame_;

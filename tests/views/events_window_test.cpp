@@ -3,6 +3,7 @@
 #include "calendars/gregorian.h"
 #include "core/moment.h"
 #include "desk.h"
+#include "locale/presets.h"
 
 #include <gtest/gtest.h>
 
@@ -34,6 +35,31 @@ TEST(EventsWindow, ListsTheDayInTheColoursOfItsCalendars) {
     const auto& cells = rows[0].cells;
     EXPECT_EQ(desk.Obey("asked"), "clipboard \"" + cells[2] + ", " + cells[1] + " (" + cells[0] + ")\"");
     EXPECT_EQ(desk.desktop.focused, &desk.program.timeAstro.FixedDayNum);
+}
+
+/// North and south of the equator the clocks change on the same days, in opposite ways.
+TEST(EventsWindow, TellsOfClockChanges) {
+    const struct {
+        const char* place;
+        std::int32_t month;
+        std::int32_t day;
+        const char* text;
+    } rows[] = {{"Times Square", 3, 10, "Switch to Daylight Saving Time on"},
+                {"Times Square", 11, 3, "Switch to Standard Time on"},
+                {"Melbourne", 3, 10, "Switch to Standard Time on"},
+                {"Times Square", 3, 11, ""}};
+    const Desk desk;
+    for (const auto& [place, month, day, text] : rows) {
+        Locale = PresetLocale(place);
+        DisplayedMoment = GregorianToFixed(2024, month, day);
+        UpdateStatus();
+        std::string told;
+        for (const RowTable::Row& row : desk.program.events.EventsGrid.rows) {
+            if (row.cells[2].starts_with("Switch")) told = row.cells[2];
+        }
+        EXPECT_EQ(told.substr(0, std::string_view(text).size()), text) << place << month;
+        EXPECT_EQ(told.empty(), std::string_view(text).empty()) << place << month;
+    }
 }
 
 TEST(EventsWindow, BeepsWhereNothingHappens) {
