@@ -8,6 +8,8 @@
 # ./test.sh walk   every day of the Persian years -100 to 1600, and each moonrise from 1900 to 2100
 source "$(dirname "$0")/tools/setup.sh"
 
+form_tests=(build/release/tests/horvanta_{controls,keys,program,windows}_tests)
+
 heading() { printf '\n== %s\n' "$1"; }
 
 quick_tests() {
@@ -45,15 +47,17 @@ locale_tests() {
 shuffled_tests() {
     heading 'Tests in another order'
     build/release/tests/horvanta_tests --gtest_shuffle --gtest_brief=1
-    local forms=build/release/tests/horvanta_form_tests
-    QT_QPA_PLATFORM=offscreen "$forms" -silent $("$forms" -functions -platform offscreen | tr -d '()' | tac)
+    local forms
+    for forms in "${form_tests[@]}"; do
+        QT_QPA_PLATFORM=offscreen "$forms" -silent $("$forms" -functions -platform offscreen | tr -d '()' | tac)
+    done
 }
 
 # With a window manager, which is what gives windows the focus.
 form_tests_on_a_display() {
     heading 'Forms on a virtual display'
-    on_virtual_display sh -c 'openbox 2>/dev/null & QT_QPA_PLATFORM=xcb "$0" -silent' \
-        build/release/tests/horvanta_form_tests
+    on_virtual_display sh -c 'openbox 2>/dev/null & for t; do QT_QPA_PLATFORM=xcb "$t" -silent || exit; done' - \
+        "${form_tests[@]}"
 }
 
 # Starts an installed program without a display, and on one for its picture, with settings of its own.

@@ -5,6 +5,8 @@
 #include <QGridLayout>
 #include <QLabel>
 
+#include <utility>
+
 namespace horvanta {
 namespace {
 
@@ -33,9 +35,7 @@ QLabel* CellGridWidget::MakeCell() {
 
 /// Places every label anew; a label that is already in the layout moves.
 void CellGridWidget::Arrange(bool across) {
-    if (arranged_ && across_ == across) return;
-    arranged_ = true;
-    across_ = across;
+    if (std::exchange(across_, across) == across) return;
     const auto place = [&](QLabel* label, std::size_t week, std::size_t weekday) {
         layout_->addWidget(label, static_cast<int>(across ? weekday : week), static_cast<int>(across ? week : weekday));
     };

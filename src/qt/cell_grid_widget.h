@@ -4,6 +4,7 @@
 #include "qt/labels_widget.h"
 
 #include <array>
+#include <optional>
 
 class QGridLayout;
 
@@ -33,8 +34,7 @@ class CellGridWidget final : public LabelsWidget {
 
     QGridLayout* layout_;
     std::array<QLabel*, 7> headings_{};
-    bool arranged_ = false;
-    bool across_ = false;
+    std::optional<bool> across_;  ///< None before it has been arranged.
 };
 
 }  // namespace horvanta

@@ -49,26 +49,6 @@ constexpr KeyRow keyRows[] = {
     {Qt::Key_Underscore, false, KeyMinus},
 };
 
-constexpr QKeySequence::StandardKey editingKeys[] = {
-    QKeySequence::MoveToNextChar,
-    QKeySequence::MoveToPreviousChar,
-    QKeySequence::MoveToNextWord,
-    QKeySequence::MoveToPreviousWord,
-    QKeySequence::MoveToEndOfLine,
-    QKeySequence::MoveToStartOfDocument,
-    QKeySequence::MoveToEndOfDocument,
-    QKeySequence::SelectNextChar,
-    QKeySequence::SelectPreviousChar,
-    QKeySequence::SelectNextWord,
-    QKeySequence::SelectPreviousWord,
-    QKeySequence::SelectStartOfLine,
-    QKeySequence::SelectEndOfLine,
-    QKeySequence::SelectStartOfDocument,
-    QKeySequence::SelectEndOfDocument,
-    QKeySequence::Backspace,
-    QKeySequence::Delete,
-};
-
 /// Rows for the keypad hold there alone.
 int CodeOf(const QKeyEvent& event) {
     const bool keypad = event.modifiers().testFlag(Qt::KeypadModifier);
@@ -96,7 +76,25 @@ bool isListKey(const QKeyEvent& event) {
 }
 
 bool isEditingKey(const QKeyEvent& event) {
-    return std::ranges::any_of(editingKeys, [&](QKeySequence::StandardKey key) { return event.matches(key); });
+    using enum QKeySequence::StandardKey;
+    constexpr QKeySequence::StandardKey keys[] = {MoveToNextChar,
+                                                  MoveToPreviousChar,
+                                                  MoveToNextWord,
+                                                  MoveToPreviousWord,
+                                                  MoveToEndOfLine,
+                                                  MoveToStartOfDocument,
+                                                  MoveToEndOfDocument,
+                                                  SelectNextChar,
+                                                  SelectPreviousChar,
+                                                  SelectNextWord,
+                                                  SelectPreviousWord,
+                                                  SelectStartOfLine,
+                                                  SelectEndOfLine,
+                                                  SelectStartOfDocument,
+                                                  SelectEndOfDocument,
+                                                  Backspace,
+                                                  Delete};
+    return std::ranges::any_of(keys, [&](QKeySequence::StandardKey key) { return event.matches(key); });
 }
 
 }  // namespace horvanta

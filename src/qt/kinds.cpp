@@ -26,14 +26,23 @@
 namespace horvanta {
 namespace {
 
+/// Shows the text of the control where the widget has one.
 template <class ControlKind, class WidgetKind>
 struct FaceOf : Face {
     using Shown = ControlKind;
     using By = WidgetKind;
-    FaceOf(ControlKind& shown, WidgetKind& by) : Face(shown, by), shown_(shown), by_(by) {}
+    FaceOf(ControlKind& c, WidgetKind& w) : Face(c, w), shown(c), by(w) {}
 
-    ControlKind& shown_;
-    WidgetKind& by_;
+    QString Text() const override {
+        if constexpr (requires { by.text(); }) return by.text();
+        return {};
+    }
+    void SetText(const QString& text) override {
+        if constexpr (requires { by.setText(text); }) by.setText(text);
+    }
+
+    ControlKind& shown;
+    WidgetKind& by;
 };
 
 /// A kind that has a widget class made for it, which draws the control, keeps room in its parts and connects itself.
@@ -43,16 +52,16 @@ struct OwnFace final : FaceOf<ControlKind, WidgetKind> {
 
     void KeepRoom() override {
         DrawKind();
-        this->by_.KeepRoom(QString::fromStdString(this->shown_.widest));
+        this->by.KeepRoom(QString::fromStdString(this->shown.widest));
     }
-    void Connect(Acts& acts) override { this->by_.Connect(this->shown_, acts); }
+    void Connect(Acts& acts) override { this->by.Connect(this->shown, acts); }
     Face::KeyUse TakeKey(const QKeyEvent& event) override {
         bool kept = false;
         if constexpr (requires { WidgetKind::Keeps(event); }) kept = WidgetKind::Keeps(event);
         return kept ? Face::KeyUse::Kept : Face::KeyUse::Open;
     }
 
-    void DrawKind() override { this->by_.Draw(this->shown_); }
+    void DrawKind() override { this->by.Draw(this->shown); }
 };
 
 /// A label grows with a text that is wider than the one it keeps room for.
@@ -60,16 +69,15 @@ struct LabelFace final : FaceOf<Label, QLabel> {
     using FaceOf::FaceOf;
 
     void Connect(Acts&) override {
-        by_.setTextFormat(Qt::PlainText);
-        if (shown_.Click) by_.setCursor(Qt::PointingHandCursor);
+        by.setTextFormat(Qt::PlainText);
+        if (shown.Click) by.setCursor(Qt::PointingHandCursor);
     }
-    bool isHit(const QPoint& where) const override { return by_.rect().contains(where); }
+    bool isHit(const QPoint& where) const override { return by.rect().contains(where); }
 
-    QString Text() const override { return by_.text(); }
     void SetText(const QString& text) override {
-        by_.setText(text);
-        if (shown_.widest.empty()) return;
-        by_.setMinimumWidth(std::max(by_.minimumWidth(), by_.sizeHint().width()));
+        by.setText(text);
+        if (shown.widest.empty()) return;
+        by.setMinimumWidth(std::max(by.minimumWidth(), by.sizeHint().width()));
     }
 };
 
@@ -80,17 +88,15 @@ struct ButtonFace : FaceOf<ControlKind, WidgetKind> {
     using FaceOf<ControlKind, WidgetKind>::FaceOf;
 
     void Connect(Acts& acts) override {
-        const Control& button = this->shown_;
-        QObject::connect(&this->by_, &QAbstractButton::clicked, &this->by_,
+        const Control& button = this->shown;
+        QObject::connect(&this->by, &QAbstractButton::clicked, &this->by,
                          [&button, &acts] { acts.Fire(button, button.Click); });
     }
     Face::KeyUse TakeKey(const QKeyEvent& event) override {
         if (!isEnter(event)) return event.key() == Qt::Key_Space ? Face::KeyUse::Kept : Face::KeyUse::Open;
-        if (!event.isAutoRepeat()) this->by_.click();
+        if (!event.isAutoRepeat()) this->by.click();
         return Face::KeyUse::Used;
     }
-    QString Text() const override { return this->by_.text(); }
-    void SetText(const QString& text) override { this->by_.setText(text); }
 };
 
 struct CheckBoxFace final : ButtonFace<CheckBox, QCheckBox> {
@@ -98,49 +104,47 @@ struct CheckBoxFace final : ButtonFace<CheckBox, QCheckBox> {
 
     void Connect(Acts& acts) override {
         ButtonFace::Connect(acts);
-        by_.setBackgroundRole(QPalette::Window);
+        by.setBackgroundRole(QPalette::Window);
     }
 
     /// Only an undecided box has three states, or else clicks would lead through the third.
     void DrawKind() override {
         constexpr Qt::CheckState states[] = {Qt::Unchecked, Qt::Checked, Qt::PartiallyChecked};
-        const CheckState state = shown_.State();
-        by_.setTristate(state == Undecided);
-        by_.setCheckState(states[state]);
+        const CheckState state = shown.State();
+        by.setTristate(state == Undecided);
+        by.setCheckState(states[state]);
     }
 };
 
 struct OptionButtonFace final : ButtonFace<OptionButton, QRadioButton> {
     using ButtonFace::ButtonFace;
 
-    void DrawKind() override { by_.setChecked(shown_.isChosen()); }
+    void DrawKind() override { by.setChecked(shown.isChosen()); }
 };
 
 struct TextFieldFace final : FaceOf<TextField, QLineEdit> {
     using FaceOf::FaceOf;
 
     void KeepRoom() override {
-        const QString withMargins = QString::fromStdString(shown_.widest) + QStringLiteral("00");
-        by_.setMinimumWidth(by_.fontMetrics().horizontalAdvance(withMargins));
+        const QString withMargins = QString::fromStdString(shown.widest) + QStringLiteral("00");
+        by.setMinimumWidth(by.fontMetrics().horizontalAdvance(withMargins));
     }
     void Connect(Acts& acts) override {
-        QObject::connect(&by_, &QLineEdit::textEdited, &by_,
-                         [this](const QString& typed) { shown_.text = typed.toStdString(); });
-        QObject::connect(&by_, &QLineEdit::returnPressed, &by_, [this, &acts] { Leave(acts); });
+        QObject::connect(&by, &QLineEdit::textEdited, &by,
+                         [this](const QString& typed) { shown.text = typed.toStdString(); });
+        QObject::connect(&by, &QLineEdit::returnPressed, &by, [this, &acts] { Leave(acts); });
     }
 
     /// What is typed behind the untouched text of a window's main field takes its place.
     KeyUse TakeKey(const QKeyEvent& event) override {
         const bool typed = !event.text().isEmpty() && event.text().front().isPrint() && !event.text().front().isSpace();
-        const bool untouched = !by_.isModified() && by_.cursorPosition() == by_.text().size();
-        if (typed && untouched && by_.property("main").toBool()) by_.selectAll();
+        const bool untouched = !by.isModified() && by.cursorPosition() == by.text().size();
+        if (typed && untouched && by.property("main").toBool()) by.selectAll();
         return isEnter(event) || isEditingKey(event) ? KeyUse::Kept : KeyUse::Open;
     }
-    void Leave(Acts& acts) override { acts.Fire(shown_, shown_.LostFocus); }
+    void Leave(Acts& acts) override { acts.Fire(shown, shown.LostFocus); }
 
     Roles ColorRoles() const override { return {QPalette::Base, QPalette::Text}; }
-    QString Text() const override { return by_.text(); }
-    void SetText(const QString& text) override { by_.setText(text); }
 };
 
 struct GroupBoxFace final : FaceOf<GroupBox, QGroupBox> {
@@ -149,37 +153,37 @@ struct GroupBoxFace final : FaceOf<GroupBox, QGroupBox> {
     /// It is clicked on its caption or its line, not between what it holds.
     bool isHit(const QPoint& where) const override {
         QStyleOptionGroupBox option;
-        option.initFrom(&by_);
-        option.text = by_.title();
+        option.initFrom(&by);
+        option.text = by.title();
         option.subControls = QStyle::SC_GroupBoxFrame | QStyle::SC_GroupBoxLabel;
         const QRect contents =
-            by_.style()->subControlRect(QStyle::CC_GroupBox, &option, QStyle::SC_GroupBoxContents, &by_);
-        return by_.rect().contains(where) && !contents.contains(where);
+            by.style()->subControlRect(QStyle::CC_GroupBox, &option, QStyle::SC_GroupBoxContents, &by);
+        return by.rect().contains(where) && !contents.contains(where);
     }
 
     /// Leads to its field, where the toolkit would prefer a chosen option.
     bool TakeShortcut() override {
-        auto* field = by_.findChild<QLineEdit*>();
+        auto* field = by.findChild<QLineEdit*>();
         if (field) field->setFocus(Qt::ShortcutFocusReason);
         return field != nullptr;
     }
 
-    QString Text() const override { return by_.title(); }
-    void SetText(const QString& text) override { by_.setTitle(text); }
+    QString Text() const override { return by.title(); }
+    void SetText(const QString& text) override { by.setTitle(text); }
 };
 
 struct ChoiceListFace final : FaceOf<ChoiceList, QComboBox> {
     using FaceOf::FaceOf;
 
     void KeepRoom() override {
-        by_.addItem(QString::fromStdString(shown_.widest));
-        by_.setMinimumWidth(by_.sizeHint().width());
-        by_.removeItem(by_.count() - 1);
+        by.addItem(QString::fromStdString(shown.widest));
+        by.setMinimumWidth(by.sizeHint().width());
+        by.removeItem(by.count() - 1);
     }
     void Connect(Acts& acts) override {
-        QObject::connect(&by_, &QComboBox::activated, &by_, [this, &acts](int index) {
-            shown_.selected = index;
-            acts.Fire(shown_, shown_.Chosen);
+        QObject::connect(&by, &QComboBox::activated, &by, [this, &acts](int index) {
+            shown.selected = index;
+            acts.Fire(shown, shown.Chosen);
         });
     }
     KeyUse TakeKey(const QKeyEvent& event) override { return isListKey(event) ? KeyUse::Kept : KeyUse::Open; }
@@ -187,12 +191,12 @@ struct ChoiceListFace final : FaceOf<ChoiceList, QComboBox> {
     Roles ColorRoles() const override { return {QPalette::Button, QPalette::ButtonText}; }
 
     void DrawKind() override {
-        if (items_ != shown_.items) {
-            items_ = shown_.items;
-            by_.clear();
-            for (const std::string& item : items_) by_.addItem(QString::fromStdString(item));
+        if (items_ != shown.items) {
+            items_ = shown.items;
+            by.clear();
+            for (const std::string& item : items_) by.addItem(QString::fromStdString(item));
         }
-        if (by_.currentIndex() != shown_.selected) by_.setCurrentIndex(shown_.selected);
+        if (by.currentIndex() != shown.selected) by.setCurrentIndex(shown.selected);
     }
 
     std::vector<std::string> items_;  ///< As they stand in the widget.
