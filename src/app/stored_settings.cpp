@@ -38,25 +38,15 @@ Settings ProgramRows() {
     };
 }
 
-/// The position of the Events window marks settings of this layout, whatever it is. Others are cleared, but for the
-/// mark of a start that has not finished.
-Setting LayoutMark() {
-    return {"Events", "Top", "",
-            [](const std::string&) {
-                if (CurrentDesktop->Settings().Read(ProgramSettings, "Events", "Top")) return true;
-                DeleteAllPrefs();
-                CurrentDesktop->Settings().Write(ProgramSettings, "Prog", "Launch", "");
-                return true;
-            },
-            []() -> std::optional<std::string> { return std::nullopt; }};
-}
-
-}  // namespace
-
-Settings StoredRows(Horvanta& program) {
+/// The numbering, which moments and positions of days are read under.
+Settings FirstRows(Horvanta& program) {
     Settings rows = ProgramRows();
     Append(rows, program.options.NumberingRows());
-    rows.push_back(LayoutMark());
+    return rows;
+}
+
+Settings OtherRows(Horvanta& program) {
+    Settings rows;
     for (WindowRow& row : program.windows) {
         if (row.isThere()) Append(rows, PositionRows(row));
     }
@@ -69,9 +59,30 @@ Settings StoredRows(Horvanta& program) {
     return rows;
 }
 
+/// The position of the Events window marks settings of this layout, whatever it is. Others are cleared, but for the
+/// mark of a start that has not finished.
+void ClearOlderLayout() {
+    SettingsStore& settings = CurrentDesktop->Settings();
+    if (settings.Read(ProgramSettings, "Events", "Top")) return;
+    DeleteAllPrefs();
+    settings.Write(ProgramSettings, "Prog", "Launch", "");
+}
+
+}  // namespace
+
+Settings StoredRows(Horvanta& program) {
+    Settings rows = FirstRows(program);
+    Append(rows, OtherRows(program));
+    return rows;
+}
+
 void LoadFramePrefs(HorvantaMDI& frame) { Load(FrameRows(frame)); }
 
-void LoadPrefs(Horvanta& program) { Load(StoredRows(program)); }
+void LoadPrefs(Horvanta& program) {
+    Load(FirstRows(program));
+    ClearOlderLayout();
+    Load(OtherRows(program));
+}
 
 void WritePrefs(Horvanta& program) {
     Save(FrameRows(program.frame));

@@ -80,7 +80,6 @@ TEST(Again, RepeatsTheLastEvent) {
     EXPECT_EQ(desk.program.timeAstro.JumpAgainButton.tooltip,
               "Again invoke the \"Previous Northward Equinox\" command");
     EXPECT_NEAR(DisplayedMoment, first, 1e-4);
-    EXPECT_EQ(desk.Obey("menu NextMenu 2"), "error: no such menu item: NextMenu 2");
 }
 
 TEST(Numbering, KeepsEveryDate) {

@@ -39,7 +39,7 @@ constexpr Row rows[] = {
     {"Item", "Elev", "0"}, {"Item", "UseAUC", "1"}, {"Item", "JCY1", "-2637"}, {"Item", "Rectify", "1"},
     {"Item", "YRF", "-752"}, {"Item", "OSY", "-775"}, {"Item", "LP", "True"}, {"Item", "WCC", "True"}, {"Item", "UseEnglish", "False"},
     {"Item", "LOC", "Tehran"}, {"Item", "Map", "4"}, {"Item", "MC", "3"}, {"Item", "AD", "&Down"},
-    {"Item", "LunOpt", "2"}, {"Item", "LunOff", "17037"}, {"Item", "LunCap", "Brown"}, {"Item", "Candles", "40"},
+    {"Item", "LunOpt", "2"}, {"Item", "Candles", "40"},
     {"Color", "ABC", "1"}, {"Color", "AFC", "2"}, {"Color", "GBC", "3"}, {"Color", "GFC", "4"}, {"Color", "LBC", "5"},
     {"Color", "ChinFC", "6"}, {"Color", "JBC", "7"}, {"Color", "PBC", "9"}, {"Color", "CFC", "16711680"},
     {"Later", "Key", "kept"},
@@ -49,7 +49,7 @@ constexpr Row rows[] = {
 StoredSettings AllRows() {
     StoredSettings settings;
     for (const auto& [section, key, text] : rows) settings["Horvanta"][section][key] = text;
-    settings["Horvanta-UDLs"]["YLC"]["YP"] = "kept";
+    settings["Horvanta-UDLs"]["Later"]["Key"] = "kept";
     return settings;
 }
 
@@ -66,7 +66,7 @@ TEST(StoredSettings, ComeBackAsTheyWereSaved) {
     desk.Obey("menu MenuExit");
     StoredSettings& saved = desk.desktop.settings.flushed;
     for (const Row& row : rows) EXPECT_EQ(TextOf(saved, row), row[2]) << row[0] << "/" << row[1];
-    EXPECT_EQ(saved["Horvanta-UDLs"]["YLC"]["YP"], "kept");
+    EXPECT_EQ(saved["Horvanta-UDLs"]["Later"]["Key"], "kept");
 }
 
 /// What is damaged is as if it were not there, and takes nothing else with it.
@@ -101,12 +101,13 @@ TEST(StoredSettings, TakeDefaultsForDamage) {
     }
 }
 
-/// Every key that the settings have had so far, but for those of the windows to come, which have no position yet.
+/// Every key that the settings have had so far.
 constexpr std::pair<const char*, const char*> keys[] = {
     {"Prog", "Name Ver Rev Pub"},
     {"Item",
      "FixOpt GE FixEpoch FixNam Candles EW Step Year OrbRAY JDMJD Qua454 QuaQS QuaLeap QuaStart UseZov454 UseZov010 "
-     "Even Mix CCM CEN THC MTF RD SD AdjDST dT ShowDD Elev UseAUC JCY1 UseEnglish Rectify YRF OSY LP WCC LOC Map MC AD LunOpt"},
+     "Even Mix CCM CEN THC MTF RD SD AdjDST dT ShowDD Elev UseAUC JCY1 UseEnglish Rectify YRF OSY LP WCC LOC Map MC AD LunOpt EH "
+     "LunOff LunCap"},
     {"Color",
      "LBC LFC ABC AFC GBC GFC SBC SFC HBC HFC PBC PFC JBC JFC ChinBC ChinFC JapBC JapFC KorBC KorFC VietBC VietFC IBC "
      "IFC RBC RFC CFC"},
@@ -114,15 +115,16 @@ constexpr std::pair<const char*, const char*> keys[] = {
     {"Monthly", "Top Left Chk"},
     {"Quartane", "Top Left Chk"},
     {"Julian", "Top Left Chk"},
-    {"Events", "Top Chk"},
+    {"Events", "Top Left Chk"},
     {"User", "Top Left Chk"},
     {"Gregorian", "Top Left Chk"},
     {"Persian", "Top Left Chk"},
-    {"Hebrew", "Chk"},
-    {"Lunar", "Chk"},
+    {"Hebrew", "Top Left Chk"},
+    {"Lunar", "Top Left Chk"},
     {"Chinese", "Top Left Chk"},
     {"User 30", "Name Lat Long Elev Zone NoDST UseLMT Chk"},
     {"UserNum", "Num"},
+    {"YLC", "YP"},
 };
 
 TEST(StoredSettings, HaveEveryKeyOnce) {
@@ -131,7 +133,8 @@ TEST(StoredSettings, HaveEveryKeyOnce) {
     for (const Setting& setting : StoredRows(desk.program)) {
         const int count = ++rowsOfKey[{setting.section, setting.key}];
         EXPECT_EQ(count, 1) << setting.section << "/" << setting.key;
-        const bool inUserSettings = setting.section.starts_with("User") && setting.section != "User";
+        const bool inUserSettings =
+            setting.section.starts_with("User ") || setting.section == "UserNum" || setting.section == "YLC";
         EXPECT_EQ(setting.application, inUserSettings ? UserSettings : ProgramSettings) << setting.section;
     }
     for (const auto& [section, names] : keys) {

@@ -147,9 +147,9 @@ TEST_F(JulianWindowTest, ShowsTheDateInEveryCount) {
     EXPECT_EQ(window_.TheJulianDate.text, "Monday, January 1, 1 PUC ");
     desk_.Obey("click Julian.Revise");
     EXPECT_EQ(window_.form.text, "Revised Julian and Roman");
-    EXPECT_EQ(desk_.Obey("events"), R"("Roman" "kalendas Ianuarius 1 PUC" "Kalends")");
+    EXPECT_EQ(desk_.Obey("events Roman"), R"("Roman" "kalendas Ianuarius 1 PUC" "Kalends")");
     desk_.Obey("press PageDown");
-    EXPECT_EQ(desk_.Obey("events"), "none");
+    EXPECT_EQ(desk_.Obey("events Roman"), "none");
     desk_.Obey("click Julian.UseAUC");
     Show(2024, 1, 2);
     EXPECT_EQ(window_.form.text, "Revised Julian (equal to Gregorian) and Roman");
@@ -183,9 +183,9 @@ TEST_F(JulianWindowTest, IsTheSameUnderEveryNumbering) {
     desk_.Obey("click Julian.Revise");
     for (const int year : {-6900, -1, 1, 2024}) {
         Show(year, 1, 1);
-        const std::string shown = desk_.Obey("show Julian") + desk_.Obey("events");
+        const std::string shown = desk_.Obey("show Julian") + desk_.Obey("events Roman");
         desk_.Obey("menu SetEpochOptMenu 6");
-        EXPECT_EQ(desk_.Obey("show Julian") + desk_.Obey("events"), shown);
+        EXPECT_EQ(desk_.Obey("show Julian") + desk_.Obey("events Roman"), shown);
         desk_.Obey("menu SetEpochOptMenu 2");
     }
 }

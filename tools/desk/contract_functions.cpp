@@ -56,7 +56,7 @@ struct WindowCalendar {
 const WindowCalendar calendars[] = {
     {"Gregorian", GregorianCalendar}, {"Gregorian", ISOCalendar, "Alt"}, {"Julian", JulianCalendar},
     {"Julian", RomanCalendar, "Alt"}, {"Persian", PersianCalendar},      {"Quartane", quartane::Calendar},
-    {"Hebrew", hebrew::Calendar},     {"Lunar", YermCalendar},            {"Chinese", oriental::Calendar},
+    {"Hebrew", hebrew::Calendar},     {"Lunar", YermCalendar},           {"Chinese", oriental::Calendar},
 };
 
 }  // namespace

@@ -354,9 +354,11 @@ std::string Desk::Show(std::string_view rest) {
     return Joined(items);
 }
 
-std::string Desk::Events(std::string_view) {
+/// All of them, or those of a calendar.
+std::string Desk::Events(std::string_view calendar) {
     std::vector<std::string> items;
     for (const day_events::Event& event : day_events::List()) {
+        if (!calendar.empty() && event.calendar != calendar) continue;
         items.push_back(Quoted(event.calendar) + " " + Quoted(event.date) + " " + Quoted(event.text));
     }
     return Joined(items);
