@@ -1,4 +1,4 @@
-#include "calendars/oriental.h"
+#include "calendars/oriental_text.h"
 
 #include "astro/lunar_phases.h"
 #include "astro/sun.h"
