@@ -12,6 +12,8 @@
 #include "core/text.h"
 #include "hebrew/hebrew_options.h"
 #include "locale/locale_text.h"
+#include "lunar/lunar_options.h"
+#include "lunar/yerm_eras.h"
 #include "views/monthly_window.h"
 #include "views/time_fields.h"
 
@@ -25,6 +27,8 @@ void ResetAllOptions() {
     hebrew::options = {};
     horizon::options = {};
     julian::options = {};
+    lunar::options = {};
+    RevertToFixedYermCycle();
     monthly::options = {};
     oriental::options = {};
     quartane::options = {};

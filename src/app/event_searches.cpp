@@ -1,10 +1,17 @@
 #include "app/event_searches.h"
 
+#include "app/lunar_searches.h"
+#include "astro/crescents.h"
+#include "astro/lunar_phases.h"
+#include "astro/moon.h"
 #include "astro/sun.h"
 #include "astro/year_dates.h"
 #include "calendars/easter.h"
 #include "calendars/oriental.h"
 #include "calendars/quartane_year_start.h"
+#include "hebrew/molad.h"
+#include "lunar/tithi.h"
+#include "lunar/yerm.h"
 
 #include <algorithm>
 #include <array>
@@ -37,6 +44,19 @@ Moment JumpOrbitalNewYear(Moment from, int direction) {
 
 // clang-format off
 constexpr EventSearch searches[] = {
+    {MenuEvent::LunarEvent, JumpLunarEvent},
+    {MenuEvent::NewMoon, JumpNewMoon},
+    {MenuEvent::FirstNewCrescent, [](Moment from, int direction) { return CrescentPassage(from, direction); }},
+    {MenuEvent::FirstQuarterMoon, [](Moment from, int direction) { return JumpQuarter(from, 90, direction); }},
+    {MenuEvent::FullMoon, [](Moment from, int direction) { return JumpQuarter(from, 180, direction); }},
+    {MenuEvent::LastQuarterMoon, [](Moment from, int direction) { return JumpQuarter(from, 270, direction); }},
+    {MenuEvent::LastOldCrescent, [](Moment from, int direction) { return OldCrescentPassage(from, direction); }},
+    {MenuEvent::VedicTithi, JumpTithi},
+    {MenuEvent::MeanNewMoon, JumpMeanNewMoon},
+    {MenuEvent::MeanPerigee, [](Moment from, int direction) { return lunar::AnomalyPassage(from, 0, direction); }},
+    {MenuEvent::MeanApogee, [](Moment from, int direction) { return lunar::AnomalyPassage(from, 180, direction); }},
+    {MenuEvent::Yerm, JumpYerm},
+    {MenuEvent::YermEra, JumpYermEra},
     {MenuEvent::LeapWeek, quartane::JumpLeapWeek},
     {MenuEvent::QuaNewYearMoment, quartane::JumpNYmoment},
     {MenuEvent::QuaLeapCycle, quartane::JumpQuaCycle},
@@ -55,6 +75,7 @@ constexpr EventSearch searches[] = {
     {MenuEvent::UniformEaster, JumpUniformEaster},
     {MenuEvent::OrthodoxEaster, JumpOrthoEaster},
     {MenuEvent::FixedEaster, quartane::JumpFixedEaster},
+    {MenuEvent::MoladMoment, JumpMolad},
 };
 // clang-format on
 

@@ -108,6 +108,7 @@ void Horvanta::TakeSettings() {
         if (row.open == OpenAt::EveryStart) row.form.visible = true;
         EnableNeeding(row);
     }
+    options.SetLunationCaptions();
     timeAstro.SetYearStepCaptions();
     timeAstro.fields.SetToggles();
     monthly.InitCalendars();

@@ -6,8 +6,10 @@
 #include "app/places.h"
 #include "app/windows.h"
 #include "core/shell.h"
+#include "views/events_window.h"
 #include "views/gregorian_window.h"
 #include "views/julian_window.h"
+#include "views/lunar_window.h"
 #include "views/monthly_window.h"
 #include "views/oriental_window.h"
 #include "views/persian_window.h"
@@ -55,12 +57,14 @@ class Horvanta {
     HorvantaMDI frame;
     TimeAstro timeAstro{frame};
     GregorianWindow gregorian{frame};
+    LunarWindow lunar{frame};
     JulianWindow julian{frame};
     PersianWindow persian{frame};
     OrientalWindow oriental{frame};
     QuartaneWindow quartane{frame};
     UserLocalesWindow userLocales{frame};
     WorldWindow world;
+    EventsWindow events{frame};
     MonthlyWindow monthly{frame};
     Places places{frame, timeAstro.fields};
     Jumps jumps{frame, timeAstro};
@@ -70,14 +74,16 @@ class Horvanta {
     /// In the order in which they are loaded and update.
     std::vector<WindowRow> windows{
         timeAstro.Row(),
+        Beside(timeAstro.form, gregorian.Row()),
         Below(timeAstro.form, quartane.Row()),
         Beside(quartane.form, monthly.Row()),
-        Beside(timeAstro.form, gregorian.Row()),
+        Below(gregorian.form, lunar.Row()),
         Below(monthly.form, julian.Row()),
         Below(gregorian.form, persian.Row()),
         Beside(gregorian.form, oriental.Row()),
         Beside(monthly.form, userLocales.Row()),
         {world.form, world.Dummy},
+        Below(monthly.form, events.Row()),
     };
 
     /// The same, as far as they are there.

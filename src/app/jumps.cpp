@@ -2,10 +2,12 @@
 
 #include "app/event_searches.h"
 #include "astro/local_time.h"
+#include "astro/lunar_phases.h"
 #include "clock/zone_time.h"
 #include "core/desktop.h"
 #include "core/moment.h"
 #include "core/text.h"
+#include "lunar/lunar_options.h"
 #include "views/time_astro.h"
 
 #include <cstdlib>
@@ -28,6 +30,8 @@ Jumps::Jumps(HorvantaMDI& frame, TimeAstro& time) : frame_(frame), time_(time) {
     frame_.MenuJumpToToday.Click = [this] { MenuJumpToToday_Click(); };
     frame_.MenuJumpToNow.Click = [this] { MenuJumpToNow_Click(); };
     frame_.FixedDayEpoch.Click = [this] { FixedDayEpoch_Click(); };
+    frame_.LunationAtEpoch.Click = [this] { LunationAtEpoch_Click(); };
+    frame_.ArbitraryLunation.Click = [this] { ArbitraryLunation_Click(); };
     frame_.JumpBy.Click = time_.IncrementDisplay.Click = [this] { JumpBy_Click(); };
     frame_.JumpAgain.Click = time_.JumpAgainButton.Click = [this] { JumpAgain_Click(); };
     HangSearches();
@@ -58,6 +62,30 @@ void Jumps::SaveThisMoment_Click() {
 void Jumps::JumpToSaved_Click() { JumpToMoment(SavedMoment); }
 
 void Jumps::FixedDayEpoch_Click() { JumpToMoment(FixedEpochValue); }
+
+void Jumps::LunationAtEpoch_Click() {
+    const LunationConvention& convention = ChosenLunationConvention();
+    JumpToMoment(NumberedLunation(convention.FirstLunation, convention));
+}
+
+void Jumps::ArbitraryLunation_Click() {
+    const LunationConvention& convention = ChosenLunationConvention();
+    const double first = Ceiling(MomentToLunation(MinFixedDay)) + convention.Offset + 1;
+    const double last = Floor(MomentToLunation(MaxFixedDay)) + convention.Offset - 1;
+    const std::string name = std::string(convention.Name) + " Lunation Number";
+    const auto answer = CurrentDesktop->AskText(
+        "Enter or paste " + name + "\n(include decimal fraction for arbitrary phase)\nAllowed range " +
+            GeneralText(first) + " to " + GeneralText(last) + "\n(else beep and no effect)",
+        name, "");
+    if (!answer) return;
+    const auto number = ParseNumber(*answer);
+    if (!number) return;
+    if (*number >= first && *number <= last) {
+        JumpToMoment(NumberedLunation(*number, convention));
+    } else {
+        CurrentDesktop->Beep();
+    }
+}
 
 void Jumps::JumpBy_Click() {
     const std::string steps = time_.StepCaption();

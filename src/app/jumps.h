@@ -25,6 +25,10 @@ class Jumps {
     /// The day that the numbering is told by.
     void FixedDayEpoch_Click();
 
+    /// The first lunation of the chosen numbering, and any lunation, or phase of one, that the user tells.
+    void LunationAtEpoch_Click();
+    void ArbitraryLunation_Click();
+
     /// Asks for a number of steps and takes them.
     void JumpBy_Click();
 

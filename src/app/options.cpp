@@ -6,6 +6,7 @@
 #include "core/text.h"
 #include "hebrew/hebrew_options.h"
 #include "locale/locale_text.h"
+#include "lunar/lunar_options.h"
 
 #include <utility>
 
@@ -37,6 +38,7 @@ constexpr Numbering numberings[] = {
     {[] { return Moment{HebrewEpoch}; }, 1},
 };
 static_assert(std::size(numberings) == decltype(HorvantaMDI::SetEpochOptMenu)::size());
+static_assert(LunationConventions.size() == decltype(HorvantaMDI::LunationOptMenu)::size());
 
 }  // namespace
 
@@ -51,6 +53,15 @@ Options::Options(HorvantaMDI& frame) : frame_(frame) {
         frame_.MapServer[number].Shows(web_map::options.MapIndex, index);
         if (hasWebMap(index)) frame_.MapServer[number].Click = [this, index] { MapServer_Click(index); };
     }
+    for (std::size_t number = 1; number <= frame_.LunationOptMenu.size(); ++number) {
+        const auto index = static_cast<std::int32_t>(number);
+        frame_.LunationOptMenu[number].Shows(lunar::options.LunationOption, index);
+        frame_.LunationOptMenu[number].Click = [this, index] { SetLunationOption(index); };
+    }
+    frame_.LP180.Shows(lunar::options.SignedPhase);
+    frame_.LP360.ShowsWhen([] { return !lunar::options.SignedPhase; });
+    frame_.LP180.Click = [this] { SetSignedPhase(true); };
+    frame_.LP360.Click = [this] { SetSignedPhase(false); };
     MenuItem* const formats[] = {&frame_.SetTempHMM, &frame_.SetTempHourMMM, &frame_.SetTempHourHHH};
     for (std::int32_t format = 1; MenuItem * item : formats) {
         item->Shows(time_text::options.TempHourFormat, format);
@@ -134,6 +145,11 @@ Settings Options::StoredRows() {
         WholeRow("Item", "THC", time_text::options, &time_text::Options::TempHourFormat, 1, 3),
         WholeRow("Item", "Map", web_map::options, &web_map::Options::MapIndex, 1,
                  static_cast<std::int32_t>(decltype(HorvantaMDI::MapServer)::size())),
+        WholeRow("Item", "LunOpt", lunar::options, &lunar::Options::LunationOption, 1,
+                 static_cast<std::int32_t>(LunationConventions.size())),
+        {"Item", "LunOff", "", {}, [] { return std::to_string(ChosenLunationConvention().Offset); }},
+        {"Item", "LunCap", "", {}, [] { return std::string(ChosenLunationConvention().Name); }},
+        TruthRow("Item", "LP", lunar::options, &lunar::Options::SignedPhase),
         {"Item", "MTF", "7",
          [](const std::string& text) {
              hebrew::options.MoladTimeFormat = text == "5" ? 5 : 7;
@@ -157,6 +173,23 @@ void Options::SetTempHourFormat(std::int32_t format) {
 
 void Options::UniformEaster_Click() {
     easter::options.UniformEaster = !easter::options.UniformEaster;
+    UpdateStatus();
+}
+
+void Options::SetLunationOption(std::int32_t index) {
+    lunar::options.LunationOption = index;
+    SetLunationCaptions();
+    UpdateStatus();
+}
+
+void Options::SetLunationCaptions() {
+    const std::string name(ChosenLunationConvention().Name);
+    frame_.LunationAtEpoch.caption = name + " Lunation Epoch";
+    frame_.ArbitraryLunation.caption = name + " Lunation Number...";
+}
+
+void Options::SetSignedPhase(bool isSigned) {
+    lunar::options.SignedPhase = isSigned;
     UpdateStatus();
 }
 

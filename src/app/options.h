@@ -36,6 +36,13 @@ class Options {
     /// Lets Easter stand by the moon of the sky for all churches, or not.
     static void UniformEaster_Click();
 
+    /// Chooses the way to number lunations, from 1, and whether phases run to both sides of the new Moon.
+    void SetLunationOption(std::int32_t index);
+    void SetSignedPhase(bool isSigned);
+
+    /// Names that way in the jumps to lunations; to be called when settings have chosen it.
+    void SetLunationCaptions();
+
     /// Chooses the web map that places are looked up on, by its place in the menu, from 1.
     void MapServer_Click(std::int32_t index);
 

@@ -40,25 +40,24 @@ Settings ProgramRows() {
 
 /// The position of the Events window marks settings of this layout, whatever it is. Others are cleared, but for the
 /// mark of a start that has not finished.
-Setting LayoutMark(const Form& time) {
-    const auto kept = [] { return CurrentDesktop->Settings().Read(ProgramSettings, "Events", "Top"); };
+Setting LayoutMark() {
     return {"Events", "Top", "",
-            [kept](const std::string&) {
-                if (kept()) return true;
+            [](const std::string&) {
+                if (CurrentDesktop->Settings().Read(ProgramSettings, "Events", "Top")) return true;
                 DeleteAllPrefs();
                 CurrentDesktop->Settings().Write(ProgramSettings, "Prog", "Launch", "");
                 return true;
             },
-            [kept, &time] { return kept().value_or(GeneralText(time.position.top + time.position.height + 20)); }};
+            []() -> std::optional<std::string> { return std::nullopt; }};
 }
 
 /// What no one owns yet.
 Settings KeptRows() {
     return {
-        KeptRow("Events", "Chk", "True"),   KeptRow("Hebrew", "Chk", "True"),    KeptRow("Lunar", "Chk", "True"),
-        KeptRow("Color", "LBC", "6250335"), KeptRow("Color", "LFC", "16777215"), KeptRow("Color", "HBC", "16777152"),
-        KeptRow("Color", "HFC", "0"),       KeptRow("Item", "EW", "9360"),       KeptRow("Item", "LunOpt", "1"),
-        KeptRow("Item", "LP", "False"),     KeptRow("Item", "Candles", "18"),
+        KeptRow("Hebrew", "Chk", "True"),
+        KeptRow("Color", "HBC", "16777152"),
+        KeptRow("Color", "HFC", "0"),
+        KeptRow("Item", "Candles", "18"),
     };
 }
 
@@ -67,7 +66,7 @@ Settings KeptRows() {
 Settings StoredRows(Horvanta& program) {
     Settings rows = ProgramRows();
     Append(rows, program.options.NumberingRows());
-    rows.push_back(LayoutMark(program.timeAstro.form));
+    rows.push_back(LayoutMark());
     for (WindowRow& row : program.windows) {
         if (row.isThere()) Append(rows, PositionRows(row));
     }

@@ -244,6 +244,40 @@ struct Grid final : Control {
     std::function<void(std::size_t row, std::size_t column)> CellClick;
 };
 
+/// Rows under headings, as many as there are; a row is clicked as a whole. A click beside them is one on the table.
+class RowTable final : public Control {
+  public:
+    using Control::Control;
+
+    struct Row {
+        std::vector<std::string> cells;  ///< As many as there are headings.
+        std::optional<ColorPair> colors;
+
+        bool operator==(const Row&) const = default;
+    };
+
+    std::vector<std::string> headings;
+    std::vector<Row> rows;
+    std::function<void(std::size_t row)> RowClick;
+};
+
+/// A picture of the Moon as it is seen from a place. Its tooltip says it in words.
+class MoonPicture final : public Control {
+  public:
+    using Control::Control;
+
+    struct Look {
+        double lit = 0;   ///< The part of the disc that is lit, from 0 to 1.
+        double turn = 0;  ///< The direction of the middle of the lit limb, degrees from the top to the left.
+        double size = 1;  ///< The breadth of the disc, where 1 is that at the mean distance.
+        bool up = true;   ///< It stands above the horizon.
+
+        bool operator==(const Look&) const = default;
+    };
+
+    Look look;
+};
+
 /// What a screen reader calls a control: its caption where that has words, and its tooltip, with the value behind it.
 std::string AccessibleName(const Control& control);
 
@@ -271,6 +305,7 @@ class Form {
     std::string text;  ///< The caption.
     bool visible = false;
     bool positioned = false;         ///< The user chose where it stands; the desktop may fit others into its frame.
+    bool resizable = false;          ///< The user may choose how large it is. A size of 0 is up to the desktop.
     Position position;               ///< The desktop reports the size, and where the user moved the window.
     std::vector<Control*> controls;  ///< In the order of their construction.
     Control* focusWish = nullptr;    ///< Gets the focus, and its form is raised, when the desktop draws next.

@@ -48,6 +48,9 @@ class Desktop {
     virtual std::optional<std::string> AskText(std::string_view prompt, std::string_view title,
                                                std::string_view initial) = 0;
 
+    /// A file that the user chooses to be read, by its path; nothing when cancelled.
+    virtual std::optional<std::string> ChooseFile(std::string_view title) = 0;
+
     /// A box that tells something.
     virtual void Tell(std::string_view message, std::string_view title) = 0;
 

@@ -233,6 +233,7 @@ class HorvantaMDI {
         MenuItem CE2637{ChineseYear1, "CE2637", "2637 BC"};
         MenuItem CE2697{ChineseYear1, "CE2697", "2697 BC"};
         MenuItem CE2698{ChineseYear1, "CE2698", "2698 BC"};
+      MenuItem OpenYermEras{OptionsMenu, "OpenYermEras", "Open Yerm Era List..."};
       MenuItem RevertYerm52{OptionsMenu, "RevertYerm52", "&Revert to Fixed 52-Yerm Cycle"};
 
     MenuItem WindowS{menuBar, "WindowS", "&Window"};

@@ -1,7 +1,9 @@
 #include "qt/forms.h"
 
+#include "forms/ui_events.h"
 #include "forms/ui_gregorian.h"
 #include "forms/ui_julian.h"
+#include "forms/ui_lunar.h"
 #include "forms/ui_monthly.h"
 #include "forms/ui_oriental.h"
 #include "forms/ui_persian.h"
@@ -26,7 +28,8 @@ struct DesignerForm {
 constexpr DesignerForm designerForms[] = {
     {"TimeAstro", SetUp<Ui::TimeAstro>}, {"Gregorian", SetUp<Ui::Gregorian>}, {"Monthly", SetUp<Ui::Monthly>},
     {"Quartane", SetUp<Ui::Quartane>},   {"User", SetUp<Ui::User>},           {"Persian", SetUp<Ui::Persian>},
-    {"Julian", SetUp<Ui::Julian>},       {"World", SetUp<Ui::World>},         {"Chinese", SetUp<Ui::Chinese>},
+    {"Julian", SetUp<Ui::Julian>},       {"World", SetUp<Ui::World>},         {"Lunar", SetUp<Ui::Lunar>},
+    {"Events", SetUp<Ui::Events>},       {"Chinese", SetUp<Ui::Chinese>},
 };
 
 }  // namespace

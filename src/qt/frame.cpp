@@ -159,11 +159,21 @@ void Frame::DrawSize(Child& child) {
     if (size != window.size()) window.resize(size);
 }
 
+/// The size that the user has chosen, as far as it fits into the frame.
+void Frame::DrawChosenSize(Child& child) {
+    const Position& chosen = child.form->position;
+    const QSize least = child.window->minimumSizeHint();
+    const QSize room = area_->viewport()->size();
+    child.window->resize(Pixels(chosen.width, least.width(), room.width()),
+                         Pixels(chosen.height, least.height(), room.height()));
+}
+
 /// Puts a window where its form says, but so that its title can be reached: settings may come from a larger screen.
 void Frame::DrawPlace(Child& child) {
     constexpr int reach = 60;  // pixels
     QMdiSubWindow& window = *child.window;
-    DrawSize(child);
+    const bool growsDown = child.form->resizable && child.form->position.height == 0;
+    child.form->resizable ? DrawChosenSize(child) : DrawSize(child);
 
     const Position& place = child.form->position;
     const QSize room = area_->viewport()->size();
@@ -171,7 +181,20 @@ void Frame::DrawPlace(Child& child) {
     wished.moveTo(Pixels(place.left, reach - window.width(), room.width() - reach),
                   Pixels(place.top, 0, room.height() - reach));
     if (!child.form->positioned) wished.moveTo(FreePlace(child, wished));
-    if (window.pos() != wished.topLeft()) window.move(wished.topLeft());
+    if (growsDown) wished.setBottom(FreeBottom(child, wished));
+    if (window.geometry() != wished) window.setGeometry(wished);
+}
+
+/// How far down a window may reach before it meets another one or leaves the frame.
+int Frame::FreeBottom(const Child& child, QRect place) const {
+    int bottom = area_->viewport()->height() - 1;
+    for (const Child& other : children_) {
+        const QRect taken = other.window->geometry();
+        const bool isBelow =
+            taken.top() > place.bottom() && taken.left() <= place.right() && taken.right() >= place.left();
+        if (&other != &child && other.form->visible && isBelow) bottom = std::min(bottom, taken.top() - 1);
+    }
+    return std::max(bottom, place.bottom());
 }
 
 /// Where a window that no one has placed may stand: as it wishes, or at the highest place, to the left, beside or below
@@ -264,7 +287,9 @@ bool Frame::eventFilter(QObject* watched, QEvent* event) {
                 child->form->position.top = Twips(child->window->y());
             }
             return false;
-        case QEvent::Resize: NoteSize(*child->form, child->window->size()); return false;
+        case QEvent::Resize:
+            if (!child->form->resizable || !drawing_) NoteSize(*child->form, child->window->size());
+            return false;
         default: return false;
     }
 }

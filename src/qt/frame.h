@@ -64,7 +64,9 @@ class Frame final : public QMainWindow, public Acts {
     void DrawMenus();
     void DrawChild(Child& child);
     void DrawSize(Child& child);
+    void DrawChosenSize(Child& child);
     void DrawPlace(Child& child);
+    int FreeBottom(const Child& child, QRect place) const;
     QPoint FreePlace(const Child& child, QRect wished) const;
     void PlaceAll();
     void GrantFocus(Child& child);

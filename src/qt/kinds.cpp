@@ -3,6 +3,8 @@
 #include "qt/face.h"
 #include "qt/grid_widget.h"
 #include "qt/keys.h"
+#include "qt/moon_picture_widget.h"
+#include "qt/row_table_widget.h"
 #include "qt/status_bar_widget.h"
 #include "qt/up_down_widget.h"
 
@@ -44,6 +46,11 @@ struct OwnFace final : FaceOf<ControlKind, WidgetKind> {
         this->by_.KeepRoom(QString::fromStdString(this->shown_.widest));
     }
     void Connect(Acts& acts) override { this->by_.Connect(this->shown_, acts); }
+    Face::KeyUse TakeKey(const QKeyEvent& event) override {
+        bool kept = false;
+        if constexpr (requires { WidgetKind::Keeps(event); }) kept = WidgetKind::Keeps(event);
+        return kept ? Face::KeyUse::Kept : Face::KeyUse::Open;
+    }
 
     void DrawKind() override { this->by_.Draw(this->shown_); }
 };
@@ -220,6 +227,8 @@ constexpr Kind kinds[] = {
     KindOf<OwnFace<CellGrid, CellGridWidget>>,
     KindOf<OwnFace<Grid, GridWidget>>,
     KindOf<OwnFace<DayStrip, DayStripWidget>>,
+    KindOf<OwnFace<RowTable, RowTableWidget>>,
+    KindOf<OwnFace<MoonPicture, MoonPictureWidget>>,
 };
 
 }  // namespace

@@ -9,6 +9,7 @@
 #include <QDateTime>
 #include <QDesktopServices>
 #include <QDir>
+#include <QFileDialog>
 #include <QFontMetrics>
 #include <QGridLayout>
 #include <QInputDialog>
@@ -78,6 +79,12 @@ std::optional<std::string> QtDesktop::AskText(std::string_view prompt, std::stri
     const QString text = QInputDialog::getText(frame_.get(), QString::fromUtf8(title), QString::fromUtf8(prompt),
                                                QLineEdit::Normal, QString::fromUtf8(initial), &accepted);
     return accepted ? std::optional(text.toStdString()) : std::nullopt;
+}
+
+std::optional<std::string> QtDesktop::ChooseFile(std::string_view title) {
+    frame_->Draw();
+    const QString path = QFileDialog::getOpenFileName(frame_.get(), QString::fromUtf8(title));
+    return path.isEmpty() ? std::nullopt : std::optional(path.toStdString());
 }
 
 void QtDesktop::Tell(std::string_view message, std::string_view title) {

@@ -1,5 +1,6 @@
 #include "views/time_astro.h"
 
+#include "astro/lunar_phases.h"
 #include "astro/sun.h"
 #include "astro/year_dates.h"
 #include "calendars/gregorian.h"
@@ -7,6 +8,7 @@
 #include "core/moment.h"
 #include "core/text.h"
 #include "locale/locale_text.h"
+#include "lunar/tithi.h"
 
 #include <algorithm>
 #include <cmath>
@@ -22,12 +24,10 @@ struct Step {
     std::string_view jump;
 };
 
-constexpr double lunarCycle = 29.530588853;
-
 constexpr Step steps[] = {
     {1, "a day", "a week"},
     {7, "a week", "4 weeks"},
-    {lunarCycle, "a lunar cycle", "12 lunar cycles"},
+    {MeanSynodicMonth, "a lunar cycle", "12 lunar cycles"},
     {MeanTropicalYear, "a year", "10 years"},
     {3652.42189, "a decade", "10 decades"},
     {36524.2189, "a century", "10 centuries"},
@@ -42,7 +42,7 @@ struct Jump {
     double steps;
 };
 
-constexpr Jump jumps[] = {{1, 7}, {7, 4}, {lunarCycle, 12}};
+constexpr Jump jumps[] = {{1, 7}, {7, 4}, {MeanSynodicMonth, 12}};
 constexpr double otherJump = 10;
 
 /// What a person reads of the day number; a copy has all its digits.
@@ -91,7 +91,6 @@ void TimeAstro::HangHandlers() {
     form.KeyDown = [this](int code, int shift) { return Form_KeyDown(code, shift); };
 }
 
-/// The step by lunar cycles has no handler, and so is not shown, as long as nothing finds lunar phases.
 void TimeAstro::HangMenus() {
     frame_.Form_KeyDown = form.KeyDown;
     frame_.DayUpDown = [this](double count, double size) { DayUpDown(count, size); };
@@ -101,7 +100,7 @@ void TimeAstro::HangMenus() {
         const auto index = static_cast<std::int32_t>(number);
         MenuItem& item = frame_.StepMenu[number];
         item.Shows(stepping::options.StepIndex, index);
-        if (steps[number - 1].size != lunarCycle) item.Click = [this, index] { StepMenu_Click(index); };
+        item.Click = [this, index] { StepMenu_Click(index); };
     }
     frame_.StepBySolarYear.Shows(stepping::options.StepsBySolarYear);
     frame_.StepByOrbitalYear.ShowsWhen([] { return !stepping::options.StepsBySolarYear; });
@@ -150,7 +149,9 @@ void TimeAstro::ShowMoment() {
 
 void TimeAstro::JumpDate(double count, bool snap) {
     if (count == 0) return;
-    if (Increment != Floor(Increment)) {
+    if (Increment == MeanSynodicMonth) {
+        DisplayedMoment = JumpCycles(DisplayedMoment, count);
+    } else if (Increment != Floor(Increment)) {
         DisplayedMoment = AfterYears(Increment * count / MeanTropicalYear);
     } else {
         DisplayedMoment += Increment * count;
@@ -196,7 +197,7 @@ bool TimeAstro::Form_KeyDown(int code, int shift) {
 
 void TimeAstro::StepMenu_Click(std::int32_t index) {
     const bool known = index >= 1 && index <= static_cast<std::int32_t>(std::size(steps));
-    const std::int32_t chosen = known && frame_.StepMenu[Number(index)].isShown() ? index : 1;
+    const std::int32_t chosen = known ? index : 1;
     SetIncrement(chosen, steps[chosen - 1].size);
 }
 

@@ -38,7 +38,7 @@ class TimeAstro {
     /// Obeys a key of the time window, by its code and the bits of `KeyShift`; false if it has no meaning here.
     bool Form_KeyDown(int code, int shift);
 
-    /// Chooses an item of the step menu, 1 or above; one that is not shown acts as the first.
+    /// Chooses an item of the step menu, from 1; a number that has none acts as the first.
     void StepMenu_Click(std::int32_t index);
 
     /// What the chosen step is called, "Days".

@@ -6,6 +6,7 @@
 #include "calendars/quartane.h"
 #include "calendars/roman.h"
 #include "hebrew/hebrew_arithmetic.h"
+#include "lunar/yerm.h"
 
 #include <gtest/gtest.h>
 
@@ -33,6 +34,7 @@ const Law laws[] = {
     {"Japanese", oriental::Calendar, [] { oriental::options.OrientVariant = oriental::Japanese; }},
     {"Korean", oriental::Calendar, [] { oriental::options.OrientVariant = oriental::Korean; }},
     {"Vietnamese", oriental::Calendar, [] { oriental::options.OrientVariant = oriental::Vietnamese; }},
+    {"Yerm", YermCalendar},
     {"Quartane", quartane::Calendar},
     {"Quartane by the ISO year", quartane::Calendar, [] { quartane::options.LeapRuleKey = "ISOalt"; }},
     {"Quartane by the Revised Julian year", quartane::Calendar, [] { quartane::options.LeapRuleKey = "RJISO"; }},

@@ -6,6 +6,7 @@
 #include "core/moment.h"
 #include "desk_rows.h"
 #include "hebrew/hebrew_arithmetic.h"
+#include "lunar/yerm.h"
 
 namespace horvanta {
 
@@ -55,7 +56,7 @@ struct WindowCalendar {
 const WindowCalendar calendars[] = {
     {"Gregorian", GregorianCalendar}, {"Gregorian", ISOCalendar, "Alt"}, {"Julian", JulianCalendar},
     {"Julian", RomanCalendar, "Alt"}, {"Persian", PersianCalendar},      {"Quartane", quartane::Calendar},
-    {"Hebrew", hebrew::Calendar},     {"Chinese", oriental::Calendar},
+    {"Hebrew", hebrew::Calendar},     {"Chinese", oriental::Calendar},   {"Lunar", YermCalendar},
 };
 
 }  // namespace

@@ -81,6 +81,12 @@ std::string ShownText(const Control& control) {
         for (const CellGrid::Cell& cell : grid->cells) texts.push_back(cell.text);
     } else if (const auto* table = dynamic_cast<const Grid*>(&control)) {
         for (const auto& row : table->rows) texts.insert(texts.end(), row.begin(), row.end());
+    } else if (const auto* listed = dynamic_cast<const RowTable*>(&control)) {
+        texts = listed->headings;
+        for (const RowTable::Row& row : listed->rows) texts.insert(texts.end(), row.cells.begin(), row.cells.end());
+    } else if (const auto* moon = dynamic_cast<const MoonPicture*>(&control)) {
+        for (const double x : {moon->look.lit, moon->look.turn, moon->look.size}) texts.push_back(GeneralText(x));
+        texts.emplace_back(moon->look.up ? "up" : "down");
     } else if (const auto* list = dynamic_cast<const ChoiceList*>(&control)) {
         texts = list->items;
         texts.push_back("selected=" + std::to_string(list->selected));
@@ -244,6 +250,19 @@ std::string Desk::ClickCell(const Grid& grid, std::string_view place) {
     return "ok";
 }
 
+/// A click without a row is one beside the rows.
+std::string Desk::ClickRow(const RowTable& table, std::string_view number) {
+    const auto row = ParseNumber(number);
+    if (number.empty()) {
+        table.Click();
+    } else if (row && *row >= 0 && *row < static_cast<double>(table.rows.size())) {
+        table.RowClick(WholeNumber<std::size_t>(*row));
+    } else {
+        throw BadLine("no such row");
+    }
+    return "ok";
+}
+
 /// Selects the item of a list by its number from 0.
 std::string Desk::Choose(std::string_view rest) {
     auto* list = dynamic_cast<ChoiceList*>(&ControlInReach(TakeWord(rest)));
@@ -257,7 +276,7 @@ std::string Desk::Choose(std::string_view rest) {
 }
 
 /// The cells of a month are clicked by their numbers from 0, those of a table by row and column from 0, the panels of
-/// a bar by their numbers from 1, arrows by their direction.
+/// a bar by their numbers from 1, arrows by their direction, rows by their numbers from 0.
 std::string Desk::Click(std::string_view rest) {
     std::string_view number = rest;
     const std::string_view name = TakeWord(number);
@@ -272,6 +291,10 @@ std::string Desk::Click(std::string_view rest) {
     if (auto* grid = dynamic_cast<Grid*>(&ControlNamed(name))) {
         ControlInReach(name);
         return ClickCell(*grid, number);
+    }
+    if (const auto* table = dynamic_cast<RowTable*>(&ControlNamed(name))) {
+        ControlInReach(name);
+        return ClickRow(*table, number);
     }
     if (auto* arrows = dynamic_cast<UpDown*>(&ControlNamed(name))) {
         ControlInReach(name);

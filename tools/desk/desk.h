@@ -45,6 +45,7 @@ class Desk {
     std::string Choose(std::string_view rest);
     std::string ClickCell(CellGrid& grid, std::string_view number);
     std::string ClickCell(const Grid& grid, std::string_view place);
+    std::string ClickRow(const RowTable& table, std::string_view number);
     std::string ClickPanel(StatusBar& bar, std::string_view number);
     std::string ClickArrow(UpDown& arrows, std::string_view direction);
 

@@ -54,14 +54,15 @@ std::vector<std::string> WordsOf(std::string_view line) {
 std::string NumberAnswer(double x) { return x == NeverMoment ? "never" : ExactText(x); }
 
 const DeskFunction* FindDeskFunction(std::string_view name) {
-    static const auto functions = Joined({CoreFunctions, AstroFunctions, LocaleFunctions, CalendarFunctions,
-                                          ContractFunctions, HebrewFunctions, ClockFunctions, ViewFunctions});
+    static const auto functions =
+        Joined({CoreFunctions, AstroFunctions, LocaleFunctions, CalendarFunctions, ContractFunctions, HebrewFunctions,
+                LunarFunctions, ClockFunctions, ViewFunctions});
     return FindByName(functions, name);
 }
 
 const DeskVariable* FindDeskVariable(std::string_view name) {
-    static const auto variables =
-        Joined({CoreVariables, AstroVariables, LocaleVariables, CalendarVariables, HebrewVariables, ClockVariables});
+    static const auto variables = Joined({CoreVariables, AstroVariables, LocaleVariables, CalendarVariables,
+                                          HebrewVariables, LunarVariables, ClockVariables});
     return FindByName(variables, name);
 }
 

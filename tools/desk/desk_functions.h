@@ -47,6 +47,7 @@ std::vector<DeskFunction> LocaleFunctions();
 std::vector<DeskFunction> CalendarFunctions();
 std::vector<DeskFunction> ContractFunctions();
 std::vector<DeskFunction> HebrewFunctions();
+std::vector<DeskFunction> LunarFunctions();
 std::vector<DeskFunction> ClockFunctions();
 std::vector<DeskFunction> ViewFunctions();
 
@@ -55,6 +56,7 @@ std::vector<DeskVariable> AstroVariables();
 std::vector<DeskVariable> LocaleVariables();
 std::vector<DeskVariable> CalendarVariables();
 std::vector<DeskVariable> HebrewVariables();
+std::vector<DeskVariable> LunarVariables();
 std::vector<DeskVariable> ClockVariables();
 
 }  // namespace horvanta

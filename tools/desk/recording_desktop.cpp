@@ -81,6 +81,13 @@ std::optional<std::string> RecordingDesktop::AskText(std::string_view prompt, st
     return typed ? std::optional(answer.typed) : std::nullopt;
 }
 
+std::optional<std::string> RecordingDesktop::ChooseFile(std::string_view title) {
+    const BoxAnswer answer = NextAnswer();
+    const bool chosen = answer.kind == BoxAnswer::text;
+    asked.push_back("file " + Quoted(title) + " " + (chosen ? Quoted(answer.typed) : "cancel"));
+    return chosen ? std::optional(answer.typed) : std::nullopt;
+}
+
 void RecordingDesktop::Tell(std::string_view message, std::string_view title) {
     asked.push_back("box " + Quoted(title) + " " + Quoted(message));
 }

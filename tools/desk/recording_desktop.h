@@ -51,6 +51,7 @@ class RecordingDesktop : public Desktop {
     YesNoCancel AskYesNoCancel(std::string_view question, std::string_view title) override;
     std::optional<std::string> AskText(std::string_view prompt, std::string_view title,
                                        std::string_view initial) override;
+    std::optional<std::string> ChooseFile(std::string_view title) override;
     void Tell(std::string_view message, std::string_view title) override;
     void OpenWithShell(const std::string& path) override;
     std::optional<Color> ChooseColor(Color present) override;

@@ -1,7 +1,14 @@
 #include "app/horvanta.h"
+#include "app/lunar_searches.h"
 #include "desk_rows.h"
+#include "views/lunar_events.h"
+#include "views/moon_look.h"
 
 namespace horvanta {
+
+std::string AnswerOf(const MoonPicture::Look& look) {
+    return RecordAnswer("lit turn size up", look.lit, look.turn, look.size, look.up);
+}
 
 namespace {
 
@@ -32,6 +39,21 @@ std::vector<DeskFunction> ViewFunctions() {
         TimeRow("StepMenu_Click", &TimeAstro::StepMenu_Click),
         ClearRow(),
         Row("LocalTimes", LocalTimes),
+        Row("PhaseName", PhaseName),
+        Row("PhaseText", PhaseText),
+        Row("QuarterText", QuarterText),
+        PlaceRow("MoonInWords", MoonInWords),
+        PlaceRow("LookOfMoon", LookOfMoon),
+        PlaceRow(
+            "LunarEventsOn",
+            +[](Moment universal, const LocaleRecord& place) {
+                std::vector<std::string> lines;
+                for (const auto& [time, text] : LunarEventsOn(universal, place)) lines.push_back(time + " " + text);
+                return lines;
+            }),
+        Row("JumpLunarEvent", JumpLunarEvent),
+        Row("JumpNewMoon", JumpNewMoon),
+        Row("JumpQuarter", JumpQuarter),
     };
 }
 

@@ -1,0 +1,92 @@
+#include "qt/row_table_widget.h"
+
+#include "qt/face.h"
+#include "qt/keys.h"
+
+#include <QHeaderView>
+#include <QKeyEvent>
+#include <QMouseEvent>
+
+namespace horvanta {
+namespace {
+
+constexpr int rowPadding = 3;  // pixels above and below the text of a row
+
+}  // namespace
+
+RowTableWidget::RowTableWidget(QWidget* parent) : QTableWidget(parent) {
+    setEditTriggers(NoEditTriggers);
+    setSelectionBehavior(SelectRows);
+    setSelectionMode(SingleSelection);
+    setShowGrid(false);
+    setTabKeyNavigation(false);
+    setWordWrap(true);
+    setHorizontalScrollMode(ScrollPerPixel);
+    setVerticalScrollMode(ScrollPerPixel);
+    verticalHeader()->hide();
+    horizontalHeader()->setStretchLastSection(true);
+    horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+    horizontalHeader()->setHighlightSections(false);
+    verticalHeader()->setSectionResizeMode(QHeaderView::ResizeToContents);
+    verticalHeader()->setMinimumSectionSize(fontMetrics().height() + 2 * rowPadding);
+}
+
+void RowTableWidget::Draw(const RowTable& table) {
+    if (columnCount() == 0) {
+        QStringList headings;
+        for (const std::string& heading : table.headings) headings << QString::fromStdString(heading);
+        setColumnCount(static_cast<int>(headings.size()));
+        setHorizontalHeaderLabels(headings);
+    }
+    if (rows_ == table.rows) return;
+    rows_ = table.rows;
+    clearSelection();
+    setRowCount(static_cast<int>(rows_.size()));
+    for (std::size_t row = 0; row < rows_.size(); ++row) DrawRow(static_cast<int>(row), rows_[row]);
+    for (int column = 0; column + 1 < columnCount(); ++column) resizeColumnToContents(column);
+}
+
+void RowTableWidget::DrawRow(int row, const RowTable::Row& shown) {
+    for (std::size_t column = 0; column < shown.cells.size(); ++column) {
+        auto* cell = new QTableWidgetItem(QString::fromStdString(shown.cells[column]));
+        cell->setToolTip(cell->text());
+        if (shown.colors) {
+            cell->setBackground(ToQColor(shown.colors->background));
+            cell->setForeground(ToQColor(shown.colors->foreground));
+        }
+        setItem(row, static_cast<int>(column), cell);
+    }
+}
+
+void RowTableWidget::Connect(RowTable& table, Acts& acts) {
+    viewport()->setCursor(Qt::PointingHandCursor);
+    act_ = [&table, &acts](int row) { acts.Fire(table, table.RowClick, static_cast<std::size_t>(row)); };
+    actBeside_ = [&table, &acts] { acts.Fire(table, table.Click); };
+}
+
+bool RowTableWidget::Keeps(const QKeyEvent& event) {
+    return isEnter(event) || event.key() == Qt::Key_Up || event.key() == Qt::Key_Down;
+}
+
+QSize RowTableWidget::minimumSizeHint() const {
+    constexpr int lines = 6;
+    constexpr int letters = 40;
+    return {letters * fontMetrics().averageCharWidth(), lines * (fontMetrics().height() + 2 * rowPadding)};
+}
+
+void RowTableWidget::keyPressEvent(QKeyEvent* event) {
+    if (!isEnter(*event)) {
+        QTableWidget::keyPressEvent(event);
+    } else if (currentRow() >= 0 && !event->isAutoRepeat()) {
+        act_(currentRow());
+    }
+}
+
+void RowTableWidget::mouseReleaseEvent(QMouseEvent* event) {
+    QTableWidget::mouseReleaseEvent(event);
+    if (event->button() != Qt::LeftButton) return;
+    const QModelIndex hit = indexAt(event->position().toPoint());
+    hit.isValid() ? act_(hit.row()) : actBeside_();
+}
+
+}  // namespace horvanta

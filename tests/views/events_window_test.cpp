@@ -1,0 +1,66 @@
+#include "views/events_window.h"
+
+#include "calendars/gregorian.h"
+#include "core/moment.h"
+#include "desk.h"
+
+#include <gtest/gtest.h>
+
+namespace horvanta {
+namespace {
+
+/// The day of a Persian new year and an equinox, with all windows open that tell of it.
+TEST(EventsWindow, ListsTheDayInTheColoursOfItsCalendars) {
+    Desk desk;
+    desk.Obey("menu PersianCal");
+    DisplayedMoment = GregorianToFixed(2024, 3, 20);
+    UpdateStatus();
+    const auto& rows = desk.program.events.EventsGrid.rows;
+    const auto isOf = [&](std::size_t row, const Control& date, const std::string& text) {
+        return rows[row].colors == date.colors && rows[row].cells[2].find(text) != std::string::npos;
+    };
+    bool persian = false;
+    bool solar = false;
+    bool lunar = false;
+    for (std::size_t row = 0; row < rows.size(); ++row) {
+        persian = persian || isOf(row, desk.program.persian.ThePersianDate, "Norouz");
+        solar = solar || isOf(row, desk.program.timeAstro.TimeOfDay, "Northward Equinox");
+        lunar = lunar || isOf(row, desk.program.lunar.MoonName, "Local Moonrise");
+    }
+    EXPECT_TRUE(persian && solar && lunar);
+
+    desk.Obey("asked");
+    desk.Obey("click Events.EventsGrid 0");
+    const auto& cells = rows[0].cells;
+    EXPECT_EQ(desk.Obey("asked"), "clipboard \"" + cells[2] + ", " + cells[1] + " (" + cells[0] + ")\"");
+    EXPECT_EQ(desk.desktop.focused, &desk.program.timeAstro.FixedDayNum);
+}
+
+TEST(EventsWindow, BeepsWhereNothingHappens) {
+    Desk desk;
+    for (const char* window : {"LunarWindow", "GregCal"}) desk.Obey(std::string("menu ") + window);
+    DisplayedMoment = GregorianToFixed(2024, 1, 2);
+    UpdateStatus();
+    ASSERT_TRUE(desk.program.events.EventsGrid.rows.empty());
+    desk.Obey("asked");
+    desk.Obey("click Events.EventsGrid");
+    EXPECT_EQ(desk.Obey("asked"), "beep");
+}
+
+TEST(EventsWindow, KeepsItsSize) {
+    StoredSettings settings;
+    {
+        Desk desk;
+        EXPECT_EQ(desk.program.events.form.position.width, 9360);
+        desk.program.events.form.position.width = 7500;
+        desk.program.events.form.position.height = 3000;
+        desk.Obey("menu SavePreferences");
+        settings = desk.desktop.settings.values;
+    }
+    EXPECT_EQ(settings["Horvanta"]["Item"]["EW"], "7500");
+    Desk desk(settings);
+    EXPECT_EQ(desk.program.events.form.position.height, 3000);
+}
+
+}  // namespace
+}  // namespace horvanta

@@ -1,0 +1,225 @@
+#include "views/lunar_window.h"
+
+#include "astro/lunar_phases.h"
+#include "astro/moon.h"
+#include "calendars/gregorian.h"
+#include "core/day_events.h"
+#include "core/moment.h"
+#include "desk.h"
+#include "locale/presets.h"
+#include "lunar/lunar_options.h"
+#include "lunar/yerm_eras.h"
+#include "views/lunar_events.h"
+#include "views/moon_look.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cmath>
+#include <cstdio>
+#include <filesystem>
+#include <fstream>
+
+namespace horvanta {
+namespace {
+
+void Show(Moment universal) {
+    DisplayedMoment = universal;
+    UpdateStatus();
+}
+
+bool isTold(const std::string& text) {
+    const auto& events = day_events::List();
+    return std::ranges::any_of(events, [&](const auto& e) { return e.text.find(text) != std::string::npos; });
+}
+
+/// The Moon of 1992 April 12, 0h TD (Meeus, Astronomical Algorithms, example 47.a).
+TEST(LunarWindow, ShowsThePublishedMoon) {
+    const Desk desk;
+    Show(GregorianToFixed(1992, 4, 12) - 59.0 / 86400);
+    const LunarWindow& window = desk.program.lunar;
+    EXPECT_EQ(window.MoonLongitude.text, "133.2°");
+    EXPECT_EQ(window.MoonLatitude.text, "3.2° S");
+    EXPECT_EQ(window.MoonDeclination.text, "13.8° N");
+    EXPECT_EQ(window.MoonDistance.text, "368410 km");
+    EXPECT_EQ(window.MoonName.text, "Waxing gibbous Moon");
+    EXPECT_EQ(window.MoonPhase.text, "+110.8°");
+}
+
+TEST(LunarWindow, PhasesRunAsTheUserWants) {
+    Desk desk;
+    const LunarWindow& window = desk.program.lunar;
+    Show(PhaseAfter(GregorianToFixed(2024, 1, 1), 250));
+    EXPECT_EQ(window.MoonPhase.text, "+250.0°");
+    desk.Obey("menu LP180");
+    EXPECT_EQ(window.MoonPhase.text, "-110.0°");
+    Show(NewMoonAfter(GregorianToFixed(2024, 1, 1)));
+    EXPECT_EQ(window.MoonPhase.text, "0.0°");
+    EXPECT_EQ(window.MoonAge.text, "New");
+    EXPECT_TRUE(isTold("New Moon, J2000 Lunation Number 297"));
+}
+
+TEST(LunarWindow, ClickCopiesAllDigits) {
+    Desk desk;
+    desk.Obey("asked");
+    desk.Obey("click Lunar.MoonDistance");
+    const std::string copied = desk.Obey("asked");
+    EXPECT_NE(copied.find("Distance of the Moon from the centre of the Earth: "), std::string::npos) << copied;
+    EXPECT_NE(copied.find('.'), std::string::npos) << copied;
+}
+
+/// Over months of days each event of the Moon is told on one day, whatever hour of it is shown.
+TEST(LunarWindow, TellsEachEventOnItsDay) {
+    Locale = PresetLocale("Jerusalem");
+    const char* const once[] = {"New Moon",     "First Quarter", "Full Moon",    "Last Quarter",
+                                "new crescent", "old crescent",  "Mean Perigee", "Mean Apogee"};
+    for (const double hour : {0.0, 0.4, 0.9}) {
+        int counts[std::size(once)] = {};
+        int rises = 0;
+        for (int day = 0; day < 354; ++day) {
+            const auto events = LunarEventsOn(GregorianToFixed(2024, 1, 12) + day + hour);
+            for (std::size_t i = 0; i < std::size(once); ++i) {
+                counts[i] += static_cast<int>(std::ranges::count_if(
+                    events, [&](const LunarEvent& e) { return e.text.find(once[i]) != std::string::npos; }));
+            }
+            rises += static_cast<int>(std::ranges::count_if(
+                events, [](const LunarEvent& e) { return e.text.starts_with("Local Moonrise"); }));
+        }
+        for (std::size_t i = 0; i < std::size(once); ++i)
+            EXPECT_NEAR(counts[i], i < 6 ? 12 : 13, i < 6 ? 0 : 1) << once[i];
+        EXPECT_EQ(rises, 342);
+    }
+}
+
+/// The quarters of a lunation bear one whole number in every numbering.
+TEST(LunarWindow, QuartersOfALunationHaveOneNumber) {
+    for (int convention = 1; convention <= 6; ++convention) {
+        lunar::options.LunationOption = convention;
+        const double first = ChosenLunationConvention().Offset + 310;
+        for (double quarter = 0; quarter < 4; ++quarter) {
+            const Moment moment = PhaseAfter(NthNewMoon(FirstNewMoonOf2000 + 310) - 0.1, quarter * 90);
+            const std::string text = QuarterText(moment, quarter * 90);
+            const std::string number = GeneralText(first + quarter / 4);
+            EXPECT_TRUE(text.ends_with(std::string(ChosenLunationConvention().Name) + " Lunation Number " + number))
+                << text;
+        }
+    }
+}
+
+/// The lit limb of the young Moon in the west points down to the Sun: to the lower right from the north, and to the
+/// lower left from the south. At the full Moon all is lit.
+TEST(LunarWindow, PictureIsTurnedToThePlace) {
+    const Moment young = NewMoonAfter(GregorianToFixed(2024, 3, 1)) + 2.7;
+    const Moment evening = Floor(young) + 0.75;
+    const LocaleRecord north = MakeLocale("North", "", 40, 0, 0);
+    const LocaleRecord south = MakeLocale("South", "", -40, 0, 0);
+    const MoonPicture::Look seenFromNorth = LookOfMoon(evening, north);
+    const MoonPicture::Look seenFromSouth = LookOfMoon(evening, south);
+    EXPECT_LT(seenFromNorth.lit, 0.2);
+    EXPECT_NEAR(seenFromNorth.turn, 225, 40);
+    EXPECT_NEAR(seenFromSouth.turn, 135, 40);
+    EXPECT_TRUE(seenFromNorth.up);
+    EXPECT_GT(LookOfMoon(PhaseAfter(evening, 180), north).lit, 0.99);
+    EXPECT_NE(MoonInWords(evening, north).find("above the horizon in the west"), std::string::npos);
+    EXPECT_NE(MoonInWords(evening + 0.5, north).find("below the horizon"), std::string::npos);
+}
+
+TEST(LunarWindow, NamesPhases) {
+    const struct {
+        double phase;
+        const char* name;
+    } rows[] = {{0, "New Moon"},
+                {355, "New Moon"},
+                {-5, "New Moon"},
+                {7, "Waxing crescent Moon"},
+                {88, "First quarter Moon"},
+                {100, "Waxing gibbous Moon"},
+                {180, "Full Moon"},
+                {200, "Waning gibbous Moon"},
+                {270, "Last quarter Moon"},
+                {350, "Waning crescent Moon"}};
+    for (const auto& [phase, name] : rows) EXPECT_EQ(PhaseName(phase), name) << phase;
+}
+
+TEST(LunarWindow, NumbersLunationsAsChosen) {
+    Desk desk;
+    desk.Obey("menu LunationOptMenu 2");
+    EXPECT_EQ(desk.program.frame.LunationAtEpoch.caption, "Brown Lunation Epoch");
+    EXPECT_EQ(desk.program.lunar.LunationConvention.text, "Brown Mean Lunation #");
+    desk.Obey("menu LunationAtEpoch");
+    EXPECT_NEAR(DisplayedMoment, GregorianToFixed(1923, 1, 17) + 0.1, 0.1);  // Brown's first
+    desk.Obey("answer text 1250.5");
+    desk.Obey("menu ArbitraryLunation");
+    EXPECT_NEAR(DisplayedMoment, GregorianToFixed(2024, 1, 25) + 17.9 / 24, 0.01);  // the full Moon of that month
+    const Moment there = DisplayedMoment;
+    for (const char* answer : {"text 9999999", "text none", "cancel"}) {
+        desk.Obey(std::string("answer ") + answer);
+        desk.Obey("menu ArbitraryLunation");
+        EXPECT_EQ(DisplayedMoment, there) << answer;
+    }
+}
+
+TEST(LunarWindow, StepsByLunarCycles) {
+    Desk desk;
+    desk.Obey("menu StepMenu 3");
+    Show(NewMoonAfter(GregorianToFixed(2024, 5, 1)));
+    const double phase = lunar::Phase(DisplayedMoment);
+    const Moment from = DisplayedMoment;
+    desk.Obey("press Up");
+    EXPECT_NEAR(DisplayedMoment - from, 29.5, 0.4);
+    desk.Obey("press PageUp");
+    EXPECT_NEAR(DisplayedMoment - from, 13 * MeanSynodicMonth, 0.6);
+    desk.Obey("answer text -0.5");
+    desk.Obey("menu JumpBy");
+    EXPECT_NEAR(std::fabs(ModuloRange(lunar::Phase(DisplayedMoment) - phase, -180, 180)), 180, 0.001);
+}
+
+class YermList : public testing::Test {
+  protected:
+    void TearDown() override { std::filesystem::remove(path_); }
+
+    const std::string& File(const std::string& text) {
+        std::ofstream(path_) << text;
+        return path_;
+    }
+
+  private:
+    std::string path_ = std::filesystem::temp_directory_path() / ("lunar_window_test_" + std::to_string(getpid()));
+};
+
+TEST_F(YermList, IsOpenedAndRemembered) {
+    const std::string path = File("Two eras\n108000\n1\n-17889\n201853.5\n226954.5\n252055.5\n");
+    StoredSettings settings;
+    {
+        Desk desk;
+        Show(GregorianEpoch + 201859);
+        desk.Obey("answer text " + path);
+        desk.Obey("menu OpenYermEras");
+        EXPECT_EQ(desk.program.lunar.YLCera.text, "Era 1 = 52 yerms");
+        EXPECT_EQ(desk.program.lunar.YLCdate.text, "1+1(1(7");
+        Show(GregorianEpoch + 201000);
+        EXPECT_EQ(desk.program.lunar.YLCdate.text, "–");
+        desk.Obey("asked");
+        desk.Obey("click Lunar.InfoYLC");
+        EXPECT_NE(desk.Obey("asked").find("Two eras"), std::string::npos);
+        desk.Obey("menu SavePreferences");
+        settings = desk.desktop.settings.values;
+    }
+    RevertToFixedYermCycle();
+    {
+        Desk desk(settings);
+        EXPECT_TRUE(PresentYermForm().Progressive);
+        desk.Obey("menu RevertYerm52");
+        EXPECT_FALSE(PresentYermForm().Progressive);
+    }
+    File("no list");
+    Desk desk(settings);
+    EXPECT_FALSE(PresentYermForm().Progressive);
+    EXPECT_EQ(desk.Obey("asked"), "none");  // silent at the start
+    desk.Obey("answer text " + path);
+    desk.Obey("menu OpenYermEras");
+    EXPECT_NE(desk.Obey("asked").find("box \"Open Yerm Era List\""), std::string::npos);
+}
+
+}  // namespace
+}  // namespace horvanta
