@@ -34,28 +34,32 @@ Moment Halve(Bracket bracket, double width, double doubt, const Guess& guess, co
 
 /// How an angle that grows with time is searched for.
 struct AngleSearch {
-    double daysPerDegree;     ///< At its mean rate.
-    double reach;             ///< Days to both sides of the mean arrival at which the search begins.
-    double width;             ///< Days at which it ends.
-    double doubt = 0.000015;  ///< Days; covers the jumps of Delta T from one polynomial to the next.
+    double daysPerDegree;  ///< At its mean rate.
+    double reach;          ///< Days to both sides of the mean arrival at which the search begins.
+    double width;          ///< Days at which it ends.
+    /// Days; covers what the quick root is off, and the jumps of Delta T from one polynomial to the next.
+    double doubt = 0.000008;
 };
 
 /// When an angle comes to some degrees within a bracket: the first step goes by the mean rate, the others are secants.
+/// A secant's error is the product of the errors at its two points times half the angle's relative acceleration, which
+/// is below 0.03 a day for the Moon.
 template <class Angle>
 Moment ArrivalNear(const Bracket& bracket, Moment first, double degrees, double daysPerDegree, const Angle& angle) {
-    constexpr double close = 0.0005;  // days: a secant of this step ends far closer than a doubt
+    constexpr double close = 0.0001;  // square days
     const auto degreesPast = [&](Moment x) { return ModuloRange(angle(x) - degrees, -180, 180); };
     Moment before = first;
     double pastBefore = degreesPast(before);
     Moment x = bracket.Nearest(before - pastBefore * daysPerDegree);
-    int tries = 8;
-    do {
+    for (int tries = 0; tries < 8; ++tries) {
         const double past = degreesPast(x);
         if (past == pastBefore) break;
-        const Moment next = x - past * (x - before) / (past - pastBefore);
-        before = std::exchange(x, bracket.Nearest(next));
+        const Moment next = bracket.Nearest(x - past * (x - before) / (past - pastBefore));
+        const bool isClose = std::fabs((next - x) * (next - before)) < close;
+        before = std::exchange(x, next);
         pastBefore = past;
-    } while (std::fabs(x - before) > close && --tries > 0);
+        if (isClose) break;
+    }
     return x;
 }
 

@@ -23,7 +23,7 @@ TEST(MoonClock, AddsTheDaylightHour) {
     for (const FixedDay day : {summer, winter}) {
         const Moment clockTime = MoonriseDST(day, place);
         EXPECT_NEAR(lunar::Azimuth(clockTime, place),
-                  lunar::Bearing(StandardToUniversal(Moonrise(day, place), place), place), 1e-6);
+                    lunar::Bearing(StandardToUniversal(Moonrise(day, place), place), place), 1e-6);
         EXPECT_NEAR(lunar::Azimuth(clockTime, place), 90, 45) << "it rises in the east";
     }
 }
