@@ -1,11 +1,9 @@
 #pragma once
 
-#include "calendars/calendar_contract.h"
 #include "core/numbering.h"
 
 #include <array>
 #include <cstdint>
-#include <string>
 #include <string_view>
 #include <vector>
 
@@ -68,6 +66,16 @@ Moment OrientMidnight(Moment day);
 // Solar terms are multiples of 15 degrees of the Sun's longitude; every second one is major. They are numbered from 1,
 // the minor ones from 315°, the major ones from 330°.
 
+inline constexpr double DegreesOfTerm = 30;  ///< From a minor term to the next, or from a major one.
+inline constexpr double FirstMinorTerm = 315;
+inline constexpr double FirstMajorTerm = 330;
+
+/// The Sun's longitude at the midnight that begins a day.
+double MidnightLongitude(FixedDay day);
+
+/// The number of the last term up to a longitude, of those that begin with one.
+std::int32_t TermAt(double longitude, double first);
+
 /// The term last reached at the midnight that begins a day.
 std::int32_t MajorSolarTerm(FixedDay day);
 std::int32_t MinorSolarTerm(FixedDay day);
@@ -98,45 +106,23 @@ OrientDate FixedToOrientDate(Moment x);
 /// The same, converted once for each day, variant and numbering.
 const OrientDate& OrientDateOn(Moment x);
 
+/// A month of a year.
+struct Month {
+    FixedDay first;
+    std::int16_t number;  ///< 1 to 12.
+    bool isLeap;
+};
+
+/// The months of a year, by the year that is shown, and behind them the first of the next.
+std::vector<Month> MonthsOfShownYear(std::int32_t year);
+
 /// The next new year from a moment, with a direction of 1 onwards and -1 back.
 Moment JumpNewYear(Moment from, int direction);
-
-// Names, in the language chosen.
-
-/// The name of a place in the round of 60, "Tree-Dragon", and with the number "41/60 = 1-5 Tree-Dragon".
-std::string SexagesimalName(std::int32_t n, bool withNumber);
-
-/// The name of a day, of the month of a date and of its year in the round of 60.
-std::string DayName(FixedDay day);
-std::int32_t SexagesimalDay(FixedDay day);
-std::int32_t SexagesimalMonth(const OrientDate& date);
-
-/// How many places, 1 to 60, a name stands behind another. Both are numbers of stem and branch, "5,3".
-std::int32_t NameDifference(std::string_view from, std::string_view to);
-
-/// The last day up to a day that bears a name.
-FixedDay DayNameOnOrBefore(std::string_view name, FixedDay day);
 
 /// The year counted from 2333 BC, as Korea did, of a year of the cycles from 2697 BC.
 std::int32_t KoreanYear(std::int32_t cycle, std::int32_t year);
 
 /// What is foretold of marriages of a year, by whether the term of spring's beginning falls into it at both its ends.
 std::string_view MarriageAugury(std::int32_t cycle, std::int32_t year);
-
-/// "Leap 4th", and in full "Year 4721, Leap 4th Month, Day 15" or "Year 4721, rùnyuè sìyuè 15".
-std::string MonthText(std::int32_t month, bool isLeapMonth);
-std::string OrientDateString(const OrientDate& date);
-
-/// Month and day as "4-05", in a leap month "4*05".
-std::string FixedToOrientMonthDay(Moment x);
-
-/// What the day of a date is: solar terms, festivals, first days of months.
-std::vector<std::string> EventsOf(const OrientDate& date);
-
-/// What the calendar of the present variant is called.
-std::string CalendarName();
-
-/// For month grids: years as they are shown, months by their place in the year.
-extern const CalendarContract Calendar;
 
 }  // namespace horvanta::oriental

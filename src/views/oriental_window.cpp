@@ -1,6 +1,5 @@
 #include "views/oriental_window.h"
 
-#include "astro/sun.h"
 #include "core/day_events.h"
 #include "core/moment.h"
 #include "core/text.h"
@@ -29,19 +28,19 @@ constexpr ColorPair Pair(std::int32_t background, std::int32_t foreground) {
 
 constexpr Face faces[] = {
     {"Chinese", "Chin", Pair(255, 65535),
-     "Its meridian was that of Beijing, 116\u00b0 25' E, until the end of 1928, and is 120\u00b0 E since.\n"
+     "Its meridian was that of Beijing, 116° 25' E, until the new year of 1929, and is 120° E since.\n"
      "Years are counted from the first cycle of Huangdi; the year that began it is chosen in the\n"
      "menu Options, Chinese Year 1."},
     {"Japanese", "Jap", Pair(16777215, 217),
-     "Its meridian was that of Kyoto until the end of 1887, and is 135\u00b0 E since.\n"
+     "Its meridian was that of Kyoto until the new year of 1888, and is 135° E since.\n"
      "It was in public use until 1872. Years are counted from the legendary accession of\n"
      "the emperor Jimmu in 660 BC."},
     {"Korean", "Kor", Pair(16777215, 16711680),
-     "Its meridian was that of Seoul until March 1908; since then it is 135\u00b0 E, but from 1908 to\n"
-     "1911 and from 1954 to 1961 it was 127\u00bd\u00b0 E. Years are counted from the legendary\n"
+     "Its meridian was that of Seoul until March 1908; since then it is 135° E, but from 1908 to\n"
+     "1911 and from 1954 to 1961 it was 127½° E. Years are counted from the legendary\n"
      "foundation of the kingdom by Dangun in 2333 BC."},
     {"Vietnamese", "Viet", Pair(65535, 255),
-     "Its meridian was that of Beijing until the end of 1928, then 120\u00b0 E, and is 105\u00b0 E since 1968.\n"
+     "Its meridian was that of Beijing until the new year of 1929, then 120° E, and is 105° E since 1968.\n"
      "Years are counted as in the Chinese calendar."},
 };
 
@@ -49,7 +48,7 @@ constexpr std::string_view aboutAll =
     "The months begin on the day of the true new moon, by the standard time of the calendar's\n"
     "meridian. The month of the winter solstice is the 11th. Where 13 months begin from one\n"
     "such month to the next, the first month in which the Sun reaches no major solar term,\n"
-    "a multiple of 30\u00b0 of its longitude, is a leap month with the number of the month before.\n"
+    "a multiple of 30° of its longitude, is a leap month with the number of the month before.\n"
     "Common years have 353 to 355 days, leap years of 13 months have 383 to 385 days.\n"
     "Years, months and days also go round a cycle of 60 names, each of a celestial stem (10)\n"
     "and a terrestrial branch (12). In English the stems are the five elements, twice each, and\n"
@@ -67,8 +66,6 @@ std::string ZoneText(double hours) {
 std::string MidnightCaption(FixedDay day) {
     return "Midnight Solar Longitude at Time Zone UT" + ZoneText(OrientZone(day)) + " = ";
 }
-
-double MidnightLongitude(FixedDay day) { return SolarLongitude(OrientMidnight(day)); }
 
 std::string NameInCycle(std::int32_t place) { return SexagesimalName(place, true); }
 
@@ -130,7 +127,7 @@ void OrientalWindow::ShowNames(const OrientDate& date) {
 }
 
 void OrientalWindow::ShowMidnight(const OrientDate& date) {
-    SLatMidnight.text = MidnightCaption(date.fixed) + FormatNumber(MidnightLongitude(date.fixed), "0.0000") + "\u00b0";
+    SLatMidnight.text = MidnightCaption(date.fixed) + FormatNumber(MidnightLongitude(date.fixed), "0.0000") + "°";
 }
 
 /// The calendar may also have been changed by what reads the settings.
@@ -200,7 +197,7 @@ void OrientalWindow::SetCEyear(std::int32_t year) {
 
 void OrientalWindow::SLatMidnight_Click() {
     const FixedDay day = Floor(DisplayedMoment);
-    frame_.SetClipboardText(MidnightCaption(day) + GeneralText(MidnightLongitude(day)) + "\u00b0");
+    frame_.SetClipboardText(MidnightCaption(day) + GeneralText(MidnightLongitude(day)) + "°");
 }
 
 void OrientalWindow::Info_Click() {

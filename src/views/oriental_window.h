@@ -1,6 +1,6 @@
 #pragma once
 
-#include "calendars/oriental.h"
+#include "calendars/oriental_text.h"
 #include "core/controls.h"
 #include "core/preferences.h"
 #include "core/shell.h"
@@ -38,7 +38,7 @@ class OrientalWindow {
     Label SexMonth{form, "SexMonth", Tip("Place and name of the month in the cycle of 60"), Widest("60/60 = 10-12 ki/tsuchinoto-mi or bi/hitsuji")};
     Label SexDayLabel{form, "SexDayLabel", Caption("Day")};
     Label SexDay{form, "SexDay", Tip("Place and name of the day in the cycle of 60"), Widest("60/60 = 10-12 ki/tsuchinoto-mi or bi/hitsuji")};
-    Label SLatMidnight{form, "SLatMidnight", Tip("Click to copy with all digits"), Widest("Midnight Solar Longitude at Time Zone UT+7:45:40 = 359.9999\u00b0")};
+    Label SLatMidnight{form, "SLatMidnight", Tip("Click to copy with all digits"), Widest("Midnight Solar Longitude at Time Zone UT+7:45:40 = 359.9999°")};
     ChoiceList CalChoice{form, "CalChoice", Tip("Choose the national calendar"), Named("National calendar")};
     CheckBox UseEnglish{form, "UseEnglish", Caption("English"), Tip("Check for English names, clear for those of the calendar's own language")};
     CheckBox LeapCheckbox{form, "LeapCheckbox", Caption("Leap"), Tip("Checked if this year has 13 months (read only)")};

@@ -1,9 +1,8 @@
-#include "calendars/oriental.h"
-
 #include "astro/lunar_phases.h"
 #include "astro/sun.h"
 #include "astro/timescales.h"
 #include "calendars/gregorian.h"
+#include "calendars/oriental_text.h"
 
 #include <gtest/gtest.h>
 

@@ -2,7 +2,7 @@
 #include "calendars/easter.h"
 #include "calendars/gregorian.h"
 #include "calendars/julian.h"
-#include "calendars/oriental.h"
+#include "calendars/oriental_text.h"
 #include "calendars/persian.h"
 #include "calendars/quartane.h"
 #include "calendars/quartane_leap_rules.h"
@@ -193,6 +193,7 @@ std::vector<DeskFunction> CalendarFunctions() {
         Row("OrientUniversal", oriental::OrientUniversal),
         Row("OrientStandard", oriental::OrientStandard),
         Row("OrientMidnight", oriental::OrientMidnight),
+        Row("MidnightLongitude", oriental::MidnightLongitude),
         Row("MajorSolarTerm", oriental::MajorSolarTerm),
         Row("MinorSolarTerm", oriental::MinorSolarTerm),
         Row("MajorSolarTermOnOrAfter", oriental::MajorSolarTermOnOrAfter),
