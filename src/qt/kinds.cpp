@@ -118,18 +118,24 @@ struct TextFieldFace final : FaceOf<TextField, QLineEdit> {
     }
     void Connect(Acts& acts) override {
         QObject::connect(&by_, &QLineEdit::textEdited, &by_,
-                         [this](const QString& typed) { shown_.text = typed.toStdString(); });
+                         [this](const QString& typed) { shown_.Edit(typed.toStdString()); });
         QObject::connect(&by_, &QLineEdit::returnPressed, &by_, [this, &acts] { Leave(acts); });
     }
 
     /// What is typed behind the untouched text of a window's main field takes its place.
     KeyUse TakeKey(const QKeyEvent& event) override {
+        if (event.key() == Qt::Key_Escape && shown_.Restore()) {
+            Draw();
+            return KeyUse::Used;
+        }
         const bool typed = !event.text().isEmpty() && event.text().front().isPrint() && !event.text().front().isSpace();
         const bool untouched = !by_.isModified() && by_.cursorPosition() == by_.text().size();
         if (typed && untouched && by_.property("main").toBool()) by_.selectAll();
         return isEnter(event) || isEditingKey(event) ? KeyUse::Kept : KeyUse::Open;
     }
-    void Leave(Acts& acts) override { acts.Fire(shown_, shown_.LostFocus); }
+    void Leave(Acts& acts) override {
+        acts.Run([this] { shown_.Leave(); }, {.whileBusy = shown_.whileBusy, .editing = true});
+    }
 
     Roles ColorRoles() const override { return {QPalette::Base, QPalette::Text}; }
     QString Text() const override { return by_.text(); }
