@@ -58,17 +58,37 @@ void Horvanta::HangHandlers() {
         places.UserLoc_Click(slot);
     };
     userLocales.Forget = [this](std::size_t slot) { places.ForgetUserLocale(slot); };
+    frame.Arrange.Click = [] { CurrentDesktop->ArrangeWindows(); };
     for (WindowRow& row : windows) {
         if (row.isThere()) HangWindow(row);
     }
+    HangTimeWindow();
 }
 
-/// The item of a window is ticked while the window is shown; closing the window is the same command.
+/// Its item can only raise it: it is never hidden. Its fields copy with all their digits.
+void Horvanta::HangTimeWindow() {
+    frame.ShowTime.Shows(timeAstro.form.visible);
+    frame.ShowTime.Click = [this] { timeAstro.TakeFocus(); };
+    timeAstro.FixedDayNum.Click = timeAstro.FixedDayNumLabel.Click;
+    timeAstro.FixedDayNum.copies = timeAstro.TimeOfDay.copies = true;
+    for (Label* caption : {&timeAstro.FixedDayNumLabel, &timeAstro.UT, &timeAstro.SavedToFrom}) {
+        frame.OfferCopy(*caption);
+    }
+    TimeFields& fields = timeAstro.fields;
+    for (Label* value : {&timeAstro.SavedDiffBox, &fields.JD_MJD, &fields.Orbital_RAY_Date, &fields.EoT,
+                         &fields.SunDeclination, &fields.SunLong, &fields.DeltaTdisp}) {
+        frame.CopyOnClick(*value, value->Click);
+    }
+}
+
+/// The item of a window is ticked while the window is shown.
 void Horvanta::HangWindow(WindowRow& row) {
     if (row.item) {
         row.item->Shows(row.form.visible);
-        row.item->Click = row.form.Close = [this, &row] { ShowOrHide(row); };
+        row.item->Click = [this, &row] { ShowOrHide(row); };
+        row.form.Close = [this, &row] { Hide(row); };
     }
+    row.form.OpenMenu = [this, &row] { frame.OpenMenu(row.form, row.colors); };
     if (row.colors) frame.OfferColors(*row.colors);
     if (!row.form.KeyDown) row.form.KeyDown = frame.Form_KeyDown;
     for (const GridCalendar& calendar : row.calendars) monthly.Offer(calendar);
@@ -219,17 +239,32 @@ void Horvanta::RunUpdatePass() {
     history.Note();
 }
 
-/// A window that is shown gets the focus; one that is hidden gives it to the time window.
+/// The user chose its item: a window that he does not see whole, or that does not hear his keys, is not to be hidden.
 void Horvanta::ShowOrHide(WindowRow& row) {
+    if (row.form.visible && row.form.inFront) {
+        Hide(row);
+    } else {
+        Raise(row);
+    }
+}
+
+void Horvanta::Raise(WindowRow& row) {
+    if (!row.form.visible) {
+        if (row.mayToggle && !row.mayToggle()) return;
+        row.form.visible = true;
+        EnableNeeding(row);
+        UpdateStatus();
+    }
+    row.first.TakeFocus();
+}
+
+/// The focus goes to the time window.
+void Horvanta::Hide(WindowRow& row) {
     if (row.mayToggle && !row.mayToggle()) return;
-    row.form.visible = !row.form.visible;
+    row.form.visible = false;
     EnableNeeding(row);
     UpdateStatus();
-    if (row.form.visible) {
-        row.first.TakeFocus();
-    } else {
-        timeAstro.TakeFocus();
-    }
+    timeAstro.TakeFocus();
 }
 
 std::vector<Form*> Horvanta::Forms() const {

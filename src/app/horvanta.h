@@ -104,6 +104,9 @@ class Horvanta {
     void CloseAndEnd();
     void RunUpdatePass();
     void ShowOrHide(WindowRow& row);
+    void Raise(WindowRow& row);
+    void Hide(WindowRow& row);
+    void HangTimeWindow();
 
     bool isStarted_ = false;
 };

@@ -106,7 +106,7 @@ void Jumps::JumpToEvent(std::int32_t index) {
     SetAgainCaption();
     const Moment found = FindEventSearch(ItemAt(index).event)->jump(DisplayedMoment, Sign(index));
     if (isNever(found)) {
-        CurrentDesktop->Beep();
+        Refuse("no " + EventName(index) + " within the range");
     } else {
         DisplayedMoment = found;
     }
@@ -114,13 +114,16 @@ void Jumps::JumpToEvent(std::int32_t index) {
     time_.TakeFocus();
 }
 
+std::string Jumps::EventName(std::int32_t index) const {
+    return (index < 0 ? "Previous " : "Next ") +
+           RemoveAmpersands(frame_.NextMenu[static_cast<std::size_t>(std::abs(index))].caption);
+}
+
 void Jumps::SetAgainCaption() {
     const bool known = nextPrevIndex_ != 0;
     frame_.JumpAgain.enabled = time_.JumpAgainButton.enabled = known;
     if (!known) return;
-    const std::string event =
-        (nextPrevIndex_ < 0 ? "Previous " : "Next ") +
-        RemoveAmpersands(frame_.NextMenu[static_cast<std::size_t>(std::abs(nextPrevIndex_))].caption);
+    const std::string event = EventName(nextPrevIndex_);
     frame_.JumpAgain.caption = "Again (" + event + ")";
     time_.JumpAgainButton.tooltip = "Again invoke the \"" + event + "\" command";
 }

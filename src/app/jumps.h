@@ -47,6 +47,9 @@ class Jumps {
     void HangSearches();
     void JumpToEvent(std::int32_t index);
 
+    /// What an item of the menus of events seeks and which way, its number below 0 for the previous one.
+    std::string EventName(std::int32_t index) const;
+
     HorvantaMDI& frame_;
     TimeAstro& time_;
     std::int32_t nextPrevIndex_ = 0;  ///< Of the last event: its item, negative for a previous one.

@@ -7,10 +7,43 @@
 #include "locale/presets.h"
 
 #include <algorithm>
+#include <cctype>
 #include <iterator>
+#include <span>
 #include <type_traits>
 
 namespace horvanta {
+namespace {
+
+/// Marks one letter as the access key of a caption, preferably the first of a word, that none of those taken is.
+void GiveAccessKey(MenuItem& item, std::string& taken) {
+    const std::string& caption = item.caption;
+    for (const bool mayBeInWord : {false, true}) {
+        for (std::size_t i = 0; i < caption.size(); ++i) {
+            const char letter = static_cast<char>(std::tolower(static_cast<unsigned char>(caption[i])));
+            const bool isStart = i == 0 || caption[i - 1] == ' ';
+            if (letter < 'a' || letter > 'z' || !(isStart || mayBeInWord) || taken.find(letter) != std::string::npos)
+                continue;
+            taken += letter;
+            item.caption.insert(i, "&");
+            return;
+        }
+    }
+}
+
+/// Puts the places of the menu in the order of their names, each with an access key of its own.
+void SortPlaces(MenuItem& menu, std::span<MenuItem> places) {
+    const auto isPlace = [&](const MenuItem* item) { return item >= &places.front() && item <= &places.back(); };
+    std::ranges::stable_sort(menu.items, [&](const MenuItem* a, const MenuItem* b) {
+        return isPlace(a) && isPlace(b) ? a->caption < b->caption : isPlace(b) && !isPlace(a);
+    });
+    std::string taken = "u";  // of the menu's own item
+    for (MenuItem* item : menu.items) {
+        if (isPlace(item)) GiveAccessKey(*item, taken);
+    }
+}
+
+}  // namespace
 
 static_assert(std::extent_v<decltype(HorvantaMDI::Presets)> == MenuLocaleCount);
 
@@ -24,6 +57,7 @@ Places::Places(HorvantaMDI& frame, TimeFields& fields) : frame_(frame), fields_(
         item.ShowsWhen([this, &item] { return chosen_ == &item; });
         item.Click = [this, &item, &place] { SelectLocale(item, place); };
     }
+    SortPlaces(frame_.LocaleMenu, frame_.Presets);
     frame_.MapLocale.Click = [this] { MapLocale_Click(); };
 }
 

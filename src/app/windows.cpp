@@ -20,7 +20,7 @@ Setting EdgeRow(WindowRow& row, std::string_view key, double Position::*edge) {
                 row.form.positioned = row.form.positioned || kept != standard;
                 return true;
             },
-            [&row, edge] { return ExactText(row.form.position.*edge); }};
+            [&row, edge] { return ExactText(row.form.standing.value_or(row.form.position).*edge); }};
 }
 
 Setting ColorRow(const std::string& key, const WindowColors& colors, const ColorPair& worn, bool isBackground) {

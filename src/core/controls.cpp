@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <iterator>
 
 namespace horvanta {
 namespace {
@@ -62,11 +63,54 @@ void Control::JoinForm() { form.controls.push_back(this); }
 
 void Control::TakeFocus() { form.focusWish = this; }
 
+namespace {
+
+/// The field that the user changed last, if he has not left it.
+TextField* editedField = nullptr;
+
+}  // namespace
+
+TextField::~TextField() {
+    if (editedField == this) editedField = nullptr;
+}
+
+void TextField::Edit(const std::string& typed) {
+    edit_ = {isEdited() ? edit_->before : text, typed};
+    text = typed;
+    editedField = this;
+}
+
+void TextField::Leave() {
+    edit_.reset();
+    if (LostFocus) LostFocus();
+}
+
+bool TextField::Restore() {
+    const bool edited = isEdited();
+    if (edited) text = edit_->before;
+    edit_.reset();
+    return edited;
+}
+
+void CommitEdit() {
+    TextField* field = std::exchange(editedField, nullptr);
+    if (field && field->isEdited()) field->Leave();
+}
+
+bool isWritingKey(int code) {
+    constexpr int keys[] = {KeyBackspace, KeyShiftItself, KeyEnd,      KeyLeft,        KeyRight,
+                            KeyNumeric0,  KeyNumeric2,    KeyNumeric4, KeyNumeric5,    KeyNumeric6,
+                            KeyNumeric8,  KeyPlus,        KeyMinus,    KeyNumericPoint};
+    return std::find(std::begin(keys), std::end(keys), code) != std::end(keys);
+}
+
 std::string AccessibleName(const Control& control) {
     if (!control.spoken.empty()) return control.spoken;
     const std::string words = hasWords(control.text) ? RemoveAmpersands(control.text) : "";
+    const bool isLabel = dynamic_cast<const Label*>(&control);
+    if (isLabel && words.empty() && control.tooltip.empty()) return control.form.text;
     if (control.tooltip.empty()) return words.empty() ? control.name : words;
-    const bool showsValue = dynamic_cast<const Label*>(&control) && !words.empty();
+    const bool showsValue = isLabel && !words.empty();
     if (showsValue) return control.tooltip + ": " + words;
     const bool hasCaption = dynamic_cast<const Button*>(&control) || dynamic_cast<const CheckBox*>(&control) ||
                             dynamic_cast<const OptionButton*>(&control) || dynamic_cast<const GroupBox*>(&control);

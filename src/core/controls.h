@@ -88,6 +88,7 @@ class Control {
     std::function<void()> Click;
     std::function<void()> DblClick;
     std::function<void()> RightClick;
+    bool copies = false;  ///< A click copies what it shows.
 
     /// Asked before that of the form for a key that the control does not keep to itself; true if it has been used up.
     std::function<bool(int code, int shift)> KeyDown;
@@ -125,8 +126,36 @@ struct Button final : Control {
 /// One line of text that the user edits; what is typed stands in `text` at once.
 struct TextField final : Control {
     using Control::Control;
+    ~TextField() override;
+
     std::function<void()> LostFocus;  ///< The user left the field or pressed Enter in it.
+
+    /// The user changed the text into this one, and is still at it.
+    void Edit(const std::string& typed);
+
+    /// True from the first change until the user leaves the field, or the program writes another text into it.
+    bool isEdited() const { return edit_ && text == edit_->typed; }
+
+    /// The user leaves the field.
+    void Leave();
+
+    /// Puts back the text from before the editing; false if there was none.
+    bool Restore();
+
+  private:
+    struct Editing {
+        std::string before;
+        std::string typed;
+    };
+    std::optional<Editing> edit_;
 };
+
+/// Takes what the user typed and has not left yet, as if he left the field now: a command that comes by its key or from
+/// a menu acts on what stands there.
+void CommitEdit();
+
+/// A key that a field takes for writing and moving the cursor in it, where nothing else uses it.
+bool isWritingKey(int code);
 
 /// A pair of arrows that change what another control shows. Its caption, if any, says by how much.
 struct UpDown final : Control {
@@ -278,7 +307,8 @@ class MoonPicture final : public Control {
     Look look;
 };
 
-/// What a screen reader calls a control: its caption where that has words, and its tooltip, with the value behind it.
+/// What a screen reader calls a control: its caption where that has words, and its tooltip, with the value behind it. A
+/// label that shows nothing is there to hold the focus, and bears the name of its window.
 std::string AccessibleName(const Control& control);
 
 /// Where a window stands in the frame and how large it is, in twips, 15 to a pixel.
@@ -309,6 +339,13 @@ class Form {
     Position position;               ///< The desktop reports the size, and where the user moved the window.
     std::vector<Control*> controls;  ///< In the order of their construction.
     Control* focusWish = nullptr;    ///< Gets the focus, and its form is raised, when the desktop draws next.
+    bool inFront = false;            ///< It has the focus and nothing covers it, as the desktop reports.
+
+    /// Where the desktop put it, which is elsewhere than `position` if it had to be kept in reach; not if never shown.
+    std::optional<Position> standing;
+
+    /// The user asked for the menu of the window: with the right button, or by a key.
+    std::function<void()> OpenMenu;
 
     /// Lets the user choose the background or the text colour of the window; none if it has no colours of its own.
     std::function<void(bool isBackground)> PickColor;

@@ -2,10 +2,13 @@
 
 #include "core/controls.h"
 #include "core/preferences.h"
+#include "core/text.h"
 
+#include <cstddef>
 #include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace horvanta {
 
@@ -35,7 +38,7 @@ class Desktop {
 
     virtual void Beep() = 0;
 
-    /// A line in the frame's status bar.
+    /// A line in the frame's status bar, until the user acts again.
     virtual void ShowStatus(std::string_view line) = 0;
 
     /// A box with a question; true for yes.
@@ -54,11 +57,21 @@ class Desktop {
     /// A box that tells something.
     virtual void Tell(std::string_view message, std::string_view title) = 0;
 
+    /// A window with a text to read at leisure; true if the user wants a copy of it.
+    virtual bool ShowInformation(std::string_view text, std::string_view title) = 0;
+
+    /// A menu where the user asked for one, with captions of which "-" is a line; the number of the chosen one.
+    virtual std::optional<std::size_t> ChooseFromMenu(const std::vector<std::string>& captions) = 0;
+
+    /// Puts the open windows side by side, where they fit into the frame, and the others so that their titles can be
+    /// reached.
+    virtual void ArrangeWindows() = 0;
+
     /// Opens a file or a web address with the program that the desktop has for it.
     virtual void OpenWithShell(const std::string& path) = 0;
 
-    /// The colour the user chooses, starting from the present one; nothing when cancelled.
-    virtual std::optional<Color> ChooseColor(Color present) = 0;
+    /// The colour the user chooses, starting from the present one; nothing when cancelled. The title says for what.
+    virtual std::optional<Color> ChooseColor(Color present, std::string_view title) = 0;
 
     /// Puts a text on the clipboard; failures are ignored.
     virtual void SetClipboard(const std::string& text) = 0;
@@ -72,5 +85,18 @@ class Desktop {
 
 /// The desktop the program runs on. It is set before the program starts and outlives it.
 inline Desktop* CurrentDesktop = nullptr;
+
+/// Tells the user, by a beep and in the status bar, why nothing came of what he did.
+inline void Refuse(std::string_view why) {
+    CurrentDesktop->Beep();
+    CurrentDesktop->ShowStatus(why);
+}
+
+/// The same for an entry that can't be read: "abc is not a day number".
+inline void RefuseEntry(std::string_view entry, std::string_view wanted) {
+    constexpr std::size_t longest = 40;  // characters
+    const std::string shown = Elided(Trimmed(entry), longest);
+    Refuse((shown.empty() ? "an empty text" : shown) + " is not " + std::string(wanted));
+}
 
 }  // namespace horvanta

@@ -15,8 +15,9 @@ Moment Renumbered(Moment x, double shift) {
 
 Moment ClampToRange(Moment x) {
     if (x >= MinFixedDay && x <= MaxFixedDay) return x;
-    CurrentDesktop->Beep();
-    return x > MaxFixedDay ? MaxFixedDay : MinFixedDay;
+    const bool isPast = !(x > MaxFixedDay);
+    Refuse(isPast ? "the range begins at year -6937" : "the range ends at year 12000");
+    return isPast ? MinFixedDay : MaxFixedDay;
 }
 
 void UpdateStatus() {

@@ -66,8 +66,7 @@ std::string FlushSettings() {
     const auto [failure, kept] = CurrentDesktop->Settings().Flush();
     if (!kept.empty()) CurrentDesktop->ShowStatus(kept);
     if (failure.empty()) return failure;
-    CurrentDesktop->Beep();
-    CurrentDesktop->ShowStatus(failure);
+    Refuse(failure);
     return failure;
 }
 

@@ -3,7 +3,72 @@
 #include "core/desktop.h"
 #include "core/text.h"
 
+#include <iterator>
+#include <utility>
+
 namespace horvanta {
+namespace {
+
+/// A value as a person knows it: what it is, if anything tells, and what is shown of it.
+struct NamedValue {
+    std::string name;
+    std::string text;
+    const Control* control;
+
+    std::string Line() const { return (name.empty() ? "" : name + ": ") + text; }
+};
+
+/// A tooltip that tells what a click does is no name.
+std::string NameOf(const Control& control) {
+    if (!control.spoken.empty()) return control.spoken;
+    return control.tooltip.starts_with("Click") ? "" : control.tooltip;
+}
+
+void AddValue(std::vector<NamedValue>& values, const std::string& name, const std::string& text, const Control& from) {
+    const std::string shown(Trimmed(RemoveAmpersands(text)));
+    if (!shown.empty() && shown != name) values.push_back({name, shown, &from});
+}
+
+/// The values of a control: those of its parts, if it has any. A label that neither copies nor has a name is a caption.
+void AddValues(std::vector<NamedValue>& values, const Control& control) {
+    if (const auto* bar = dynamic_cast<const StatusBar*>(&control)) {
+        for (const StatusBar::Panel& panel : bar->panels) AddValue(values, panel.key, panel.text, control);
+    } else if (const auto* grid = dynamic_cast<const Grid*>(&control)) {
+        for (std::size_t row = 1; row < grid->rows.size(); ++row) {
+            for (std::size_t column = 1; column < grid->rows[row].size(); ++column) {
+                const std::string name = grid->rows[row][0] + ", " + grid->rows[0][column];
+                AddValue(values, name, grid->rows[row][column], control);
+            }
+        }
+    } else if (dynamic_cast<const TextField*>(&control)) {
+        AddValue(values, NameOf(control), control.text, control);
+    } else if (dynamic_cast<const Label*>(&control) && (control.copies || !NameOf(control).empty())) {
+        AddValue(values, NameOf(control), control.text, control);
+    }
+}
+
+std::vector<NamedValue> ValuesOf(const Form& form) {
+    std::vector<NamedValue> values;
+    for (const Control* control : form.controls) {
+        if (control->visible) AddValues(values, *control);
+    }
+    return values;
+}
+
+std::string AllValues(const Form& form) {
+    std::string text = form.text;
+    for (const NamedValue& value : ValuesOf(form)) text += "\n" + value.Line();
+    return text;
+}
+
+/// The caption of an item that copies a value. It has no access key.
+std::string CopyCaption(const NamedValue& value) {
+    constexpr std::size_t widest = 50;  // characters
+    const NamedValue shown{Elided(value.name, widest), Elided(value.text, widest), nullptr};
+    return ReplaceAll(ReplaceAll("Copy " + shown.Line(), "\n", " "), "&", "&&");
+}
+
+}  // namespace
 
 MenuItem& ItemOf(EventMenu& menu, MenuEvent event) {
     const auto* found = std::ranges::find(EventItems, event, &EventItem::event);
@@ -18,11 +83,45 @@ void HorvantaMDI::SetClipboardText(const std::string& clip) {
 void HorvantaMDI::CopyToClipboard(const Control& control) { SetClipboardText(control.tooltip + ": " + control.text); }
 
 void HorvantaMDI::CopyOnClick(Label& label) {
-    label.Click = [this, &label] { SetClipboardText(label.text); };
+    CopyOnClick(label, [this, &label] { SetClipboardText(label.text); });
+}
+
+void HorvantaMDI::CopyOnClick(Control& control, const std::function<void()>& click) {
+    control.Click = click;
+    control.copies = true;
+    OfferCopy(control);
+}
+
+void HorvantaMDI::OfferCopy(Control& control) {
+    control.RightClick = [this, &control] { Offer({{"&Copy", control.Click}}); };
+}
+
+void HorvantaMDI::OpenMenu(const Form& form, WindowColors* colors) {
+    std::vector<Command> commands;
+    for (const NamedValue& value : ValuesOf(form)) {
+        const auto copyLine = [this, line = value.Line()] { SetClipboardText(line); };
+        commands.push_back({CopyCaption(value), value.control->copies ? value.control->Click : copyLine});
+    }
+    commands.push_back({"-", nullptr});
+    commands.push_back({"Copy &All", [this, &form] { SetClipboardText(AllValues(form)); }});
+    if (colors) std::ranges::move(ColorCommands(*colors), std::back_inserter(commands));
+    Offer(commands);
+}
+
+std::vector<HorvantaMDI::Command> HorvantaMDI::ColorCommands(WindowColors& colors) {
+    return {{"&Text Colour...", [this, &colors] { PickForegroundColor(colors); }},
+            {"&Background Colour...", [this, &colors] { PickBackgroundColor(colors); }}};
+}
+
+void HorvantaMDI::Offer(const std::vector<Command>& commands) {
+    std::vector<std::string> captions;
+    std::ranges::transform(commands, std::back_inserter(captions), &Command::caption);
+    const auto chosen = CurrentDesktop->ChooseFromMenu(captions);
+    if (chosen && *chosen < commands.size() && commands[*chosen].act) commands[*chosen].act();
 }
 
 void HorvantaMDI::AskCopyToClipboard(const std::string& message, const std::string& title) {
-    if (CurrentDesktop->AskYesNo(message + "\n\n\nCopy to Clipboard?", title)) {
+    if (CurrentDesktop->ShowInformation(message, title)) {
         SetClipboardText(message + ":" + title);
     }
     TakeFocus();
@@ -30,13 +129,21 @@ void HorvantaMDI::AskCopyToClipboard(const std::string& message, const std::stri
 
 void HorvantaMDI::OfferColors(WindowColors& colors) {
     colors.mainDate.DblClick = [this, &colors] { PickBackgroundColor(colors); };
-    colors.mainDate.RightClick = [this, &colors] { PickForegroundColor(colors); };
+    colors.mainDate.RightClick = [this, &colors] {
+        const Form& form = colors.mainDate.form;
+        std::vector<Command> commands{{"&Copy", colors.mainDate.Click},
+                                      {"Copy &All", [this, &form] { SetClipboardText(AllValues(form)); }}};
+        std::ranges::move(ColorCommands(colors), std::back_inserter(commands));
+        Offer(commands);
+    };
     colors.mainDate.form.PickColor = [this, &colors](bool isBackground) { PickColor(colors, isBackground); };
 }
 
 void HorvantaMDI::PickColor(WindowColors& colors, bool isBackground) {
     const Color present = colors.Shown(isBackground);
-    const auto chosen = CurrentDesktop->ChooseColor(present);
+    const std::string title =
+        (isBackground ? "Background Colour of " : "Text Colour of ") + RemoveAmpersands(colors.mainDate.form.text);
+    const auto chosen = CurrentDesktop->ChooseColor(present, title);
     if (!chosen) return;
     undoColor_ = {present, &colors, isBackground};
     UndoLastColorChange.enabled = true;
@@ -54,7 +161,7 @@ void HorvantaMDI::PickColorOfActive(bool isBackground) {
     if (activeForm && activeForm->PickColor) {
         activeForm->PickColor(isBackground);
     } else {
-        CurrentDesktop->Beep();
+        Refuse(activeForm ? activeForm->text + " has no colours of its own" : "no window is active");
     }
 }
 

@@ -9,6 +9,7 @@
 #include <iterator>
 #include <string>
 #include <string_view>
+#include <vector>
 
 /// The frame of the program as data: its menu tree, the clipboard line, and the few acts of the time window that
 /// other windows call. The owners of the commands hang their handlers here.
@@ -98,11 +99,21 @@ class HorvantaMDI {
     /// Makes a click on a label copy what it shows.
     void CopyOnClick(Label& label);
 
+    /// Makes a click on a control copy its value, with all its digits, as `click` does.
+    void CopyOnClick(Control& control, const std::function<void()>& click);
+
+    /// Gives a control whose click copies a menu that does so too.
+    void OfferCopy(Control& control);
+
+    /// Opens the menu of a window: it copies any of the values that the window shows, or all, and asks for colours
+    /// where the window has some of its own.
+    void OpenMenu(const Form& form, WindowColors* colors);
+
     /// Shows a text in a box that offers to copy it. The copy has the title behind the text.
     void AskCopyToClipboard(const std::string& message, const std::string& title);
 
-    /// Lets the user change the colours of a window by clicks on its main date: a double click for the background, a
-    /// right click for the text.
+    /// Lets the user change the colours of a window by its main date: a double click asks for the background, a right
+    /// click opens a menu with both colours.
     void OfferColors(WindowColors& colors);
 
     /// Lets the user choose one of the colours of a window, starting from the present one. That one is kept for
@@ -160,7 +171,7 @@ class HorvantaMDI {
       MenuItem Forward{UndoMenu, "Forward", "&Forward", "Alt+Right"};
 
     MenuItem LocaleMenu{menuBar, "LocaleMenu", "&Locale"};
-      MenuItem UDLs{LocaleMenu, "UDLs", "User-Defined Locales..."};
+      MenuItem UDLs{LocaleMenu, "UDLs", "&User-Defined Locales..."};
         MenuArray<30> UserLoc{UDLs, "UserLoc", {}};  // the captions are those of the places
       MenuItem LocaleSep{LocaleMenu, "LocaleSep", "-"};
       MenuItem Presets[25] = {
@@ -237,6 +248,7 @@ class HorvantaMDI {
       MenuItem RevertYerm52{OptionsMenu, "RevertYerm52", "&Revert to Fixed 52-Yerm Cycle"};
 
     MenuItem WindowS{menuBar, "WindowS", "&Window"};
+      MenuItem ShowTime{WindowS, "ShowTime", "&Time"};
       MenuItem ShowEvents{WindowS, "ShowEvents", "&Events and Holidays"};
       MenuItem GregCal{WindowS, "GregCal", "&Gregorian and ISO Date"};
       MenuItem CalendarMonth{WindowS, "CalendarMonth", "Calendar &Month"};
@@ -251,6 +263,8 @@ class HorvantaMDI {
       MenuItem WindowSep{WindowS, "WindowSep", "-"};
       MenuItem PickBackColor{WindowS, "PickBackColor", "Change Background Color"};
       MenuItem PickForeColor{WindowS, "PickForeColor", "Change Foreground Color"};
+      MenuItem ArrangeSep{WindowS, "ArrangeSep", "-"};
+      MenuItem Arrange{WindowS, "Arrange", "Arran&ge"};
 
     MenuItem Links{menuBar, "Links", "Lin&ks"};
       MenuItem MenuAbout{Links, "MenuAbout", "&About Horvanta...", "F1"};
@@ -258,6 +272,14 @@ class HorvantaMDI {
     // clang-format on
 
   private:
+    /// A line of a menu that is made when it is asked for.
+    struct Command {
+        std::string caption;
+        std::function<void()> act;
+    };
+
+    void Offer(const std::vector<Command>& commands);
+    std::vector<Command> ColorCommands(WindowColors& colors);
     void PickColor(WindowColors& colors, bool isBackground);
 
     /// Beeps where the window has no colours of its own.

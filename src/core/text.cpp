@@ -381,6 +381,22 @@ std::string ReplaceAll(std::string_view text, std::string_view what, std::string
     return result.append(text);
 }
 
+std::string Unwrapped(std::string_view text) {
+    constexpr std::size_t shortest = 45;  // bytes of a line that has been broken for its width
+    constexpr std::string_view endings = ".:!?";
+    std::string joined;
+    while (!text.empty()) {
+        const std::size_t end = text.find('\n');
+        const std::string_view line = text.substr(0, end);
+        joined += line;
+        text = end == std::string_view::npos ? "" : text.substr(end + 1);
+        if (end == std::string_view::npos) break;
+        const bool endsHere = line.size() < shortest || endings.find(line.back()) != std::string_view::npos;
+        joined += endsHere || text.starts_with('\n') ? "\n" : " ";
+    }
+    return joined;
+}
+
 std::string RemoveAmpersands(std::string_view caption) { return ReplaceAll(caption, "&", ""); }
 
 std::string UnderscoresToBlanks(std::string_view text) { return ReplaceAll(text, "_", " "); }

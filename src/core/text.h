@@ -114,6 +114,10 @@ std::string NameText(std::string_view name);
 /// Replaces every `what` in the text from left to right; an empty `what` changes nothing.
 std::string ReplaceAll(std::string_view text, std::string_view what, std::string_view with);
 
+/// A text whose lines were broken by hand for a certain width, with each paragraph in one line. A line that ends a
+/// sentence or was short by itself stays one.
+std::string Unwrapped(std::string_view text);
+
 /// A caption without the marks of its access key.
 std::string RemoveAmpersands(std::string_view caption);
 

@@ -4,6 +4,7 @@
 #include "qt/keys.h"
 
 #include <QApplication>
+#include <QContextMenuEvent>
 #include <QKeyEvent>
 #include <QLayout>
 #include <QMouseEvent>
@@ -33,7 +34,6 @@ Binder::Binder(Form& form, QWidget& root, Acts& acts) : form_(form), root_(root)
     for (Control* control : form_.controls) {
         if (auto* widget = root_.findChild<QWidget*>(QString::fromStdString(control->name))) Bind(*control, *widget);
     }
-    root_.setAccessibleName(QString::fromStdString(form_.text));
     root_.installEventFilter(this);
     for (auto* widget : root_.findChildren<QWidget*>()) widget->installEventFilter(this);
     Draw();
@@ -51,6 +51,7 @@ void Binder::Bind(Control& control, QWidget& widget) {
 /// What has changed within a widget is told to the layout around it at once, inner ones first: the window is given its
 /// size next.
 void Binder::Draw() {
+    ShowName(root_, QString::fromStdString(form_.text));
     for (const auto& face : faces_) face->Draw();
     for (const auto& face : faces_ | std::views::reverse) {
         QLayout* inside = face->widget.layout();
@@ -76,12 +77,16 @@ bool Binder::isHeardWhileBusy(const QWidget* widget) const {
 
 bool Binder::eventFilter(QObject* watched, QEvent* event) {
     if (event->type() == QEvent::KeyPress) return KeyActed(watched, static_cast<QKeyEvent&>(*event));
+    if (watched == &root_ && event->type() == QEvent::ContextMenu) {
+        return MenuAsked(nullptr, static_cast<QContextMenuEvent&>(*event));
+    }
     Face* face = FaceOf(watched);
     if (!face) return false;
     switch (event->type()) {
         case QEvent::Shortcut: return face->TakeShortcut();
         case QEvent::MouseButtonDblClick: doubleClicked_ = watched; return false;
         case QEvent::MouseButtonRelease: MouseActed(*face, static_cast<QMouseEvent&>(*event)); return false;
+        case QEvent::ContextMenu: return MenuAsked(face, static_cast<QContextMenuEvent&>(*event));
         case QEvent::FocusOut: FocusLeft(*face, static_cast<QFocusEvent*>(event)->reason()); return false;
         case QEvent::FontChange: KeepRoom(*face); return false;
         default: return false;
@@ -93,8 +98,16 @@ void Binder::MouseActed(const Face& face, const QMouseEvent& event) {
     const bool ofDoubleClick = std::exchange(doubleClicked_, nullptr) == &face.widget;
     if (!face.isHit(event.position().toPoint())) return;
     const Control& control = face.control;
-    if (event.button() == Qt::RightButton) acts_.Fire(control, control.RightClick);
     if (event.button() == Qt::LeftButton) acts_.Fire(control, ofDoubleClick ? control.DblClick : control.Click);
+}
+
+/// A field that is right-clicked has its own menu of cutting and pasting. By a key there is the menu of the window.
+bool Binder::MenuAsked(const Face* face, const QContextMenuEvent& event) {
+    const bool byMouse = event.reason() == QContextMenuEvent::Mouse;
+    if (byMouse && face && dynamic_cast<const TextField*>(&face->control)) return false;
+    const bool isOwn = byMouse && face && face->control.RightClick;
+    acts_.OpenMenu(isOwn ? face->control.RightClick : form_.OpenMenu, event.globalPos());
+    return true;
 }
 
 /// While the program is busy, a key that its control does not use goes no further, nor moves the focus.
@@ -112,13 +125,14 @@ bool Binder::AskForKey(const Control* control, const QKeyEvent& event) {
     const auto [code, shift] = KeyPressOf(event);
     if (code == 0 || !(controlAsked || formAsked)) return false;
     if (event.isAutoRepeat() && acts_.isPaintPending()) return true;
+    const bool isWriting = dynamic_cast<const TextField*>(control) && isWritingKey(code);
     bool used = false;
     KeyHeld = event.isAutoRepeat();
     acts_.Run(
         [&, key = code, held = shift] {
             used = (controlAsked && control->KeyDown(key, held)) || (formAsked && form_.KeyDown(key, held));
         },
-        control && control->whileBusy);
+        {.whileBusy = control && control->whileBusy, .editing = isWriting});
     KeyHeld = false;
     return used;
 }

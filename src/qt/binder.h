@@ -8,6 +8,7 @@
 #include <memory>
 #include <vector>
 
+class QContextMenuEvent;
 class QKeyEvent;
 class QMouseEvent;
 
@@ -34,6 +35,7 @@ class Binder final : public QObject {
 
   private:
     void Bind(Control& control, QWidget& widget);
+    bool MenuAsked(const Face* face, const QContextMenuEvent& event);
     void MouseActed(const Face& face, const QMouseEvent& event);
     bool KeyActed(QObject* watched, const QKeyEvent& event);
     bool AskForKey(const Control* control, const QKeyEvent& event);

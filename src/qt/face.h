@@ -3,6 +3,7 @@
 #include "core/controls.h"
 
 #include <QPalette>
+#include <QPoint>
 #include <QString>
 #include <QWidget>
 
@@ -15,17 +16,26 @@ class QKeyEvent;
 
 namespace horvanta {
 
+/// What an act is besides a command, which a busy program does not hear and which ends the editing of a field.
+struct ActKind {
+    bool whileBusy = false;  ///< It is heard while a long command lets events run.
+    bool editing = false;    ///< It is a part of the editing.
+};
+
 /// Runs a user's act, after which the desktop draws. Acts may nest.
 class Acts {
   public:
     /// While a long command lets events run, only acts on controls that hear them then are run.
-    virtual void Run(const std::function<void()>& act, bool whileBusy = false) = 0;
+    virtual void Run(const std::function<void()>& act, ActKind kind = {}) = 0;
 
     /// Runs a callback of a control; the desktop draws even where there is none.
     template <class... Values>
     void Fire(const Control& control, const std::function<void(Values...)>& callback, Values... values) {
-        Run([&] { callback ? callback(values...) : void(); }, control.whileBusy);
+        Run([&] { callback ? callback(values...) : void(); }, {.whileBusy = control.whileBusy});
     }
+
+    /// Opens the menu that an act asks for there on the screen.
+    virtual void OpenMenu(const std::function<void()>& act, const QPoint& where) = 0;
 
     /// True while what was last drawn has not been painted yet, so that repeats of a held key can be dropped.
     virtual bool isPaintPending() const = 0;

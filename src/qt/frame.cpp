@@ -1,6 +1,7 @@
 #include "qt/frame.h"
 
 #include "core/moment.h"
+#include "qt/eliding_label.h"
 #include "qt/keys.h"
 #include "qt/plain_text.h"
 #include "qt/user_gate.h"
@@ -15,10 +16,10 @@
 #include <QMenu>
 #include <QMenuBar>
 #include <QScreen>
+#include <QStatusBar>
 
 #include <algorithm>
 #include <cmath>
-#include <set>
 
 namespace horvanta {
 namespace {
@@ -27,9 +28,16 @@ constexpr QEvent::Type paintedEvent = QEvent::User;
 
 double Twips(int pixels) { return pixels * TwipsPerPixel; }
 
+int Rounded(double twips) { return static_cast<int>(std::lround(twips / TwipsPerPixel)); }
+
 /// Twips as pixels, held between two ends, the lower of which prevails.
 int Pixels(double twips, double least, double greatest) {
     return static_cast<int>(std::lround(std::max(least, std::min(twips / TwipsPerPixel, greatest))));
+}
+
+/// Where a window stands, whoever put it there.
+void NoteStanding(Form& form, const QWidget& window) {
+    form.standing = {Twips(window.x()), Twips(window.y()), Twips(window.width()), Twips(window.height())};
 }
 
 void NoteSize(Form& form, const QSize& size) {
@@ -39,11 +47,15 @@ void NoteSize(Form& form, const QSize& size) {
 
 }  // namespace
 
-Frame::Frame(HorvantaMDI& shell) : shell_(shell), area_(new QMdiArea(this)) {
+Frame::Frame(HorvantaMDI& shell) : shell_(shell), area_(new QMdiArea(this)), status_(new ElidingLabel(this)) {
     setObjectName(QString::fromStdString(shell_.name));
     setWindowTitle(PlainTitle(shell_.text));
     area_->viewport()->installEventFilter(this);
     setCentralWidget(area_);
+    status_->setObjectName(QStringLiteral("status"));
+    statusBar()->addWidget(status_, 1);
+    ShowStatus({});
+    ShowName(*status_, QStringLiteral("Status"));
     connect(area_, &QMdiArea::subWindowActivated, this, [this](QMdiSubWindow* window) {
         if (const Child* child = ChildOf(window)) shell_.activeForm = child->form;
     });
@@ -84,25 +96,49 @@ void Frame::Load(Form& form, std::unique_ptr<QWidget> content) {
     const Qt::WindowFlags closable = form.Close ? Qt::WindowCloseButtonHint : Qt::WindowFlags();
     area_->addSubWindow(window, Qt::SubWindow | Qt::CustomizeWindowHint | Qt::WindowTitleHint | closable);
     window->hide();
-    children_.push_back({&form, window, std::make_unique<Binder>(form, *window->widget(), *this)});
+    children_.push_back({&form, window, std::make_unique<Binder>(form, *window->widget(), *this), {}});
+    for (QWidget* widget : window->widget()->findChildren<QWidget*>()) {
+        if (widget->property("main").toBool()) children_.back().mains.push_back(widget);
+    }
     window->widget()->layout()->activate();
     window->resize(window->sizeHint());
     window->installEventFilter(this);
     NoteSize(form, window->size());
 }
 
-void Frame::Run(const std::function<void()>& act, bool whileBusy) {
-    if (!act || (busy_ && !whileBusy)) return;
-    ++depth_;
+/// The line in the status bar is of the act before, unless this one tells something.
+void Frame::Run(const std::function<void()>& act, ActKind kind) {
+    if (!act || (busy_ && !kind.whileBusy)) return;
+    if (++depth_ == 1) {
+        toldStatus_ = false;
+        ReportFront();
+        if (!kind.editing) CommitEdit();
+    }
     act();
-    if (--depth_ == 0) Draw();
+    if (--depth_ > 0) return;
+    if (!toldStatus_) ShowStatus({});
+    Draw();
+}
+
+void Frame::OpenMenu(const std::function<void()>& act, const QPoint& where) {
+    menuPlace_ = where;
+    Run(act);
 }
 
 void Frame::Draw() {
     drawing_ = true;
     if (!isVisible() && !Quitting) ShowFirst();
     DrawMenus();
-    for (Child& child : children_) DrawChild(child);
+    for (Child* child : OpenChildren()) {
+        child->window->setWindowTitle(PlainTitle(child->form->text));
+        child->binder->Draw();
+        child->form->resizable ? DrawChosenSize(*child) : DrawSize(*child);
+    }
+    PlaceAll();
+    for (Child& child : children_) {
+        const bool isShown = child.window->isVisibleTo(child.window->parentWidget());
+        if (isShown != child.form->visible) child.window->setVisible(child.form->visible);
+    }
     for (Child& child : children_) GrantFocus(child);
     drawing_ = false;
     AwaitPaint();
@@ -135,18 +171,6 @@ void Frame::DrawMenus() {
     }
 }
 
-/// A window that is not shown is not drawn; one that comes is drawn first.
-void Frame::DrawChild(Child& child) {
-    if (child.form->visible) {
-        child.window->setWindowTitle(PlainTitle(child.form->text));
-        child.binder->Draw();
-        DrawPlace(child);
-    }
-    if (child.window->isVisibleTo(child.window->parentWidget()) != child.form->visible) {
-        child.window->setVisible(child.form->visible);
-    }
-}
-
 /// Lets a window grow to hold what it shows now. Where controls have come or gone it takes just the height they ask
 /// for.
 void Frame::DrawSize(Child& child) {
@@ -158,6 +182,8 @@ void Frame::DrawSize(Child& child) {
     const QSize size(std::max(window.width(), least.width()),
                      changed ? wanted : std::max(window.height(), least.height()));
     if (size != window.size()) window.resize(size);
+    if (window.layout()) window.layout()->activate();
+    window.widget()->layout()->activate();
 }
 
 /// The size that the user has chosen, as far as it fits into the frame.
@@ -169,72 +195,94 @@ void Frame::DrawChosenSize(Child& child) {
                          Pixels(chosen.height, least.height(), room.height()));
 }
 
-/// Puts a window where its form says, but so that its title can be reached: settings may come from a larger screen.
-void Frame::DrawPlace(Child& child) {
-    constexpr int reach = 60;  // pixels
-    QMdiSubWindow& window = *child.window;
-    const bool growsDown = child.form->resizable && child.form->position.height == 0;
-    child.form->resizable ? DrawChosenSize(child) : DrawSize(child);
-
-    const Position& place = child.form->position;
-    const QSize room = area_->viewport()->size();
-    QRect wished = window.geometry();
-    wished.moveTo(Pixels(place.left, reach - window.width(), room.width() - reach),
-                  Pixels(place.top, 0, room.height() - reach));
-    if (!child.form->positioned) wished.moveTo(FreePlace(child, wished));
-    if (growsDown) wished.setBottom(FreeBottom(child, wished));
-    if (window.geometry() != wished) window.setGeometry(wished);
-}
-
-/// How far down a window may reach before it meets another one or leaves the frame.
-int Frame::FreeBottom(const Child& child, QRect place) const {
-    int bottom = area_->viewport()->height() - 1;
-    for (const Child& other : children_) {
-        const QRect taken = other.window->geometry();
-        const bool isBelow =
-            taken.top() > place.bottom() && taken.left() <= place.right() && taken.right() >= place.left();
-        if (&other != &child && other.form->visible && isBelow) bottom = std::min(bottom, taken.top() - 1);
-    }
-    return std::max(bottom, place.bottom());
-}
-
-/// Where a window that no one has placed may stand: as it wishes, or at the highest place, to the left, beside or below
-/// those drawn before it at which it fits into the frame and covers none of them. Where there is none it stays within
-/// the frame.
-QPoint Frame::FreePlace(const Child& child, QRect wished) const {
-    constexpr int gap = 1;  // pixels
-    std::vector<QRect> taken;
-    std::set<int> tops{0, wished.top()};
-    std::set<int> lefts{0};
-    for (const Child& other : children_) {
-        if (&other == &child) break;
-        if (!other.form->visible) continue;
-        taken.push_back(other.window->geometry());
-        tops.insert(taken.back().bottom() + 1 + gap);
-        lefts.insert(taken.back().right() + 1 + gap);
-    }
-    const auto fits = [&](const QRect& place) {
-        return area_->viewport()->rect().contains(place) &&
-               std::none_of(taken.begin(), taken.end(), [&](const QRect& t) { return t.intersects(place); });
-    };
-    if (fits(wished)) return wished.topLeft();
-    const QPoint within(std::max(0, std::min(wished.left(), area_->viewport()->width() - wished.width())),
-                        std::max(0, std::min(wished.top(), area_->viewport()->height() - wished.height())));
-    for (const int top : tops) {
-        for (const int left : lefts) {
-            wished.moveTo(left, top);
-            if (fits(wished)) return wished.topLeft();
-        }
-    }
-    return within;
-}
-
-void Frame::PlaceAll() {
-    const bool before = std::exchange(drawing_, true);
+std::vector<Frame::Child*> Frame::OpenChildren() {
+    std::vector<Child*> open;
     for (Child& child : children_) {
-        if (child.form->visible) DrawPlace(child);
+        if (child.form->visible) open.push_back(&child);
+    }
+    return open;
+}
+
+/// A window stands where its form says, but so that it can be taken hold of: settings may come from a larger screen.
+/// One that would stand elsewhere, or that no one has placed, may give way to others.
+Pane Frame::PaneOf(const Child& child) const {
+    constexpr int reach = 60;    // pixels of it that have to be in the frame
+    constexpr int handle = 100;  // pixels of its title bar that others are to leave free
+    const QMdiSubWindow& window = *child.window;
+    const QWidget& content = *window.widget();
+    const QRect title(0, 0, window.width(), content.y());
+    const QSize room = area_->viewport()->size();
+    const Position& place = child.form->position;
+    const QPoint within(Pixels(place.left, reach - window.width(), room.width() - reach),
+                        Pixels(place.top, 0, room.height() - reach));
+    const bool stands = within == QPoint(Rounded(place.left), Rounded(place.top));
+    Pane pane{QRect(within, window.size()),
+              {title & QRect(0, 0, handle, title.height()), title},
+              child.form->positioned && stands};
+    for (const QWidget* main : child.mains) {
+        if (!main->isVisibleTo(&content)) continue;
+        pane.needed.emplace_back(main->mapTo(&content, QPoint()) + content.pos(), main->size());
+    }
+    return pane;
+}
+
+/// Nothing moves as long as no window changes and the frame keeps its size.
+void Frame::PlaceAll() {
+    const std::vector<Child*> open = OpenChildren();
+    std::vector<Pane> panes;
+    for (const Child* child : open) panes.push_back(PaneOf(*child));
+    const QSize room = area_->viewport()->size();
+    if (room == room_ && panes == panes_) return;
+    const bool before = std::exchange(drawing_, true);
+    const std::vector<QPoint> places = LayOut(room, panes);
+    for (std::size_t i = 0; i < open.size(); ++i) {
+        if (open[i]->window->pos() != places[i]) open[i]->window->move(places[i]);
+        NoteStanding(*open[i]->form, *open[i]->window);
     }
     drawing_ = before;
+    room_ = room;
+    panes_ = std::move(panes);
+}
+
+void Frame::Arrange() {
+    std::vector<Child*> open = OpenChildren();
+    std::ranges::stable_partition(open, [&](const Child* c) { return c->window == area_->currentSubWindow(); });
+    std::vector<Pane> panes;
+    for (const Child* child : open) {
+        panes.push_back(PaneOf(*child));
+        panes.back().wish.moveTo(0, 0);
+        panes.back().fixed = false;
+    }
+    const std::vector<QPoint> places = LayOut(area_->viewport()->size(), panes);
+    for (std::size_t i = 0; i < open.size(); ++i) {
+        Form& form = *open[i]->form;
+        form.positioned = true;
+        form.position.left = Twips(places[i].x());
+        form.position.top = Twips(places[i].y());
+        open[i]->window->raise();
+    }
+    if (!open.empty()) open.front()->window->raise();
+}
+
+void Frame::ShowStatus(const QString& line) {
+    toldStatus_ = true;
+    if (status_->text() == line) return;
+    status_->setText(line);
+    ShowName(*status_, line.isEmpty() ? QStringLiteral("Status") : line);
+}
+
+/// The windows lie above one another in the order of the list, from the lowest.
+bool Frame::isCovered(const QMdiSubWindow* window) const {
+    const QList<QMdiSubWindow*> stack = area_->subWindowList(QMdiArea::StackingOrder);
+    return std::any_of(stack.begin() + stack.indexOf(window) + 1, stack.end(), [&](const QMdiSubWindow* other) {
+        return other->isVisible() && other->geometry().intersects(window->geometry());
+    });
+}
+
+void Frame::ReportFront() {
+    for (const Child& child : children_) {
+        child.form->inFront = child.window == area_->currentSubWindow() && !isCovered(child.window);
+    }
 }
 
 void Frame::GrantFocus(Child& child) {
@@ -286,6 +334,7 @@ bool Frame::eventFilter(QObject* watched, QEvent* event) {
                 child->form->positioned = true;
                 child->form->position.left = Twips(child->window->x());
                 child->form->position.top = Twips(child->window->y());
+                NoteStanding(*child->form, *child->window);
             }
             return false;
         case QEvent::Resize:

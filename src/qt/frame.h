@@ -2,6 +2,7 @@
 
 #include "core/shell.h"
 #include "qt/binder.h"
+#include "qt/window_layout.h"
 
 #include <QMainWindow>
 
@@ -16,6 +17,8 @@ class QMdiSubWindow;
 class QMenu;
 
 namespace horvanta {
+
+class ElidingLabel;
 
 /// The main window: the menu bar and, within the frame, a window for each form.
 class Frame final : public QMainWindow, public Acts {
@@ -36,6 +39,15 @@ class Frame final : public QMainWindow, public Acts {
     /// elsewhere is lost.
     void LetEventsRun();
 
+    /// A line in the status bar until the user acts again.
+    void ShowStatus(const QString& line);
+
+    /// Places all open windows anew.
+    void Arrange();
+
+    /// Where on the screen the menu that was asked for is to open.
+    const QPoint& MenuPlace() const { return menuPlace_; }
+
     /// Brings the frame before all other windows.
     void ComeForward();
 
@@ -51,10 +63,12 @@ class Frame final : public QMainWindow, public Acts {
         Form* form;
         QMdiSubWindow* window;
         std::unique_ptr<Binder> binder;
-        int wanted = 0;  ///< The height that its controls asked for when it was drawn last, in pixels.
+        std::vector<QWidget*> mains;  ///< The widgets that show the main date.
+        int wanted = 0;               ///< The height that its controls asked for when it was drawn last, in pixels.
     };
 
-    void Run(const std::function<void()>& act, bool whileBusy = false) override;
+    void Run(const std::function<void()>& act, ActKind kind = {}) override;
+    void OpenMenu(const std::function<void()>& act, const QPoint& where) override;
     bool isPaintPending() const override { return paintPending_; }
     bool isDrawing() const override { return drawing_; }
     bool isBusy() const override { return busy_; }
@@ -62,12 +76,12 @@ class Frame final : public QMainWindow, public Acts {
     void AddItem(QMenu& menu, MenuItem& item);
     void AwaitPaint();
     void DrawMenus();
-    void DrawChild(Child& child);
     void DrawSize(Child& child);
     void DrawChosenSize(Child& child);
-    void DrawPlace(Child& child);
-    int FreeBottom(const Child& child, QRect place) const;
-    QPoint FreePlace(const Child& child, QRect wished) const;
+    void ReportFront();
+    bool isCovered(const QMdiSubWindow* window) const;
+    std::vector<Child*> OpenChildren();
+    Pane PaneOf(const Child& child) const;
     void PlaceAll();
     void GrantFocus(Child& child);
     void ShowFirst();
@@ -78,6 +92,11 @@ class Frame final : public QMainWindow, public Acts {
     QMdiArea* area_;
     std::vector<Child> children_;
     std::vector<std::pair<MenuItem*, QAction*>> actions_;
+    ElidingLabel* status_;
+    bool toldStatus_ = false;  ///< During the present act.
+    QPoint menuPlace_;
+    QSize room_;  ///< In which the windows were placed last, and as what.
+    std::vector<Pane> panes_;
     int depth_ = 0;
     bool drawing_ = false;
     bool busy_ = false;

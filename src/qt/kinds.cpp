@@ -131,18 +131,24 @@ struct TextFieldFace final : FaceOf<TextField, QLineEdit> {
     }
     void Connect(Acts& acts) override {
         QObject::connect(&by, &QLineEdit::textEdited, &by,
-                         [this](const QString& typed) { shown.text = typed.toStdString(); });
+                         [this](const QString& typed) { shown.Edit(typed.toStdString()); });
         QObject::connect(&by, &QLineEdit::returnPressed, &by, [this, &acts] { Leave(acts); });
     }
 
     /// What is typed behind the untouched text of a window's main field takes its place.
     KeyUse TakeKey(const QKeyEvent& event) override {
+        if (event.key() == Qt::Key_Escape && shown.Restore()) {
+            Draw();
+            return KeyUse::Used;
+        }
         const bool typed = !event.text().isEmpty() && event.text().front().isPrint() && !event.text().front().isSpace();
         const bool untouched = !by.isModified() && by.cursorPosition() == by.text().size();
         if (typed && untouched && by.property("main").toBool()) by.selectAll();
         return isEnter(event) || isEditingKey(event) ? KeyUse::Kept : KeyUse::Open;
     }
-    void Leave(Acts& acts) override { acts.Fire(shown, shown.LostFocus); }
+    void Leave(Acts& acts) override {
+        acts.Run([this] { shown.Leave(); }, {.whileBusy = shown.whileBusy, .editing = true});
+    }
 
     Roles ColorRoles() const override { return {QPalette::Base, QPalette::Text}; }
 };

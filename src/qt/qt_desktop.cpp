@@ -1,7 +1,9 @@
 #include "qt/qt_desktop.h"
 
+#include "core/text.h"
 #include "qt/face.h"
 #include "qt/forms.h"
+#include "qt/information_box.h"
 
 #include <QApplication>
 #include <QClipboard>
@@ -13,8 +15,8 @@
 #include <QFontMetrics>
 #include <QGridLayout>
 #include <QInputDialog>
+#include <QMenu>
 #include <QMessageBox>
-#include <QStatusBar>
 #include <QUrl>
 
 #include <algorithm>
@@ -58,7 +60,7 @@ void QtDesktop::LetEventsRun() {
 
 void QtDesktop::Beep() { QApplication::beep(); }
 
-void QtDesktop::ShowStatus(std::string_view line) { frame_->statusBar()->showMessage(QString::fromUtf8(line)); }
+void QtDesktop::ShowStatus(std::string_view line) { frame_->ShowStatus(QString::fromUtf8(line)); }
 
 bool QtDesktop::AskYesNo(std::string_view question, std::string_view title) {
     constexpr auto buttons = QMessageBox::Yes | QMessageBox::No;
@@ -96,13 +98,36 @@ void QtDesktop::OpenWithShell(const std::string& path) {
     const QString before = QDir::currentPath();
     const QString drive = qEnvironmentVariable("SystemDrive");
     if (!drive.isEmpty()) QDir::setCurrent(drive);
-    if (!QDesktopServices::openUrl(QUrl::fromUserInput(QString::fromStdString(path)))) Beep();
+    if (!QDesktopServices::openUrl(QUrl::fromUserInput(QString::fromStdString(path))))
+        Refuse(path + " can't be opened");
     QDir::setCurrent(before);
 }
 
-std::optional<Color> QtDesktop::ChooseColor(Color present) {
+bool QtDesktop::ShowInformation(std::string_view text, std::string_view title) {
     frame_->Draw();
-    const QColor chosen = QColorDialog::getColor(QColor(present.red, present.green, present.blue), frame_.get());
+    const std::string paragraphs = Unwrapped(text);
+    return InformationBox(QString::fromStdString(paragraphs), QString::fromUtf8(title), frame_.get()).exec() ==
+           QDialog::Accepted;
+}
+
+std::optional<std::size_t> QtDesktop::ChooseFromMenu(const std::vector<std::string>& captions) {
+    frame_->Draw();
+    QMenu menu(frame_.get());
+    for (const std::string& caption : captions) {
+        if (caption == "-") {
+            menu.addSeparator();
+        } else {
+            menu.addAction(QString::fromStdString(caption));
+        }
+    }
+    menu.setActiveAction(menu.actions().value(0));
+    const auto chosen = menu.actions().indexOf(menu.exec(frame_->MenuPlace()));
+    return chosen < 0 ? std::nullopt : std::optional(static_cast<std::size_t>(chosen));
+}
+
+std::optional<Color> QtDesktop::ChooseColor(Color present, std::string_view title) {
+    frame_->Draw();
+    const QColor chosen = QColorDialog::getColor(ToQColor(present), frame_.get(), QString::fromUtf8(title));
     if (!chosen.isValid()) return std::nullopt;
     return ToColor(chosen);
 }

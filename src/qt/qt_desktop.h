@@ -23,7 +23,10 @@ class QtDesktop final : public Desktop {
     std::optional<std::string> ChooseFile(std::string_view title) override;
     void Tell(std::string_view message, std::string_view title) override;
     void OpenWithShell(const std::string& path) override;
-    std::optional<Color> ChooseColor(Color present) override;
+    bool ShowInformation(std::string_view text, std::string_view title) override;
+    std::optional<std::size_t> ChooseFromMenu(const std::vector<std::string>& captions) override;
+    void ArrangeWindows() override { frame_->Arrange(); }
+    std::optional<Color> ChooseColor(Color present, std::string_view title) override;
     void SetClipboard(const std::string& text) override;
     LocalClock Clock() override;
     SettingsStore& Settings() override { return settings_; }

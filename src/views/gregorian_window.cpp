@@ -50,9 +50,11 @@ constexpr std::string_view isoInformation =
 
 GregorianWindow::GregorianWindow(HorvantaMDI& frame) : frame_(frame) {
     for (Label* label : {&GregorianDate, &TheISOdate, &Dominical}) frame_.CopyOnClick(*label);
-    DayNumInGregYear.Click = [this] { frame_.SetClipboardText(std::string(FromCharacter(DayNumInGregYear.text, 15))); };
-    isoOrdinalDay.Click = [this] { frame_.SetClipboardText(std::string(FromCharacter(isoOrdinalDay.text, 9))); };
-    GregCycleInfo.Click = [this] { GregCycleInfo_Click(); };
+    frame_.CopyOnClick(DayNumInGregYear,
+                       [this] { frame_.SetClipboardText(std::string(FromCharacter(DayNumInGregYear.text, 15))); });
+    frame_.CopyOnClick(isoOrdinalDay,
+                       [this] { frame_.SetClipboardText(std::string(FromCharacter(isoOrdinalDay.text, 9))); });
+    frame_.CopyOnClick(GregCycleInfo, [this] { GregCycleInfo_Click(); });
     InfoGreg.Click = [this] { InfoGreg_Click(); };
     isoInfo.Click = [this] { isoInfo_Click(); };
 }

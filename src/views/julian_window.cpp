@@ -94,7 +94,7 @@ std::optional<std::int32_t> AskYearBC(std::string_view title, const julian::Year
     if (!number) return std::nullopt;
     const double year = -Round(*number);
     if (year >= choice.earliest && year <= choice.latest) return WholeNumber(year);
-    CurrentDesktop->Beep();
+    Refuse("the year must be " + std::to_string(-choice.earliest) + " to " + std::to_string(-choice.latest) + " BC");
     return std::nullopt;
 }
 
@@ -134,10 +134,10 @@ WindowRow JulianWindow::Row() {
 void JulianWindow::HangHandlers() {
     for (Label* label : {&TheJulianDate, &TheRomanDate, &Dominical}) frame_.CopyOnClick(*label);
     for (Label* label : {&OlympiadCycleDecimal, &OlympiadYearDecimal}) {
-        label->Click = [this] { CopyPair(OlympiadCycleDecimal, OlympiadYearDecimal); };
+        frame_.CopyOnClick(*label, [this] { CopyPair(OlympiadCycleDecimal, OlympiadYearDecimal); });
     }
     for (Label* label : {&OlympiadCycleRoman, &OlympiadYearRoman}) {
-        label->Click = [this] { CopyPair(OlympiadCycleRoman, OlympiadYearRoman); };
+        frame_.CopyOnClick(*label, [this] { CopyPair(OlympiadCycleRoman, OlympiadYearRoman); });
     }
     Revise.Click = [this] { Revise_Click(); };
     UseAUC.Click = [this] { UseAUC_Click(); };

@@ -232,7 +232,7 @@ void MonthlyWindow::TakeYear() {
     if (whole) {
         ChangeYear(WholeNumber(*year));
     } else {
-        CurrentDesktop->Beep();
+        RefuseEntry(ThisYear.text, "a year");
     }
     ThisYear.text = std::to_string(shown_.year);
 }

@@ -80,12 +80,13 @@ QuartaneWindow::QuartaneWindow(HorvantaMDI& frame) : frame_(frame) {
     QuaStartOn.items.assign(std::begin(WeekdayNames), std::begin(WeekdayNames) + 7);
 
     frame_.CopyOnClick(QuartaneDateBox);
-    QuaCycleInfo.Click = [this] { QuaCycleInfo_Click(); };
+    frame_.CopyOnClick(QuaCycleInfo, [this] { QuaCycleInfo_Click(); });
     QuaStatusGrid.CellClick = [this](std::size_t row, std::size_t column) { QuaStatusGrid_Click(row, column); };
     LeapChoice.Chosen = [this] { LeapChoice_Click(); };
     LeapCheckbox.ShowsState([] { return QuaDateOn(DisplayedMoment).isLeap ? Checked : Unchecked; });
-    FixedMeanYear.Click = [this] { frame_.SetClipboardText(MeanYearSummary(DisplayedMoment)); };
+    frame_.CopyOnClick(FixedMeanYear, [this] { frame_.SetClipboardText(MeanYearSummary(DisplayedMoment)); });
     MeanYearLabel.Click = [this] { frame_.SetClipboardText(MeanYearFraction(DisplayedMoment)); };
+    frame_.OfferCopy(MeanYearLabel);
     InfoLeapRule.Click = [this] { InfoLeapRule_Click(); };
     InfoQuaCal.Click = [this] { InfoQuaCal_Click(); };
     QuaMonths.Click = [this] { QuaMonths_Click(); };

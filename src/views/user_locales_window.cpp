@@ -113,8 +113,9 @@ void UserLocalesWindow::HangFields() {
     }
     UDLnum.LostFocus = [this] {
         const auto number = ParseNumber(UDLnum.text);
-        if (!number || *number != Floor(*number)) CurrentDesktop->Beep();
-        SelectSlot(number && *number == Floor(*number) ? *number : static_cast<double>(slot));
+        const bool isWhole = number && *number == Floor(*number);
+        if (!isWhole) RefuseEntry(UDLnum.text, "the number of a locale");
+        SelectSlot(isWhole ? *number : static_cast<double>(slot));
     };
     UDLnum.KeyDown = [this](int code, int) {
         const double steps = StepsOfKey(code);
@@ -236,8 +237,10 @@ void UserLocalesWindow::Write(std::size_t index, const std::string& text) {
 }
 
 bool UserLocalesWindow::Refuse(std::size_t index) {
-    CurrentDesktop->Beep();
-    fields_[index].field.text = fields_[index].good;
+    TextField& field = fields_[index].field;
+    const bool isNumber = ParseNumber(field.text).has_value();
+    RefuseEntry(field.text, (isNumber ? "possible as " : "a number, as needed for ") + field.spoken);
+    field.text = fields_[index].good;
     return false;
 }
 
@@ -353,7 +356,7 @@ void UserLocalesWindow::AskAngle(const Button& label, std::size_t first, bool& n
     if (!typed) return;
     const auto degrees = ParseNumber(*typed);
     if (!degrees || std::fabs(*degrees) > fields_[first].greatest) {
-        CurrentDesktop->Beep();
+        RefuseEntry(*typed, first == LatitudeFields ? "a latitude in degrees" : "a longitude in degrees");
         return;
     }
     negative = *degrees < 0;

@@ -63,6 +63,12 @@ int ShiftOf(std::string_view name) {
     throw BadLine("no such modifier: " + std::string(name));
 }
 
+/// What ends the editing of a field. Keys may be part of it.
+bool isAct(std::string_view verb) {
+    constexpr std::string_view acts[] = {"menu", "click", "dblclick", "rightclick", "close", "choose"};
+    return std::ranges::find(acts, verb) != std::end(acts);
+}
+
 /// Cuts the first word off a line.
 std::string_view TakeWord(std::string_view& line) {
     line = Trimmed(line);
@@ -136,7 +142,7 @@ std::string Desk::Obey(std::string_view line) try {
         {"choose", &Desk::Choose},     {"type", &Desk::Type},
         {"answer", &Desk::Answer},     {"show", &Desk::Show},
         {"events", &Desk::Events},     {"asked", &Desk::Asked},
-        {"status", &Desk::Status},
+        {"status", &Desk::Status},     {"edit", &Desk::Edit},
     };
     std::string_view rest = line;
     const std::string_view name = TakeWord(rest);
@@ -144,6 +150,7 @@ std::string Desk::Obey(std::string_view line) try {
     if (verb == std::end(verbs)) throw BadLine("no such line: " + std::string(name));
     const bool isRecord = verb->obey == &Desk::Asked || verb->obey == &Desk::Status;
     if (desktop.ended && !isRecord) throw BadLine("the program has ended");
+    if (isAct(verb->name)) CommitEdit();
     const std::string answer = (this->*verb->obey)(rest);
     desktop.Settle();
     return answer;
@@ -303,7 +310,15 @@ std::string Desk::Click(std::string_view rest) {
     return Act(rest, &Control::Click);
 }
 std::string Desk::DblClick(std::string_view rest) { return Act(rest, &Control::DblClick); }
-std::string Desk::RightClick(std::string_view rest) { return Act(rest, &Control::RightClick); }
+
+/// On a control that has no menu, or on none, it is the window that is clicked.
+std::string Desk::RightClick(std::string_view rest) {
+    const Form& form = FormNamed(rest.substr(0, rest.find('.')));
+    if (rest != form.name && ControlInReach(rest).RightClick) return Act(rest, &Control::RightClick);
+    if (!form.visible) throw BadLine("not in reach: " + std::string(rest));
+    form.OpenMenu();
+    return "ok";
+}
 
 std::string Desk::Focus(std::string_view rest) {
     desktop.Focus(ControlInReach(rest));
@@ -322,6 +337,12 @@ std::string Desk::Close(std::string_view rest) {
 std::string Desk::Type(std::string_view rest) {
     auto* field = dynamic_cast<TextField*>(&ControlInReach(TakeWord(rest)));
     if (!field || !desktop.Type(*field, rest)) throw BadLine("nothing can be typed there");
+    return "ok";
+}
+
+std::string Desk::Edit(std::string_view rest) {
+    auto* field = dynamic_cast<TextField*>(&ControlInReach(TakeWord(rest)));
+    if (!field || !desktop.Edit(*field, rest)) throw BadLine("nothing can be typed there");
     return "ok";
 }
 

@@ -36,6 +36,7 @@ class Desk {
     std::string Focus(std::string_view rest);
     std::string Close(std::string_view rest);
     std::string Type(std::string_view rest);
+    std::string Edit(std::string_view rest);
     std::string Answer(std::string_view rest);
     std::string Show(std::string_view rest);
     std::string Events(std::string_view rest);

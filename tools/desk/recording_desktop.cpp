@@ -2,6 +2,7 @@
 
 #include "core/text.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace horvanta {
@@ -94,7 +95,24 @@ void RecordingDesktop::Tell(std::string_view message, std::string_view title) {
 
 void RecordingDesktop::OpenWithShell(const std::string& path) { asked.push_back("open " + Quoted(path)); }
 
-std::optional<Color> RecordingDesktop::ChooseColor(Color present) {
+bool RecordingDesktop::ShowInformation(std::string_view text, std::string_view title) {
+    return AskYesNo(std::string(text) + "\n\n\nCopy to Clipboard?", title);
+}
+
+/// The answer is the text of a caption.
+std::optional<std::size_t> RecordingDesktop::ChooseFromMenu(const std::vector<std::string>& captions) {
+    const BoxAnswer answer = NextAnswer();
+    std::string record = "menu";
+    for (const std::string& caption : captions) record += " " + Quoted(RemoveAmpersands(caption));
+    const auto found = std::ranges::find_if(captions, [&](const std::string& caption) {
+        return answer.kind == BoxAnswer::text && RemoveAmpersands(caption) == answer.typed;
+    });
+    const bool chosen = found != captions.end();
+    asked.push_back(record + " " + (chosen ? Quoted(answer.typed) : "cancel"));
+    return chosen ? std::optional(static_cast<std::size_t>(found - captions.begin())) : std::nullopt;
+}
+
+std::optional<Color> RecordingDesktop::ChooseColor(Color present, std::string_view) {
     const BoxAnswer answer = NextAnswer();
     const bool chosen = answer.kind == BoxAnswer::color;
     const std::string outcome = chosen ? std::to_string(answer.chosen.Number()) : "cancel";
@@ -110,6 +128,8 @@ bool RecordingDesktop::Press(int code, int shift) {
     if (!focused || !focused->form.visible) return false;
     const bool reached = isInReach(*focused);
     auto* field = dynamic_cast<TextField*>(focused);
+    if (reached && field && code == KeyEscape && field->Restore()) return true;
+    if (!(reached && field && isWritingKey(code))) CommitEdit();
     if (reached && TakesClicks(*focused) && (code == KeySpace || code == KeyEnter)) {
         if (focused->Click) focused->Click();
     } else if (reached && field && code == KeyEnter) {
@@ -124,14 +144,20 @@ bool RecordingDesktop::Press(int code, int shift) {
 
 bool RecordingDesktop::Type(TextField& field, std::string_view text) {
     if (!Focus(field)) return false;
-    field.text = text;
+    field.Edit(std::string(text));
     LeaveField();
+    return true;
+}
+
+bool RecordingDesktop::Edit(TextField& field, std::string_view text) {
+    if (!Focus(field)) return false;
+    field.Edit(std::string(text));
     return true;
 }
 
 void RecordingDesktop::LeaveField() {
     auto* field = dynamic_cast<TextField*>(focused);
-    if (field && isInReach(*field) && field->LostFocus) field->LostFocus();
+    if (field && isInReach(*field)) field->Leave();
 }
 
 bool RecordingDesktop::Focus(Control& control) {
@@ -144,6 +170,7 @@ bool RecordingDesktop::Focus(Control& control) {
 void RecordingDesktop::Activate(Control& control) {
     if (!control.form.visible) return;
     if (isInReach(control)) focused = &control;
+    for (Form* form : forms) form->inFront = form == &control.form;
     if (frame_) frame_->activeForm = &control.form;
 }
 

@@ -54,7 +54,10 @@ class RecordingDesktop : public Desktop {
     std::optional<std::string> ChooseFile(std::string_view title) override;
     void Tell(std::string_view message, std::string_view title) override;
     void OpenWithShell(const std::string& path) override;
-    std::optional<Color> ChooseColor(Color present) override;
+    bool ShowInformation(std::string_view text, std::string_view title) override;
+    std::optional<std::size_t> ChooseFromMenu(const std::vector<std::string>& captions) override;
+    void ArrangeWindows() override { asked.emplace_back("arrange"); }
+    std::optional<Color> ChooseColor(Color present, std::string_view title) override;
     void SetClipboard(const std::string& text) override;
     LocalClock Clock() override { return clock; }
     SettingsStore& Settings() override { return settings; }
@@ -63,6 +66,7 @@ class RecordingDesktop : public Desktop {
     // What a user does. Each returns false where there is nothing to act on.
     bool Press(int code, int shift);
     bool Type(TextField& field, std::string_view text);
+    bool Edit(TextField& field, std::string_view text);  ///< Without leaving the field.
     bool Focus(Control& control);
 
     /// Grants the wishes for focus, as a drawing desktop does when an act has returned.

@@ -1,0 +1,162 @@
+#include "qt/window_layout.h"
+
+#include <algorithm>
+#include <compare>
+#include <cstddef>
+#include <set>
+
+namespace horvanta {
+namespace {
+
+constexpr int gap = 1;  // pixels between windows
+
+/// What a place costs; the first that differs decides.
+struct Cost {
+    int handlesHidden = 0;    ///< As the windows lie above one another at first.
+    int partsHidden = 0;      ///< The same of other parts that have to be seen.
+    int handlesHideable = 0;  ///< If another window came to the top.
+    int partsHideable = 0;
+    qint64 covered = 0;  ///< Square pixels of windows under others and outside the frame.
+
+    auto operator<=>(const Cost&) const = default;
+    bool isNone() const { return *this == Cost(); }
+
+    Cost& operator+=(const Cost& other) {
+        handlesHidden += other.handlesHidden;
+        partsHidden += other.partsHidden;
+        handlesHideable += other.handlesHideable;
+        partsHideable += other.partsHideable;
+        covered += other.covered;
+        return *this;
+    }
+};
+
+qint64 AreaOf(const QRect& rect) { return rect.isEmpty() ? 0 : qint64(rect.width()) * rect.height(); }
+
+struct Placed {
+    const Pane* pane;
+    QRect rect;
+    bool isTopmost;
+};
+
+/// Adds what a cover hides of a window.
+void AddHidden(Cost& cost, const Placed& window, const QRect& cover, bool isAbove) {
+    for (std::size_t i = 0; i < window.pane->needed.size(); ++i) {
+        if (!window.pane->needed[i].translated(window.rect.topLeft()).intersects(cover)) continue;
+        ++(i == 0 ? cost.handlesHideable : cost.partsHideable);
+        if (isAbove) ++(i == 0 ? cost.handlesHidden : cost.partsHidden);
+    }
+}
+
+void AddOutside(Cost& cost, const Placed& window, const QRect& room) {
+    for (std::size_t i = 0; i < window.pane->needed.size(); ++i) {
+        if (room.contains(window.pane->needed[i].translated(window.rect.topLeft()))) continue;
+        ++(i == 0 ? cost.handlesHidden : cost.partsHidden);
+    }
+    cost.covered += AreaOf(window.rect) - AreaOf(window.rect & room);
+}
+
+Cost CostOf(const Placed& window, const std::vector<Placed>& others, const QRect& room) {
+    Cost cost;
+    AddOutside(cost, window, room);
+    for (const Placed& other : others) {
+        if (!other.rect.intersects(window.rect)) continue;
+        cost.covered += AreaOf(other.rect & window.rect);
+        AddHidden(cost, window, other.rect, other.isTopmost);
+        AddHidden(cost, other, window.rect, !other.isTopmost);
+    }
+    return cost;
+}
+
+/// The edges at which a window may begin: those of the frame, and behind the others or what has to be seen of them.
+struct Edges {
+    std::set<int> tops{0};
+    std::set<int> lefts{0};
+
+    void Add(const Placed& other) {
+        tops.insert(other.rect.bottom() + 1 + gap);
+        lefts.insert(other.rect.right() + 1 + gap);
+        for (const QRect& part : other.pane->needed) {
+            tops.insert(other.rect.top() + part.bottom() + 1);
+            lefts.insert(other.rect.left() + part.right() + 1);
+        }
+    }
+};
+
+class Layout {
+  public:
+    Layout(const QSize& room, const std::vector<Pane>& panes) : room_(QPoint(), room), panes_(panes) {}
+
+    /// Places the windows in an order of their numbers.
+    void Place(const std::vector<std::size_t>& order) {
+        std::vector<Placed> placed;
+        places_.resize(panes_.size());
+        for (const bool fixed : {true, false}) {
+            for (const std::size_t number : order) {
+                const Pane& pane = panes_[number];
+                if (pane.fixed != fixed) continue;
+                Placed window{&pane, pane.wish, number == 0};
+                if (!fixed) cost_ += Settle(window, placed);
+                places_[number] = window.rect.topLeft();
+                placed.push_back(window);
+            }
+        }
+    }
+
+    const Cost& cost() const { return cost_; }
+    const std::vector<QPoint>& places() const { return places_; }
+
+  private:
+    Cost Settle(Placed& window, const std::vector<Placed>& placed) const {
+        Cost best = CostOf(window, placed, room_);
+        if (best.isNone()) return best;
+        Edges edges;
+        edges.tops.insert(std::max(0, room_.height() - window.rect.height()));
+        edges.lefts.insert(std::max(0, room_.width() - window.rect.width()));
+        for (const Placed& other : placed) edges.Add(other);
+        const QRect wish = window.rect;
+        for (const int top : edges.tops) {
+            for (const int left : edges.lefts) {
+                const Placed there{window.pane, QRect(QPoint(left, top), wish.size()), window.isTopmost};
+                const Cost cost = CostOf(there, placed, room_);
+                if (cost < best) best = cost, window.rect = there.rect;
+            }
+        }
+        return best;
+    }
+
+    QRect room_;
+    const std::vector<Pane>& panes_;
+    Cost cost_;
+    std::vector<QPoint> places_;
+};
+
+/// The windows in their order, and by their height and width: large ones find room more easily while there is some.
+std::vector<std::vector<std::size_t>> OrdersOf(const std::vector<Pane>& panes) {
+    std::vector<std::size_t> order(panes.size());
+    for (std::size_t i = 0; i < order.size(); ++i) order[i] = i;
+    std::vector<std::vector<std::size_t>> orders(3, order);
+    const auto size = [&](std::size_t i) { return panes[i].wish.size(); };
+    std::ranges::stable_sort(orders[1], [&](auto a, auto b) { return size(a).height() > size(b).height(); });
+    std::ranges::stable_sort(orders[2], [&](auto a, auto b) { return size(a).width() > size(b).width(); });
+    return orders;
+}
+
+}  // namespace
+
+std::vector<QPoint> LayOut(const QSize& room, const std::vector<Pane>& panes) {
+    std::vector<QPoint> places;
+    Cost best;
+    for (const auto& order : OrdersOf(panes)) {
+        Layout layout(room, panes);
+        layout.Place(order);
+        if (places.empty() || layout.cost() < best) {
+            best = layout.cost();
+            places = layout.places();
+        }
+        if (best.isNone()) break;
+    }
+    return places;
+}
+
+}  // namespace horvanta
