@@ -3,6 +3,7 @@
 #include "core/text.h"
 
 #include <algorithm>
+#include <cmath>
 
 namespace horvanta {
 namespace {
@@ -10,6 +11,28 @@ namespace {
 std::uint8_t ShadeChannel(std::uint8_t channel, int strength) {
     const int moved = channel < 128 ? channel + strength : channel - strength;
     return static_cast<std::uint8_t>(std::clamp(moved, 0, 255));
+}
+
+/// How light a colour of the sRGB space is, from 0 to 1.
+double Luminance(Color color) {
+    const auto linear = [](std::uint8_t channel) {
+        const double part = channel / 255.0;
+        return part <= 0.04045 ? part / 12.92 : std::pow((part + 0.055) / 1.055, 2.4);
+    };
+    return 0.2126 * linear(color.red) + 0.7152 * linear(color.green) + 0.0722 * linear(color.blue);
+}
+
+double Contrast(Color a, Color b) {
+    const auto [darker, lighter] = std::minmax({Luminance(a), Luminance(b)});
+    return (lighter + 0.05) / (darker + 0.05);
+}
+
+/// A colour on its way to another, of `steps` steps.
+Color Mixed(Color from, Color to, int step, int steps) {
+    const auto mixed = [=](std::uint8_t a, std::uint8_t b) {
+        return static_cast<std::uint8_t>(a + (b - a) * step / steps);
+    };
+    return {mixed(from.red, to.red), mixed(from.green, to.green), mixed(from.blue, to.blue)};
 }
 
 bool hasWords(std::string_view text) {
@@ -22,6 +45,17 @@ bool hasWords(std::string_view text) {
 
 Color Shade(Color color, int strength) {
     return {ShadeChannel(color.red, strength), ShadeChannel(color.green, strength), ShadeChannel(color.blue, strength)};
+}
+
+Color ReadableOn(Color background, Color color) {
+    constexpr double enough = 4.5;
+    constexpr int steps = 32;
+    constexpr Color black{0, 0, 0};
+    constexpr Color white{255, 255, 255};
+    const Color end = Contrast(background, white) > Contrast(background, black) ? white : black;
+    int step = 0;
+    while (step < steps && Contrast(background, Mixed(color, end, step, steps)) < enough) ++step;
+    return Mixed(color, end, step, steps);
 }
 
 void Control::JoinForm() { form.controls.push_back(this); }

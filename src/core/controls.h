@@ -33,6 +33,10 @@ struct Color {
 /// The colour with each channel moved by `strength`, away from the nearer of its two ends.
 Color Shade(Color color, int strength);
 
+/// The colour, lightened or darkened as little as it takes to be read on a background: with the contrast of 4.5 to 1
+/// that the Web Content Accessibility Guidelines 2.1 ask of text.
+Color ReadableOn(Color background, Color color);
+
 /// Text and background, which are only ever set together.
 struct ColorPair {
     Color background;
@@ -74,6 +78,7 @@ class Control {
     bool enabled = true;
     bool whileBusy = false;           ///< Hears keys and clicks while a long command lets events run.
     std::optional<ColorPair> colors;  ///< None follows the desktop's palette.
+    std::optional<Color> tint;        ///< Of its text on the palette's background, shaded until it can be read there.
 
     std::function<void()> Click;
     std::function<void()> DblClick;
@@ -154,9 +159,10 @@ struct CellGrid final : Control {
     };
 
     std::array<Cell, 42> cells;
-    std::array<Heading, 7> headings;
-    bool across = false;     ///< The weekdays stand as rows.
-    std::size_t active = 0;  ///< The cell of the displayed day.
+    std::array<Heading, 7> headings;   ///< The full name is the tooltip where the text is a shorter one.
+    bool across = false;               ///< The weekdays stand as rows.
+    std::size_t active = 0;            ///< The cell of the displayed day.
+    std::optional<std::size_t> today;  ///< The cell of the day it is now, if that is in the month.
     std::optional<ColorPair> activeColors;
 
     std::function<void(std::size_t cell)> CellClick;

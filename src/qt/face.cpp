@@ -4,6 +4,11 @@ namespace horvanta {
 
 QColor ToQColor(Color color) { return {color.red, color.green, color.blue}; }
 
+Color FromQColor(const QColor& color) {
+    return {static_cast<std::uint8_t>(color.red()), static_cast<std::uint8_t>(color.green()),
+            static_cast<std::uint8_t>(color.blue())};
+}
+
 void ShowTip(QWidget& widget, const std::string& tooltip) {
     const QString tip = QString::fromStdString(tooltip);
     if (widget.toolTip() != tip) widget.setToolTip(tip);
@@ -26,15 +31,18 @@ void Face::Draw() {
 
 /// Without colours the widget goes back to the desktop's.
 void Face::DrawColors() {
-    if (!control.colors && !widget.testAttribute(Qt::WA_SetPalette)) return;
-    QPalette palette;
+    const bool coloured = control.colors || control.tint;
+    if (!coloured && !widget.testAttribute(Qt::WA_SetPalette)) return;
+    const auto [background, foreground] = ColorRoles();
+    QPalette palette = coloured ? widget.palette() : QPalette();
     if (control.colors) {
-        const auto [background, foreground] = ColorRoles();
-        palette = widget.palette();
         palette.setColor(background, ToQColor(control.colors->background));
         palette.setColor(foreground, ToQColor(control.colors->foreground));
-        if (palette == widget.palette()) return;
+    } else if (control.tint) {
+        const QColor behind = palette.color(background);
+        palette.setColor(foreground, ToQColor(ReadableOn(FromQColor(behind), *control.tint)));
     }
+    if (coloured && palette == widget.palette()) return;
     widget.setPalette(palette);
     widget.setAutoFillBackground(control.colors.has_value());
 }

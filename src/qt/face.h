@@ -98,6 +98,7 @@ std::unique_ptr<Face> MakeFace(Control& control, QWidget& widget);
 bool isFace(const QWidget& widget);
 
 QColor ToQColor(Color color);
+Color FromQColor(const QColor& color);
 
 // These set only what differs: widgets pass on even what they had already.
 void ShowTip(QWidget& widget, const std::string& tooltip);

@@ -121,12 +121,15 @@ struct TextFieldFace final : FaceOf<TextField, QLineEdit> {
         QObject::connect(&by_, &QLineEdit::returnPressed, &by_, [this, &acts] { Leave(acts); });
     }
 
-    /// What is typed behind the untouched text of a window's main field takes its place.
+    /// What is typed behind the untouched text of a window's main field takes its place. There Home is the window's, as
+    /// everywhere but in fields.
     KeyUse TakeKey(const QKeyEvent& event) override {
         const bool typed = !event.text().isEmpty() && event.text().front().isPrint() && !event.text().front().isSpace();
         const bool untouched = !by_.isModified() && by_.cursorPosition() == by_.text().size();
-        if (typed && untouched && by_.property("main").toBool()) by_.selectAll();
-        return isEnter(event) || isEditingKey(event) ? KeyUse::Kept : KeyUse::Open;
+        const bool main = by_.property("main").toBool();
+        if (typed && untouched && main) by_.selectAll();
+        const bool edits = isEditingKey(event) || (!main && event.matches(QKeySequence::MoveToStartOfLine));
+        return isEnter(event) || edits ? KeyUse::Kept : KeyUse::Open;
     }
     void Leave(Acts& acts) override { acts.Fire(shown_, shown_.LostFocus); }
 
