@@ -19,6 +19,9 @@ inline std::string DominicalLetters(std::int32_t weekdayBefore, bool leap) {
     return letters;
 }
 
+/// "Leap year", "Common year"
+constexpr const char* YearKind(bool leap) { return leap ? "Leap year" : "Common year"; }
+
 /// "15+351=366": how much of a whole has begun, what remains, and the whole.
 std::string PartAndRest(int part, int whole);
 

@@ -84,6 +84,7 @@ class Control {
     bool enabled = true;
     bool whileBusy = false;           ///< Hears keys and clicks while a long command lets events run.
     std::optional<ColorPair> colors;  ///< None follows the desktop's palette.
+    std::optional<Color> tint;        ///< Of its text on the palette's background, shaded until it can be read there.
 
     std::function<void()> Click;
     std::function<void()> DblClick;
@@ -195,9 +196,10 @@ struct CellGrid final : Control {
     };
 
     std::array<Cell, 42> cells;
-    std::array<Heading, 7> headings;
-    bool across = false;     ///< The weekdays stand as rows.
-    std::size_t active = 0;  ///< The cell of the displayed day.
+    std::array<Heading, 7> headings;   ///< The full name is the tooltip where the text is a shorter one.
+    bool across = false;               ///< The weekdays stand as rows.
+    std::size_t active = 0;            ///< The cell of the displayed day.
+    std::optional<std::size_t> today;  ///< The cell of the day it is now, if that is in the month.
     std::optional<ColorPair> activeColors;
 
     std::function<void(std::size_t cell)> CellClick;

@@ -4,6 +4,9 @@
 
 #include <QGridLayout>
 #include <QLabel>
+#include <QPainter>
+
+#include <algorithm>
 
 #include <utility>
 
@@ -11,7 +14,71 @@ namespace horvanta {
 namespace {
 
 constexpr std::size_t daysInWeek = 7;
-constexpr int padding = 3;  // pixels about the text of a cell
+constexpr int padding = 4;  // pixels about the text of a cell, within which its marks are drawn
+
+/// A day of the month. The displayed one has a border, within a frame in the highlight colour while the grid has the
+/// focus; that of today is underlined.
+class DayLabel final : public QLabel {
+  public:
+    explicit DayLabel(QWidget* parent) : QLabel(parent) {
+        setTextFormat(Qt::PlainText);
+        setAlignment(Qt::AlignCenter);
+        setAutoFillBackground(true);
+        setMargin(padding);
+    }
+
+    void Mark(bool active, bool today) {
+        if (active_ == active && today_ == today) return;
+        active_ = active;
+        today_ = today;
+        QFont marked = font();
+        marked.setBold(active);
+        setFont(marked);
+        update();
+    }
+
+  protected:
+    void paintEvent(QPaintEvent* event) override {
+        QLabel::paintEvent(event);
+        QPainter painter(this);
+        const QColor ink = palette().color(QPalette::WindowText);
+        if (today_) painter.fillRect(width() / 4, height() - padding, width() / 2, 2, ink);
+        if (!active_) return;
+        QRect border = rect();
+        if (parentWidget()->hasFocus()) {
+            constexpr int thickness = 2;
+            const QRect inside = border.adjusted(thickness, thickness, -thickness, -thickness);
+            painter.save();
+            painter.setClipRegion(QRegion(border) - QRegion(inside));
+            painter.fillRect(border, parentWidget()->palette().color(QPalette::Highlight));
+            painter.restore();
+            border = inside;
+        }
+        painter.setPen(ink);
+        painter.drawRect(border.adjusted(0, 0, -1, -1));
+    }
+
+  private:
+    bool active_ = false;
+    bool today_ = false;
+};
+
+/// Whether a week that has no day of the month takes room: where weeks are columns, all columns keep their width.
+bool hasRoom(const CellGrid& grid, std::size_t index) {
+    const auto* week = grid.cells.begin() + index / daysInWeek * daysInWeek;
+    return grid.across || std::any_of(week, week + daysInWeek, [](const CellGrid::Cell& cell) { return !cell.blank; });
+}
+
+const std::string& FullName(const CellGrid::Heading& heading) {
+    return heading.tooltip.empty() ? heading.text : heading.tooltip;
+}
+
+void SetRetained(QWidget& widget, bool retained) {
+    QSizePolicy policy = widget.sizePolicy();
+    if (policy.retainSizeWhenHidden() == retained) return;
+    policy.setRetainSizeWhenHidden(retained);
+    widget.setSizePolicy(policy);
+}
 
 }  // namespace
 
@@ -19,18 +86,11 @@ CellGridWidget::CellGridWidget(QWidget* parent) : LabelsWidget(parent), layout_(
     layout_->setContentsMargins(0, 0, 0, 0);
     layout_->setSpacing(2);
     setFocusPolicy(Qt::StrongFocus);
-    for (QLabel*& heading : headings_) heading = MakeCell();
-    while (parts_.size() < std::tuple_size_v<decltype(CellGrid::cells)>) {
-        parts_.push_back(MakeCell());
-        parts_.back()->setAlignment(Qt::AlignCenter);
-        parts_.back()->setAutoFillBackground(true);
+    for (QLabel*& heading : headings_) {
+        heading = MakeLabel();
+        heading->setMargin(padding);
     }
-}
-
-QLabel* CellGridWidget::MakeCell() {
-    QLabel* label = MakeLabel();
-    label->setMargin(padding);
-    return label;
+    while (parts_.size() < std::tuple_size_v<decltype(CellGrid::cells)>) parts_.push_back(new DayLabel(this));
 }
 
 /// Places every label anew; a label that is already in the layout moves.
@@ -48,37 +108,42 @@ void CellGridWidget::Arrange(bool across) {
 
 void CellGridWidget::Draw(const CellGrid& grid) {
     Arrange(grid.across);
-    for (std::size_t i = 0; i < headings_.size(); ++i) {
-        const QString text = QString::fromStdString(grid.headings[i].text);
-        headings_[i]->setText(text);
-        ShowName(*headings_[i], text);
-        ShowTip(*headings_[i], grid.headings[i].tooltip);
-    }
+    DrawHeadings(grid);
     for (std::size_t i = 0; i < parts_.size(); ++i) DrawCell(grid, i);
 }
 
+void CellGridWidget::DrawHeadings(const CellGrid& grid) {
+    for (std::size_t i = 0; i < headings_.size(); ++i) {
+        const CellGrid::Heading& heading = grid.headings[i];
+        headings_[i]->setText(QString::fromStdString(heading.text));
+        ShowName(*headings_[i], QString::fromStdString(FullName(heading)));
+        ShowTip(*headings_[i], heading.tooltip);
+    }
+}
+
+/// What is no day of the month is not there, for the eye nor for a screen reader.
 void CellGridWidget::DrawCell(const CellGrid& grid, std::size_t index) {
-    QLabel& label = *parts_[index];
+    auto& label = static_cast<DayLabel&>(*parts_[index]);
     const CellGrid::Cell& cell = grid.cells[index];
-    const bool active = index == grid.active && !cell.blank;
+    SetRetained(label, hasRoom(grid, index));
+    if (label.isHidden() != cell.blank) label.setVisible(!cell.blank);
+    if (cell.blank) return;
+    const bool active = index == grid.active;
+    const bool today = index == grid.today;
     label.setText(QString::fromStdString(cell.text));
-    const std::string& heading = grid.headings[index % daysInWeek].text;
+    const std::string name = FullName(grid.headings[index % daysInWeek]) + " " + cell.text;
     const std::string told = cell.tooltip.empty() ? "" : ", " + cell.tooltip;
-    ShowName(label, QString::fromStdString(cell.blank ? "no day" : heading + " " + cell.text + told));
-    ShowTip(label, cell.tooltip);
+    ShowName(label, QString::fromStdString(name + (today ? ", today" : "") + told));
+    ShowTip(label, cell.tooltip.empty() && today ? "Today" : cell.tooltip);
     const QPalette colors = ColorsOf(grid, cell, active);
     if (label.palette() != colors) label.setPalette(colors);
-    if (label.font().bold() == active) return;
-    QFont font = label.font();
-    font.setBold(active);
-    label.setFont(font);
+    label.Mark(active, today);
 }
 
 QPalette CellGridWidget::ColorsOf(const CellGrid& grid, const CellGrid::Cell& cell, bool active) const {
     QPalette colors = palette();
     const bool ownColors = active && grid.activeColors;
-    const QColor standard = colors.color(cell.blank ? QPalette::Button : QPalette::Base);
-    const QColor ground = ownColors ? ToQColor(grid.activeColors->background) : standard;
+    const QColor ground = ownColors ? ToQColor(grid.activeColors->background) : colors.color(QPalette::Base);
     const QColor ink = ownColors ? ToQColor(grid.activeColors->foreground) : colors.color(QPalette::Text);
     colors.setColor(QPalette::Window, ground);
     colors.setColor(QPalette::WindowText, ToQColor(InkOf(cell.mark, ToColor(ground), ToColor(ink))));
@@ -94,6 +159,17 @@ void CellGridWidget::KeepRoom(const QString& widest) {
 
 void CellGridWidget::Connect(CellGrid& grid, Acts& acts) {
     clicked_ = [&grid, &acts](std::size_t cell) { acts.Fire(grid, grid.CellClick, cell); };
+}
+
+/// The focus shows on the cell of the displayed day.
+void CellGridWidget::focusInEvent(QFocusEvent* event) {
+    LabelsWidget::focusInEvent(event);
+    update();
+}
+
+void CellGridWidget::focusOutEvent(QFocusEvent* event) {
+    LabelsWidget::focusOutEvent(event);
+    update();
 }
 
 }  // namespace horvanta

@@ -4,6 +4,7 @@
 #include "qt/labels_widget.h"
 
 #include <array>
+#include <cstddef>
 #include <optional>
 
 class QGridLayout;
@@ -13,7 +14,8 @@ namespace horvanta {
 class Acts;
 
 /// The cells of a month with the headings of the weekdays, which stand above them or, transposed, beside them. It has
-/// the focus as a whole; the cell of the displayed day is the highlighted one.
+/// the focus as a whole, and speaks as the cell of the displayed day, which stands out by colours, bold type and a
+/// border.
 class CellGridWidget final : public LabelsWidget {
     Q_OBJECT
   public:
@@ -26,9 +28,13 @@ class CellGridWidget final : public LabelsWidget {
 
     void Connect(CellGrid& grid, Acts& acts);
 
+  protected:
+    void focusInEvent(QFocusEvent* event) override;
+    void focusOutEvent(QFocusEvent* event) override;
+
   private:
-    QLabel* MakeCell();
     void Arrange(bool across);
+    void DrawHeadings(const CellGrid& grid);
     void DrawCell(const CellGrid& grid, std::size_t index);
     QPalette ColorsOf(const CellGrid& grid, const CellGrid::Cell& cell, bool active) const;
 

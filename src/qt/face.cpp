@@ -33,15 +33,18 @@ void Face::Draw() {
 
 /// Without colours the widget goes back to the desktop's.
 void Face::DrawColors() {
-    if (!control.colors && !widget.testAttribute(Qt::WA_SetPalette)) return;
-    QPalette palette;
+    const bool coloured = control.colors || control.tint;
+    if (!coloured && !widget.testAttribute(Qt::WA_SetPalette)) return;
+    const auto [background, foreground] = ColorRoles();
+    QPalette palette = coloured ? widget.palette() : QPalette();
     if (control.colors) {
-        const auto [background, foreground] = ColorRoles();
-        palette = widget.palette();
         palette.setColor(background, ToQColor(control.colors->background));
         palette.setColor(foreground, ToQColor(control.colors->foreground));
-        if (palette == widget.palette()) return;
+    } else if (control.tint) {
+        const QColor behind = palette.color(background);
+        palette.setColor(foreground, ToQColor(Legible(*control.tint, ToColor(behind))));
     }
+    if (coloured && palette == widget.palette()) return;
     widget.setPalette(palette);
     widget.setAutoFillBackground(control.colors.has_value());
 }

@@ -135,7 +135,8 @@ struct TextFieldFace final : FaceOf<TextField, QLineEdit> {
         QObject::connect(&by, &QLineEdit::returnPressed, &by, [this, &acts] { Leave(acts); });
     }
 
-    /// What is typed behind the untouched text of a window's main field takes its place.
+    /// What is typed behind the untouched text of a window's main field takes its place. There Home is the window's, as
+    /// everywhere but in fields.
     KeyUse TakeKey(const QKeyEvent& event) override {
         if (event.key() == Qt::Key_Escape && shown.Restore()) {
             Draw();
@@ -143,8 +144,10 @@ struct TextFieldFace final : FaceOf<TextField, QLineEdit> {
         }
         const bool typed = !event.text().isEmpty() && event.text().front().isPrint() && !event.text().front().isSpace();
         const bool untouched = !by.isModified() && by.cursorPosition() == by.text().size();
-        if (typed && untouched && by.property("main").toBool()) by.selectAll();
-        return isEnter(event) || isEditingKey(event) ? KeyUse::Kept : KeyUse::Open;
+        const bool main = by.property("main").toBool();
+        if (typed && untouched && main) by.selectAll();
+        const bool edits = isEditingKey(event) || (!main && event.matches(QKeySequence::MoveToStartOfLine));
+        return isEnter(event) || edits ? KeyUse::Kept : KeyUse::Open;
     }
     void Leave(Acts& acts) override {
         acts.Run([this] { shown.Leave(); }, {.whileBusy = shown.whileBusy, .editing = true});

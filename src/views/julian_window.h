@@ -37,13 +37,14 @@ class JulianWindow {
 
     // clang-format off
     Form form{"Julian", "Julian and Roman"};
-    Label Dummy{form, "Dummy"};  ///< Shows nothing; holds the focus while no button should.
+    Label Dummy{form, "Dummy", Named("Julian and Roman")};  ///< Shows nothing; holds the focus while no button should.
     Label TheJulianDate{form, "TheJulianDate", Tip("Julian date"), Widest("Wednesday, September 30, 10000 AD ")};
     Label TheRomanDate{form, "TheRomanDate", Tip("Roman date"), Widest(" Mercurii dies, ante diem XVIII kalendas September MMDCCLXXXVIII AUC")};
+    Label DominicalLabel{form, "DominicalLabel", Caption("Dominical letter")};
     Label Dominical{form, "Dominical", Tip("Dominical Letter(s) for this Julian Year"), Widest("DC")};
     CheckBox Revise{form, "Revise", Caption("Revise"), Tip("Use Revised Julian leap rule (leap 2nd and 6th century years per 900 years)")};
     CheckBox UseAUC{form, "UseAUC", Caption("AUC")};
-    Button Info{form, "Info", Caption("info"), Tip("Click here for Julian and Roman calendar information")};
+    Button Info{form, "Info", Caption("Info"), Named("Julian and Roman info"), Tip("Click here for Julian and Roman calendar information")};
     Label OlympiadLabel{form, "OlympiadLabel", Caption("Olympiad")};
     Label OlympiadCycleDecimal{form, "OlympiadCycleDecimal", Tip("Olympiad Cycle Number"), Widest("2000")};
     Label OlympiadYearDecimal{form, "OlympiadYearDecimal", Tip("Year# in Olympiad Cycle"), Widest("4")};

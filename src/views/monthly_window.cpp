@@ -7,7 +7,9 @@
 
 #include <algorithm>
 #include <cmath>
+#include <optional>
 #include <span>
+#include <utility>
 
 namespace horvanta {
 namespace {
@@ -55,6 +57,7 @@ void MonthlyWindow::HangHandlers() {
         current_ = listed_[static_cast<std::size_t>(Calendars.selected)];
         monthly::options.MonthCalendar = static_cast<std::int32_t>(current_);
         Calendars_Click();
+        KeepFocusInList();
     };
     MonthNames.Chosen = [this] { MonthNames_Click(); };
     PrevMonth.Click = [this] { PrevMonth_Click(); };
@@ -84,6 +87,12 @@ void MonthlyWindow::InitCalendars() {
     Calendars_Click();
 }
 
+/// The window of the calendar, which may just have come, does not take the focus from the list.
+void MonthlyWindow::KeepFocusInList() {
+    Current().date->form.focusWish = nullptr;
+    Calendars.TakeFocus();
+}
+
 /// The window of a calendar is up together with its grid.
 void MonthlyWindow::Calendars_Click() {
     const GridCalendar& calendar = Current();
@@ -109,7 +118,7 @@ void MonthlyWindow::ShowLayout() {
 
 Settings MonthlyWindow::StoredRows() {
     return {
-        {"Item", "AD", "&Across",
+        {"Item", "AD", "&Down",
          [](const std::string& text) {
              monthly::options.WeekdaysAsRows = text != "&Down";
              return true;
@@ -131,6 +140,7 @@ void MonthlyWindow::Update() {
     MonthNames.selected = date.month - 1;
     WearColors();
     ShowCells(date);
+    ShowToday(date);
 }
 
 /// A calendar may change its name with its rule.
@@ -163,6 +173,23 @@ void MonthlyWindow::ShowCells(const GridDate& date) {
         if (calendar.DaysOf) TellOf(calendar.DaysOf(eve + day), shown);
     }
     Days.active = static_cast<std::size_t>(date.day - 1 + date.firstWeekday);
+}
+
+void MonthlyWindow::ShowToday(const GridDate& date) {
+    const double cell = static_cast<double>(Days.active) + Today() - Floor(DisplayedMoment);
+    const bool inMonth = cell >= date.firstWeekday && cell < date.firstWeekday + date.monthLength;
+    Days.today = inMonth ? std::optional(static_cast<std::size_t>(cell)) : std::nullopt;
+    Days.spoken = SpokenDay();
+}
+
+/// "Monday, January 15, 2024, today"
+std::string MonthlyWindow::SpokenDay() const {
+    const CalendarContract& calendar = *Current().contract;
+    const std::string& text = Days.cells[Days.active].text;
+    const std::string day =
+        calendar.CellText ? text : MonthNames.items[static_cast<std::size_t>(MonthNames.selected)] + " " + text;
+    return calendar.DayNames().full[Days.active % 7] + ", " + day + ", " + ThisYear.text +
+           (Days.today == Days.active ? ", today" : "");
 }
 
 void MonthlyWindow::MoveTo(std::int32_t year, std::int32_t month, std::int32_t day, bool keepTime) {
@@ -237,6 +264,12 @@ void MonthlyWindow::TakeYear() {
     ThisYear.text = std::to_string(shown_.year);
 }
 
+/// True if another year had been typed.
+bool MonthlyWindow::RestoreYear() {
+    const std::string year = std::to_string(shown_.year);
+    return std::exchange(ThisYear.text, year) != year;
+}
+
 void MonthlyWindow::Layout_Click() {
     monthly::options.WeekdaysAsRows = !monthly::options.WeekdaysAsRows;
     ShowLayout();
@@ -267,6 +300,7 @@ bool MonthlyWindow::ObeyCellKey(int code, int shift) {
     return true;
 }
 
+/// Space is no part of a number, and neither it nor Home, which edits, goes on to step the day.
 bool MonthlyWindow::ObeyYearKey(int code, int shift) {
     const std::int32_t step = YearsToAStep(shift);
     switch (code) {
@@ -276,6 +310,9 @@ bool MonthlyWindow::ObeyYearKey(int code, int shift) {
         case KeyNumericMinus: ChangeYear(shown_.year - step); return true;
         case KeyPageUp: ChangeYear(shown_.year + std::max(10, step)); return true;
         case KeyPageDown: ChangeYear(shown_.year - std::max(10, step)); return true;
+        case KeyEscape: return RestoreYear();
+        case KeySpace:
+        case KeyHome: return true;
         default: return false;
     }
 }

@@ -11,7 +11,7 @@ namespace horvanta {
 
 namespace monthly {
 struct Options {
-    bool WeekdaysAsRows = true;      ///< Else they stand as columns.
+    bool WeekdaysAsRows = false;     ///< Else they stand as columns.
     std::int32_t MonthCalendar = 0;  ///< The calendar that the user chose, by its place in the list of all, from 0.
     bool operator==(const Options&) const = default;
 };
@@ -64,10 +64,13 @@ class MonthlyWindow {
   private:
     const GridCalendar& Current() const { return calendars_[current_]; }
     void HangHandlers();
+    void KeepFocusInList();
     void ShowHeadings();
     void ShowNames();
     bool HasYear0() const;
     void ShowCells(const GridDate& date);
+    void ShowToday(const GridDate& date);
+    std::string SpokenDay() const;
     void WearColors();
     void MoveTo(std::int32_t year, std::int32_t month, std::int32_t day, bool keepTime);
     void ShowMonth(std::int32_t year, std::int32_t month, bool keepTime);
@@ -77,6 +80,7 @@ class MonthlyWindow {
     void ShowLayout();
     bool ObeyCellKey(int code, int shift);
     bool ObeyYearKey(int code, int shift);
+    bool RestoreYear();
     void TakeYear();
     void TakeFocus() { Days.TakeFocus(); }
 

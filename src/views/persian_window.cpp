@@ -1,6 +1,7 @@
 #include "views/persian_window.h"
 
 #include "astro/timescales.h"
+#include "calendars/calendar_text.h"
 #include "calendars/persian.h"
 #include "core/day_events.h"
 #include "core/memo.h"
@@ -30,7 +31,6 @@ constexpr std::string_view information =
 
 PersianWindow::PersianWindow(HorvantaMDI& frame) : frame_(frame) {
     frame_.CopyOnClick(ThePersianDate);
-    LeapCheckbox.Shows(isLeap_);
     Info.Click = [this] { Info_Click(); };
 }
 
@@ -48,7 +48,7 @@ void PersianWindow::Update() {
     const std::string dateText = PersianDateString(date);
     const auto weekday = static_cast<std::size_t>(date.weekday);
     ThePersianDate.text = " " + std::string(PersianWeekdayNames[weekday]) + ", " + dateText;
-    isLeap_ = date.isLeap;
+    LeapCheckbox.text = YearKind(date.isLeap);
     day_events::AddAll(form.name, dateText, EventsOf(date), ThePersianDate);
 }
 

@@ -22,16 +22,15 @@ class PersianWindow {
 
     // clang-format off
     Form form{"Persian", "Persian (modern astronomical)"};
-    Label Dummy{form, "Dummy"};  ///< Shows nothing; holds the focus while no button should.
+    Label Dummy{form, "Dummy", Named("Persian")};  ///< Shows nothing; holds the focus while no button should.
     Label ThePersianDate{form, "ThePersianDate", Tip("Persian date"), Widest(" Panj-shanbeh, 30 Ordibehesht -7000 BPE")};
-    CheckBox LeapCheckbox{form, "LeapCheckbox", Caption("Leap year"), Tip("Checked if this Persian year has 366 days")};
-    Button Info{form, "Info", Caption("Persian info"), Tip("Click here for Persian Calendar information")};
+    Label LeapCheckbox{form, "LeapCheckbox", Tip("A Persian leap year has 366 days"), Widest("Common year")};
+    Button Info{form, "Info", Caption("Info"), Named("Persian info"), Tip("Click here for Persian Calendar information")};
     // clang-format on
     WindowColors colors{"P", {Color::FromNumber(10220253), Color::FromNumber(0)}, ThePersianDate};
 
   private:
     HorvantaMDI& frame_;
-    bool isLeap_ = false;  ///< The displayed year is one.
 };
 
 }  // namespace horvanta

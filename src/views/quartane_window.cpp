@@ -83,7 +83,6 @@ QuartaneWindow::QuartaneWindow(HorvantaMDI& frame) : frame_(frame) {
     frame_.CopyOnClick(QuaCycleInfo, [this] { QuaCycleInfo_Click(); });
     QuaStatusGrid.CellClick = [this](std::size_t row, std::size_t column) { QuaStatusGrid_Click(row, column); };
     LeapChoice.Chosen = [this] { LeapChoice_Click(); };
-    LeapCheckbox.ShowsState([] { return QuaDateOn(DisplayedMoment).isLeap ? Checked : Unchecked; });
     frame_.CopyOnClick(FixedMeanYear, [this] { frame_.SetClipboardText(MeanYearSummary(DisplayedMoment)); });
     MeanYearLabel.Click = [this] { frame_.SetClipboardText(MeanYearFraction(DisplayedMoment)); };
     frame_.OfferCopy(MeanYearLabel);
@@ -167,6 +166,7 @@ void QuartaneWindow::ShowDate(const QuaDate& date) {
     QuartaneDateBox.text = QuaDateString(date) + " ";
     QuaStatusGrid.rows = StatusRows(date);
     FixedMeanYear.text = MeanYearText(DisplayedMoment);
+    LeapCheckbox.text = YearKind(date.isLeap);
     ShowCycle(date);
 }
 
@@ -198,7 +198,7 @@ void QuartaneWindow::ShowLists() {
 void QuartaneWindow::SetQuaTitle() {
     const std::string name = CalendarName();
     form.text = options.StartWeekday == 1 ? name : name + " (start " + StartWeekdayName() + ")";
-    InfoQuaCal.text = name + " info";
+    InfoQuaCal.spoken = name + " info";
     InfoQuaCal.tooltip = "Click here for information about the \"" + name + "\" Calendar";
     QuartaneDateBox.tooltip = name + " (start " + StartWeekdayName() + "), Leap Week " + LeapWeekPlace();
     const std::int32_t offset = SetKoffset(options.StartWeekday);

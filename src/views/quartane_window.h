@@ -44,12 +44,12 @@ class QuartaneWindow {
 
     // clang-format off
     Form form{"Quartane", "Quartane454"};
-    Label Dummy{form, "Dummy"};  ///< Shows nothing; holds the focus while nothing else should.
+    Label Dummy{form, "Dummy", Named("Quartane")};  ///< Shows nothing; holds the focus while nothing else should.
     Label QuartaneDateBox{form, "QuartaneDateBox", Widest("Wednesday, September 35, 10000 ")};
     Label QuaCycleInfo{form, "QuaCycleInfo", Tip("Click to copy cycle information to clipboard"), Widest("1800th year of 22nd 1803-year cycle AD")};
     Grid QuaStatusGrid{form, "QuaStatusGrid", Tip("Click a number to copy it to clipboard"), Widest("200+171=371"), Named("Place in year, quarter and month")};
     ChoiceList LeapChoice{form, "LeapChoice", Tip("Choose the desired Leap Rule"), Widest("320/1803 = 320 symmetric spread leap years per 1803 year cycle"), Named("Leap Rule")};
-    CheckBox LeapCheckbox{form, "LeapCheckbox", Caption("Leap"), Tip("If checkmarked, indicates that the displayed year is a leap year (read only)")};
+    Label LeapCheckbox{form, "LeapCheckbox", Tip("A leap year has 53 weeks, a common year 52"), Widest("Common year")};
     Label MeanYearLabel{form, "MeanYearLabel", Caption("Mean Year Length ="), Tip("Click to copy the decimal fraction to clipboard")};
     Label FixedMeanYear{form, "FixedMeanYear", Widest("Northward Equinox Year")};
     Button InfoLeapRule{form, "InfoLeapRule", Caption("Leap Rule"), Tip("Click for information about the currently active Leap Rule")};
@@ -59,7 +59,7 @@ class QuartaneWindow {
     Label StartOnLabel{form, "StartOnLabel", Caption("Start On:")};
     ChoiceList QuaStartOn{form, "QuaStartOn", Tip("Choose the Weekday to start every Quarter"), Named("Start On")};
     CheckBox QuaSoupMix{form, "QuaSoupMix", Caption("Experiment"), Tip("If checkmarked, activates the full set of experimental Quartane Calendar options")};
-    Button InfoQuaCal{form, "InfoQuaCal", Widest("Quartane454 info")};
+    Button InfoQuaCal{form, "InfoQuaCal", Caption("Info")};
     // clang-format on
     WindowColors colors{"S", {Color::FromNumber(16706033), Color::FromNumber(0)}, QuartaneDateBox, {{QuaCycleInfo}}};
 

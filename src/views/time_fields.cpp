@@ -29,9 +29,9 @@ constexpr double minutesPerDay = 1440;
 constexpr double secondsPerDay = 86400;
 constexpr int deltaTDigits = 5;
 
-// On white, whatever the desktop's palette: daylight saving time that is on is red while it applies and blue otherwise.
-constexpr ColorPair daylightColors{Color::FromNumber(16777215), Color::FromNumber(255)};
-constexpr ColorPair standardColors{Color::FromNumber(16777215), Color::FromNumber(16711680)};
+// Daylight saving time that is on is red while it applies and blue otherwise.
+constexpr Color daylightTint = Color::FromNumber(255);
+constexpr Color standardTint = Color::FromNumber(16711680);
 
 constexpr std::string_view legends[] = {"Prior Sunset", "Night Hour", "Midnight", "Night Span", "Sunrise",
                                         "Day Hour",     "Mid-Day",    "Day Span", "Sunset"};
@@ -285,12 +285,12 @@ void TimeFields::SetDSTinfo() {
 
 void TimeFields::SetDSTcolour() {
     if (zone_time::options.AdjustDST != Checked || Locale.NoDST) {
-        AdjustDST.colors.reset();
+        AdjustDST.tint.reset();
         AdjustDST.tooltip = "Daylight Saving Time disabled";
         return;
     }
     const bool applies = isDaylightTime(UniversalToStandard(DisplayedMoment));
-    AdjustDST.colors = applies ? daylightColors : standardColors;
+    AdjustDST.tint = applies ? daylightTint : standardTint;
     AdjustDST.tooltip = applies ? "Daylight Saving Time applied for the displayed moment"
                                 : "Standard Time applied for the displayed moment";
 }

@@ -38,7 +38,7 @@ constexpr Row rows[] = {
     {"Item", "SD", "700000.5"}, {"Item", "AdjDST", "2"}, {"Item", "dT", "0"}, {"Item", "ShowDD", "0"},
     {"Item", "Elev", "0"}, {"Item", "UseAUC", "1"}, {"Item", "JCY1", "-2637"}, {"Item", "Rectify", "1"},
     {"Item", "YRF", "-752"}, {"Item", "OSY", "-775"}, {"Item", "LP", "True"}, {"Item", "WCC", "True"}, {"Item", "UseEnglish", "False"},
-    {"Item", "LOC", "Tehran"}, {"Item", "Map", "4"}, {"Item", "MC", "3"}, {"Item", "AD", "&Down"},
+    {"Item", "LOC", "Tehran"}, {"Item", "Map", "4"}, {"Item", "MC", "3"}, {"Item", "AD", "&Across"},
     {"Item", "LunOpt", "2"}, {"Item", "Candles", "40"},
     {"Color", "ABC", "1"}, {"Color", "AFC", "2"}, {"Color", "GBC", "3"}, {"Color", "GFC", "4"}, {"Color", "LBC", "5"},
     {"Color", "ChinFC", "6"}, {"Color", "JBC", "7"}, {"Color", "PBC", "9"}, {"Color", "CFC", "16711680"},

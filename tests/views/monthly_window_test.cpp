@@ -54,9 +54,6 @@ TEST(Monthly, MovesByMonthsAndYears) {
         {"click Monthly.ChangeByYear up", "2024-02-29", "Saturday, March 1, 2025"},
         {"type Monthly.ThisYear -3", "2024-07-04", "Friday, July 4, -3"},
         {"type Monthly.ThisYear x", "2024-07-04", "Thursday, July 4, 2024"},
-        {"press Left", "2024-07-14", "Sunday, July 7, 2024"},
-        {"press Down", "2024-07-14", "Monday, July 15, 2024"},
-        {"press Backspace", "2024-07-01", "Sunday, June 30, 2024"},
         {"press End", "2024-07-01", "Wednesday, July 31, 2024"},
         {"press Numeric5", "2024-07-01", "Tuesday, July 16, 2024"},
         {"press Home", "2024-07-05", "Friday, July 5, 2024"},
@@ -82,6 +79,100 @@ TEST(Monthly, MovesByMonthsAndYears) {
     desk.Obey("focus Monthly.Days");
     EXPECT_EQ(desk.Obey("press Escape"), "ok");
     EXPECT_EQ(desk.desktop.focused, &desk.program.timeAstro.FixedDayNum);
+}
+
+TEST(Monthly, StepsAsItsLayoutLies) {
+    struct Row {
+        const char* key;
+        int down, across;  // days, with the weekdays as columns and as rows
+    };
+    constexpr Row rows[] = {
+        {"Left", -1, -7},     {"Numeric4", -1, -7}, {"Right", 1, 7},         {"Numeric6", 1, 7},    {"Up", -7, -1},
+        {"Numeric8", -7, -1}, {"Down", 7, 1},       {"Numeric2", 7, 1},      {"Backspace", -1, -1}, {"Minus", -1, -1},
+        {"Plus", 1, 1},       {"Space", 1, 1},      {"Space shift", -1, -1},
+    };
+    Desk desk;
+    MonthlyWindow& month = desk.program.monthly;
+    for (const bool across : {false, true}) {
+        EXPECT_EQ(month.Layout.text, across ? "&Across" : "&Down");
+        EXPECT_EQ(month.Days.across, across);
+        EXPECT_EQ(month.Days.headings[1].text, across ? "Tuesday" : "Tue");
+        EXPECT_EQ(month.Days.headings[1].tooltip, across ? "" : "Tuesday");
+        for (const Row& row : rows) {
+            desk.Obey("set DisplayedMoment 8415");
+            desk.Obey("focus Monthly.Days");
+            desk.Obey(std::string("press ") + row.key);
+            EXPECT_EQ(DisplayedMoment, 8415 + (across ? row.across : row.down)) << row.key;
+            EXPECT_EQ(desk.desktop.focused, &month.Days) << row.key;
+        }
+        desk.Obey("click Monthly.Layout");
+    }
+}
+
+/// The keys of the year keep the month and the day and drop the time; what else moves the day does not move it here.
+TEST(Monthly, EditsTheYear) {
+    constexpr std::pair<const char*, int> rows[] = {
+        {"Up", 2025},
+        {"Plus", 2025},
+        {"Down", 2023},
+        {"Minus", 2023},
+        {"Up shift", 2034},
+        {"Down ctrl", 1924},
+        {"Up shift ctrl", 3024},
+        {"PageUp", 2034},
+        {"PageDown", 2014},
+        {"PageUp ctrl", 2124},
+        {"PageDown shift ctrl", 1024},
+    };
+    Desk desk;
+    desk.Obey("choose Monthly.Calendars 1");
+    const Moment start = GregorianToFixed(2024, 7, 4) + 0.25;
+    const auto press = [&](const std::string& key) {
+        desk.Obey("set DisplayedMoment " + GeneralText(start));
+        desk.Obey("focus Monthly.ThisYear");
+        desk.Obey("press " + key);
+    };
+    for (const auto& [key, year] : rows) {
+        press(key);
+        EXPECT_EQ(DisplayedMoment, GregorianToFixed(year, 7, 4)) << key;
+    }
+    for (const char* key : {"Space", "Space shift", "Home", "Left", "Backspace", "End"}) {
+        press(key);
+        EXPECT_EQ(DisplayedMoment, start) << key;
+    }
+    TextField& field = desk.program.monthly.ThisYear;
+    field.text = "19";
+    desk.Obey("press Escape");
+    EXPECT_EQ(field.text, "2024");
+    EXPECT_EQ(DisplayedMoment, start);
+    desk.Obey("press Escape");
+    EXPECT_EQ(DisplayedMoment, Today());
+}
+
+/// What a screen reader says of the grid, and where it marks today.
+TEST(Monthly, SpeaksTheDay) {
+    struct Row {
+        const char* calendar;
+        Moment moment;
+        const char* spoken;
+        int today;  // as a cell, -1 for none
+    };
+    Desk desk;
+    const FixedDay today = Today();
+    ASSERT_EQ(FixedToGregorianString(today), "Monday, January 15, 2024");
+    const Row rows[] = {
+        {"1", today + 0.9, "Monday, January 15, 2024, today", 15}, {"1", today + 1, "Tuesday, January 16, 2024", 15},
+        {"1", today + 16.5, "Wednesday, January 31, 2024", 15},    {"1", today - 15, "Sunday, December 31, 2023", -1},
+        {"1", today + 17, "Thursday, February 1, 2024", -1},       {"2", today, "Monday, W3-1, 2024, today", 14},
+        {"5", today + 1, "Se-shanbeh, Dey 26, 1402", 30},
+    };
+    for (const Row& row : rows) {
+        desk.Obey(std::string("choose Monthly.Calendars ") + row.calendar);
+        desk.Obey("set DisplayedMoment " + GeneralText(row.moment));
+        const CellGrid& days = desk.program.monthly.Days;
+        EXPECT_EQ(AccessibleName(days), row.spoken);
+        EXPECT_EQ(days.today ? static_cast<int>(*days.today) : -1, row.today) << row.spoken;
+    }
 }
 
 /// A day that four weeks don't have keeps its weekday; the thirteenth month follows the twelfth.
@@ -121,16 +212,12 @@ TEST(Monthly, BringsTheWindowOfItsCalendar) {
     desk.Obey("close Gregorian");
     desk.Obey("choose Monthly.Calendars 2");
     EXPECT_TRUE(desk.program.gregorian.form.visible);
+    EXPECT_EQ(desk.desktop.focused, &desk.program.monthly.Calendars);
     EXPECT_EQ(desk.program.monthly.ThisYear.colors, desk.program.gregorian.TheISOdate.colors);
     desk.Obey("click Monthly.Layout");
-    EXPECT_EQ(desk.program.monthly.Days.headings[0].text, "Mon");
-    desk.Obey("focus Monthly.Days");
-    const Moment before = DisplayedMoment;
-    desk.Obey("press Left");
-    EXPECT_EQ(DisplayedMoment, before - 1);
     desk.Obey("menu MenuExit");
     Desk again(desk.desktop.settings.flushed);
-    EXPECT_EQ(again.program.monthly.Layout.text, "&Down");
+    EXPECT_EQ(again.program.monthly.Layout.text, "&Across");
     EXPECT_EQ(again.program.monthly.Calendars.selected, 2);
 }
 

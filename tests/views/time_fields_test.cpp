@@ -68,7 +68,7 @@ TEST_F(TimeFieldsTest, TellDaylightSavingTime) {
         desk.Obey(std::string("menu ") + place);
         Show(moment);
         EXPECT_EQ(fields.AdjustDST.tooltip, tooltip) << place << moment;
-        EXPECT_EQ(fields.AdjustDST.colors ? fields.AdjustDST.colors->foreground.Number() : -1, color) << place;
+        EXPECT_EQ(fields.AdjustDST.tint ? fields.AdjustDST.tint->Number() : -1, color) << place;
         EXPECT_EQ(fields.AdjustDST.enabled, std::string(place) != "SetTehran");
     }
     zone_time::options.AdjustDST = Undecided;
