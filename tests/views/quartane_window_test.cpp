@@ -39,8 +39,8 @@ TEST_F(QuartaneWindowTest, ShowsTheDate) {
     EXPECT_EQ(Row(1), "in Year|4|12|53+0=53|371+0=371|");
     EXPECT_EQ(Row(2), "in Quarter||3|14+0=14|98+0=98|");
     EXPECT_EQ(Row(3), "in Month|||5+0=5|35+0=35|");
-    EXPECT_TRUE(desk_.Obey("events").starts_with(
-        R"-("Quartane454" "Sunday, December 35, 2009" "Leap Week (Semaine de la Révolution)")-"));
+    const auto posts = [this](const char* event) { return desk_.Obey("events").find(event) != std::string::npos; };
+    EXPECT_TRUE(posts(R"-("Quartane454" "Sunday, December 35, 2009" "Leap Week (Semaine de la Révolution)")-"));
     EXPECT_TRUE(Shown("LeapCheckbox").ends_with(" checked"));
     desk_.Obey("click Quartane.Qua010");
     EXPECT_EQ(window_.QuartaneDateBox.text, "Sunday, Zovember 7, 2009 ");
@@ -48,7 +48,7 @@ TEST_F(QuartaneWindowTest, ShowsTheDate) {
     Show(1, 2, 16);
     EXPECT_EQ(Row(0), "|Quarter|Month|Week 3|Day|");
     EXPECT_EQ(Row(3), "in Month||||16+15=31|");
-    EXPECT_EQ(desk_.Obey("events"), R"("Quartane010" "Thursday, February 16, 1" "1st Mid-Quarter Day")");
+    EXPECT_TRUE(posts(R"("Quartane010" "Thursday, February 16, 1" "1st Mid-Quarter Day")"));
 }
 
 TEST_F(QuartaneWindowTest, CopiesWhatIsClicked) {
