@@ -1,7 +1,7 @@
 #include "calendars/calendar_contract.h"
 #include "calendars/gregorian.h"
 #include "calendars/julian.h"
-#include "calendars/oriental.h"
+#include "calendars/oriental_text.h"
 #include "calendars/persian.h"
 #include "calendars/quartane.h"
 #include "calendars/roman.h"

@@ -1,5 +1,5 @@
 #include "calendars/gregorian.h"
-#include "calendars/oriental.h"
+#include "calendars/oriental_text.h"
 #include "calendars/persian.h"
 #include "calendars/quartane.h"
 #include "calendars/roman.h"
