@@ -232,7 +232,7 @@ template <bool AllowRevised>
 GridDate WrittenDate(Moment x) {
     const JulianDate date = FixedToJulianDate(x, AllowRevised);
     const std::int32_t year = julian::options.UseAUC ? JulianToAUC(date.year) : date.year;
-    return {year, date.month, date.day, JulianMonthLength(year, date.month, AllowRevised),
+    return {year, date.month, date.day, JulianMonthLength(date.year, date.month, AllowRevised),
             static_cast<std::int16_t>(DayOfWeek(date.fixed - date.day + 1))};
 }
 

@@ -151,7 +151,6 @@ class HorvantaMDI {
       MenuItem SavePreferences{FileMenu, "SavePreferences", "Save &Preferences", "Ctrl+S"};
       MenuItem SaveThisMoment{FileMenu, "SaveThisMoment", "Save This &Moment"};
       MenuItem JumpTo{FileMenu, "JumpTo", "&Jump To..."};
-        MenuItem JumpToDate{JumpTo, "JumpToDate", "&Date...", "Ctrl+G"};
         MenuItem JumpToSaved{JumpTo, "JumpToSaved", "&Saved Moment"};
         MenuItem MenuJumpToToday{JumpTo, "MenuJumpToToday", "&Today (at midnight)"};
         MenuItem MenuJumpToNow{JumpTo, "MenuJumpToNow", "&Now (date and time)"};

@@ -183,6 +183,40 @@ TEST(SunEvents, HaveNoAzimuthWhereTheCentreStaysBelow) {
     EXPECT_EQ(RiseSetAzimuth(solstice, false, true, place), NeverMoment);
 }
 
+/// At midsummer the centre, lifted by 0.57 degrees at the horizon, does not set where its lowest altitude is higher.
+TEST(SunEvents, HaveNoAzimuthWhereTheCentreStaysAbove) {
+    const FixedDay solstice = GregorianToFixed(2024, 6, 20);
+    EXPECT_NE(RiseSetAzimuth(solstice, true, true, PlaceAt(65.98, 0)), NeverMoment);
+    EXPECT_EQ(RiseSetAzimuth(solstice, true, true, PlaceAt(66.0, 0)), NeverMoment);
+}
+
+/// Where the geocentric Sun stands without refraction, by Astronomy Engine 2.1.19 (npm astronomy-engine; Horizon of the
+/// GeoVector, HourAngle): eastern hour angles are positive here.
+TEST(Sun, StandsWhereAnEphemerisPutsIt) {
+    struct Row {
+        double latitude, longitude;
+        Moment universal;  // as a rata die
+        double altitude, hourAngle;
+    };
+    constexpr Row rows[] = {
+        {0, 0, 738965.5, 88.167, 1.827},
+        {51.5, 0, 739058.375, 45.381, 45.475},
+        {51.5, -75, 739058.9583333334, 18.438, -89.497},
+        {-33.9, 151.2, 739241.9166666666, 38.359, 58.427},
+        {31.78, 35.2, 738900.1875, -2.710, 79.581},
+        {69.6, 18.9, 739058.9583333334, 3.067, 176.605},
+        {69.6, 18.9, 739241.4583333334, -3.091, -4.332},
+        {-80, 100, 711978.25, -5.082, -10.716},
+    };
+    for (const Row& row : rows) {
+        const LocaleRecord place = PlaceAt(row.latitude, row.longitude);
+        const Moment universal = row.universal + GregorianEpoch - 1;
+        const Moment apparent = LocalToApparent(UniversalToLocal(universal, place), place);
+        EXPECT_NEAR(SolarAltitude(apparent, place), row.altitude, 0.01) << row.universal;
+        EXPECT_NEAR(SolarHourAngle(apparent), row.hourAngle, 0.01) << row.universal;
+    }
+}
+
 /// Near the days on which the Sun only grazes a depression, guesses can run to and fro without end.
 TEST(SunEvents, AlwaysComeToAnEnd) {
     const LocaleRecord& alert = PresetLocale("CFS Alert");

@@ -171,6 +171,68 @@ TEST_F(Quartane, PlacesTheLeapWeek) {
     EXPECT_EQ(Calendar.ToFixed(2008, 13, 1), QuaNewYear(2009) - 7);  // falls back by a week
 }
 
+/// Days from the Gregorian new year to the moment of the rule's. Those of seasons are by Astronomy Engine 2.1.19 (npm
+/// astronomy-engine; Seasons, SearchSunLongitude), the mean ones by the linear part of the series of the Sun's
+/// longitude; those of years that change evenly are sums over their length in small steps.
+TEST_F(Quartane, NewYearMomentsAreKnownToATenthOfADay) {
+    struct Row {
+        const char* key;
+        std::int32_t year;
+        double days;
+    };
+    constexpr Row rows[] = {
+        {"ISO", 2024, 0},        {"ISO", 3000, 0},        {"ISOalt", 2021, 3},     {"ISOalt", 2025, -2},
+        {"RJISO", 2024, 0},      {"RJISO", 2801, -1},     {"RJISOalt", 2021, 3},   {"RJISOalt", 2801, 0},
+        {"NE80", 2024, 0.63},    {"NE80", 3000, 0.18},    {"MNE80", 2024, 0.16},   {"MNE80", 3000, -0.51},
+        {"NS174", 2024, -0.63},  {"NS174", 3000, -1.85},  {"MNS174", 2024, -2.53}, {"MNS174", 3000, -3.20},
+        {"SE100", 2024, 0.53},   {"SE100", 3000, -0.42},  {"MSE100", 2024, -3.71}, {"MSE100", 3000, -4.38},
+        {"SS10", 2024, 0.39},    {"SS10", 3000, 0.18},    {"MSS10", 2024, -2.40},  {"MSS10", 3000, -3.07},
+        {"BNY", 2024, -0.04},    {"MOY", 2024, -0.04},    {"MOY", -2000, 0.83},    {"RAY", 2024, 0.08},
+        {"RAY", 8000, -3.01},    {"LANEY", -500, 1.00},   {"LANEY", 2024, 0.62},   {"LANEY", 9000, -2.24},
+        {"LANSY", 2024, -0.75},  {"LANSY", 11500, -8.99}, {"LASEY", -4000, -1.55}, {"LASEY", -1000, 0.26},
+        {"LASEY", 2024, 0.46},   {"LASEY", 6000, -3.40},  {"LASSY", -500, -0.70},  {"LASSY", 2024, 0.34},
+        {"LASSY", 10000, -6.04}, {"LABY", 2024, 0.00},    {"LABY", 10500, -7.39},
+    };
+    std::set<std::string> missing;
+    for (const std::string& key : Keys()) {
+        options.LeapRuleKey = key;
+        if (!Rule().IsCycleRule) missing.insert(key);
+    }
+    for (const auto& [key, year, days] : rows) {
+        options.LeapRuleKey = key;
+        missing.erase(key);
+        EXPECT_NEAR(QuaNewYear(year, true) - GregorianToFixed(year, 1, 1), days, 0.05) << key << " " << year;
+    }
+    EXPECT_TRUE(missing.empty()) << *missing.begin();
+}
+
+/// Each option alone: a day of the leap week of 2009, one of early 2009, and one where a cycle of 400 years has its
+/// middle.
+TEST_F(Quartane, EachOptionMovesTheDate) {
+    struct Row {
+        Options chosen;
+        const char *leapWeek, *february, *middle;
+    };
+    const Row rows[] = {
+        {{}, "Thu, Dec 32, 2009", "Mon, Feb 8, 2009", "Thu, Jan 4, 201"},
+        {{.LeapRuleKey = "11/62"}, "Thu, Jan 4, 2010", "Mon, Feb 8, 2009", "Thu, Jan 4, 201"},
+        {{.LeapRuleKey = "71/400"}, "Thu, Dec 32, 2009", "Mon, Feb 8, 2009", "Thu, Dec 32, 200"},
+        {{.LeapRuleKey = "71/400", .EvenCycleFlag = true}, "Thu, Dec 32, 2009", "Mon, Feb 8, 2009", "Thu, Jan 4, 201"},
+        {{.StartWeekday = 4}, "Thu, Dec 29, 2009", "Mon, Feb 5, 2009", "Thu, Jan 1, 201"},
+        {{.QuarterStructure = "LSS"}, "Thu, Dec 32, 2009", "Mon, Feb 1, 2009", "Thu, Jan 4, 201"},
+        {{.QuarterStructure = "SSL"}, "Thu, Zov 4, 2009", "Mon, Feb 8, 2009", "Thu, Jan 4, 201"},
+        {{.Qua454 = false}, "Thu, Zov 4, 2009", "Mon, Feb 6, 2009", "Thu, Jan 4, 201"},
+        {{.UseZov454 = true}, "Thu, Zov 4, 2009", "Mon, Feb 8, 2009", "Thu, Jan 4, 201"},
+        {{.Qua454 = false, .UseZov010 = false}, "Thu, Dec 34, 2009", "Mon, Feb 6, 2009", "Thu, Jan 4, 201"},
+    };
+    for (const Row& row : rows) {
+        options = row.chosen;
+        EXPECT_EQ(FixedToQuaShortDate(GregorianToFixed(2009, 12, 31) + 0.5), row.leapWeek);
+        EXPECT_EQ(FixedToQuaShortDate(GregorianToFixed(2009, 2, 2)), row.february) << row.leapWeek;
+        EXPECT_EQ(FixedToQuaShortDate(GregorianToFixed(201, 1, 1)), row.middle) << row.leapWeek;
+    }
+}
+
 /// The groups of each rule's intervals come to its cycle.
 TEST_F(Quartane, GroupsIntervals) {
     ForEachCycle([](const LeapRule& rule) {

@@ -64,7 +64,7 @@ TEST(EventsWindow, TellsOfClockChanges) {
 
 TEST(EventsWindow, BeepsWhereNothingHappens) {
     Desk desk;
-    for (const char* window : {"LunarWindow", "GregCal"}) desk.Obey(std::string("menu ") + window);
+    for (const char* window : {"Lunar", "Gregorian", "Hebrew"}) desk.Obey(std::string("close ") + window);
     DisplayedMoment = GregorianToFixed(2024, 1, 2);
     UpdateStatus();
     ASSERT_TRUE(desk.program.events.EventsGrid.rows.empty());

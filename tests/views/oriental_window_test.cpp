@@ -95,7 +95,7 @@ TEST_F(OrientalWindowTest, CountsFromTheEraOfTheMenu) {
     EXPECT_TRUE(desk_.program.frame.CE2637.isTicked());
     desk_.Obey("menu CE2698");
     EXPECT_EQ(desk_.program.monthly.ThisYear.text, "4722");
-    desk_.Obey("menu OrientCal");
+    desk_.Obey("close Chinese");
     EXPECT_FALSE(desk_.program.frame.CE2637.isEnabled());
 }
 
