@@ -115,11 +115,14 @@ void TimeAstro::Update() {
     if (time_fields::options.ShowsDawnDusk) fields.ShowDay();
 }
 
-/// A moment in the present numbering; 0 was never set.
+/// A moment in the present numbering; 0 was never set. One that went along to the other scale of time may lie just
+/// outside the range.
 Setting MomentRow(std::string_view key, Moment& moment) {
+    constexpr double margin = 30;  // days; Delta T is less
     return {"Item", std::string(key), "0",
             [&moment](const std::string& text) {
-                return TakeIf(NumberOf(text, MinFixedDay, MaxFixedDay), [&](double x) { moment = x; });
+                return TakeIf(NumberOf(text, MinFixedDay - margin, MaxFixedDay + margin),
+                              [&](double x) { moment = x; });
             },
             [&moment] { return ExactText(moment); }};
 }
