@@ -1,11 +1,13 @@
 #include "qt/face.h"
 
+#include "qt/plain_text.h"
+
 namespace horvanta {
 
 QColor ToQColor(Color color) { return {color.red, color.green, color.blue}; }
 
 void ShowTip(QWidget& widget, const std::string& tooltip) {
-    const QString tip = QString::fromStdString(tooltip);
+    const QString tip = PlainToolTip(tooltip);
     if (widget.toolTip() != tip) widget.setToolTip(tip);
 }
 

@@ -2,6 +2,7 @@
 
 #include "core/moment.h"
 #include "qt/keys.h"
+#include "qt/plain_text.h"
 #include "qt/user_gate.h"
 
 #include <QAction>
@@ -40,7 +41,7 @@ void NoteSize(Form& form, const QSize& size) {
 
 Frame::Frame(HorvantaMDI& shell) : shell_(shell), area_(new QMdiArea(this)) {
     setObjectName(QString::fromStdString(shell_.name));
-    setWindowTitle(QString::fromStdString(shell_.text));
+    setWindowTitle(PlainTitle(shell_.text));
     area_->viewport()->installEventFilter(this);
     setCentralWidget(area_);
     connect(area_, &QMdiArea::subWindowActivated, this, [this](QMdiSubWindow* window) {
@@ -137,7 +138,7 @@ void Frame::DrawMenus() {
 /// A window that is not shown is not drawn; one that comes is drawn first.
 void Frame::DrawChild(Child& child) {
     if (child.form->visible) {
-        child.window->setWindowTitle(QString::fromStdString(child.form->text));
+        child.window->setWindowTitle(PlainTitle(child.form->text));
         child.binder->Draw();
         DrawPlace(child);
     }
