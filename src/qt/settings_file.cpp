@@ -65,6 +65,7 @@ SettingsFile::File& SettingsFile::FileOf(std::string_view application) {
     return files_.emplace(application, Load(PathOf(application).toStdString())).first->second;
 }
 
+/// A mark within the file is a damaged line, or an earlier version's: what clears all settings has to be sure.
 std::optional<std::string> SettingsFile::Read(std::string_view application, std::string_view section,
                                               std::string_view key) {
     const File& file = FileOf(application);
@@ -72,7 +73,8 @@ std::optional<std::string> SettingsFile::Read(std::string_view application, std:
     const auto keys = file.values.find(section);
     if (keys == file.values.end()) return std::nullopt;
     const auto found = keys->second.find(key);
-    return found == keys->second.end() ? std::nullopt : std::optional(found->second);
+    if (found == keys->second.end() || (isMark(section, key) && found->second.empty())) return std::nullopt;
+    return found->second;
 }
 
 void SettingsFile::Write(std::string_view application, std::string_view section, std::string_view key,

@@ -24,7 +24,7 @@ namespace {
 using std::chrono::milliseconds;
 using std::chrono::steady_clock;
 
-constexpr milliseconds patience{2000};  // for the first start to answer, or to end
+constexpr milliseconds patience{1900};  // for the first start to answer, or to end
 constexpr milliseconds pause{20};       // between two tries
 constexpr const char* lockName = "Horvanta.lock";
 constexpr const char* socketName = "Horvanta.socket";

@@ -18,7 +18,7 @@ class SingleInstance {
     enum class Outcome {
         First,     ///< None other runs.
         Answered,  ///< Another runs and comes forward.
-        Silent,    ///< Another runs, but gave no answer in two seconds.
+        Silent,    ///< Another runs, but gave no answer within two seconds.
     };
 
     SingleInstance();

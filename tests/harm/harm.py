@@ -372,8 +372,8 @@ def disk(kind):
 
 def full_disks():
     for kind in ("tmpfs", "ext4"):
-        if not IS_ROOT:
-            print(f"full disks of {kind}: left out without root")
+        if not IS_ROOT or (kind == "ext4" and not shutil.which("mkfs.ext4")):
+            print(f"full disks of {kind}: left out without root and the means to make one")
             continue
         with disk(kind) as point:
             if not point:

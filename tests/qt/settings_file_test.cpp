@@ -168,6 +168,11 @@ class SettingsFileTest final : public QObject {
         QCOMPARE(SettingsFile().Read(ProgramSettings, "Prog", "Launch").value_or("none"), "OK");
     }
 
+    void aDamagedLineIsNoMarkOfAStart() {
+        Put(Path(), "Prog/Launch=\n");
+        QCOMPARE(SettingsFile().Read(ProgramSettings, "Prog", "Launch").value_or("none"), "none");
+    }
+
     /// And a start that fails again does not put next to nothing in the place of what was kept.
     void whatIsClearedIsKept() {
         Put(Path(), someSettings);
