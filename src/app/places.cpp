@@ -7,40 +7,69 @@
 #include "locale/presets.h"
 
 #include <algorithm>
-#include <cctype>
+#include <array>
 #include <iterator>
 #include <span>
 #include <type_traits>
+#include <vector>
 
 namespace horvanta {
 namespace {
 
-/// Marks one letter as the access key of a caption, preferably the first of a word, that none of those taken is.
-void GiveAccessKey(MenuItem& item, std::string& taken) {
-    const std::string& caption = item.caption;
-    for (const bool mayBeInWord : {false, true}) {
-        for (std::size_t i = 0; i < caption.size(); ++i) {
-            const char letter = static_cast<char>(std::tolower(static_cast<unsigned char>(caption[i])));
-            const bool isStart = i == 0 || caption[i - 1] == ' ';
-            if (letter < 'a' || letter > 'z' || !(isStart || mayBeInWord) || taken.find(letter) != std::string::npos)
-                continue;
-            taken += letter;
-            item.caption.insert(i, "&");
-            return;
+/// Chooses an access key for each item of a menu, no two alike: first letters of words as far as they go.
+class AccessKeys {
+  public:
+    explicit AccessKeys(const std::vector<MenuItem*>& items) : items_(items) {
+        for (const bool withinWords : {false, true}) {
+            for (MenuItem* item : items_) {
+                std::vector<bool> tried(letters);
+                if (!hasKey(item)) Choose(item, withinWords, tried);
+            }
         }
     }
-}
 
-/// Puts the places of the menu in the order of their names, each with an access key of its own.
-void SortPlaces(MenuItem& menu, std::span<MenuItem> places) {
-    const auto isPlace = [&](const MenuItem* item) { return item >= &places.front() && item <= &places.back(); };
-    std::ranges::stable_sort(menu.items, [&](const MenuItem* a, const MenuItem* b) {
-        return isPlace(a) && isPlace(b) ? a->caption < b->caption : isPlace(b) && !isPlace(a);
-    });
-    std::string taken = "u";  // of the menu's own item
-    for (MenuItem* item : menu.items) {
-        if (isPlace(item)) GiveAccessKey(*item, taken);
+    void Mark() const {
+        for (const auto& [item, at] : owners_) {
+            if (item) item->caption.insert(at, "&");
+        }
     }
+
+  private:
+    static constexpr std::size_t letters = 26;
+    struct Owner {
+        MenuItem* item = nullptr;
+        std::size_t at = 0;  ///< Of the letter in the caption.
+    };
+
+    bool hasKey(const MenuItem* item) const { return std::ranges::find(owners_, item, &Owner::item) != owners_.end(); }
+
+    /// Gives an item one of its letters, if need be one whose owner finds another.
+    bool Choose(MenuItem* item, bool withinWords, std::vector<bool>& tried) {
+        const std::string& caption = item->caption;
+        for (std::size_t i = 0; i < caption.size(); ++i) {
+            const auto letter = static_cast<std::size_t>((caption[i] | 0x20) - 'a');
+            const bool isStart = i == 0 || caption[i - 1] == ' ';
+            if (letter >= letters || tried[letter] || !(isStart || withinWords)) continue;
+            tried[letter] = true;
+            Owner& owner = owners_[letter];
+            if (owner.item && !Choose(owner.item, withinWords, tried)) continue;
+            owner = {item, i};
+            return true;
+        }
+        return false;
+    }
+
+    std::vector<MenuItem*> items_;
+    std::array<Owner, letters> owners_{};
+};
+
+/// Puts the places of the menu in the order of their names, below the user's own.
+void SortPlaces(MenuItem& menu, std::span<MenuItem> places) {
+    const auto first = std::ranges::find(menu.items, &places.front());
+    std::ranges::sort(first, first + static_cast<std::ptrdiff_t>(places.size()), {}, &MenuItem::caption);
+    std::vector<MenuItem*> items(first, menu.items.end());
+    items.push_back(menu.items.front());
+    AccessKeys(items).Mark();
 }
 
 }  // namespace

@@ -170,7 +170,7 @@ class HorvantaMDI {
       MenuItem Forward{UndoMenu, "Forward", "&Forward", "Alt+Right"};
 
     MenuItem LocaleMenu{menuBar, "LocaleMenu", "&Locale"};
-      MenuItem UDLs{LocaleMenu, "UDLs", "&User-Defined Locales..."};
+      MenuItem UDLs{LocaleMenu, "UDLs", "User-Defined Locales..."};
         MenuArray<30> UserLoc{UDLs, "UserLoc", {}};  // the captions are those of the places
       MenuItem LocaleSep{LocaleMenu, "LocaleSep", "-"};
       MenuItem Presets[25] = {

@@ -125,7 +125,8 @@ bool Binder::AskForKey(const Control* control, const QKeyEvent& event) {
     const auto [code, shift] = KeyPressOf(event);
     if (code == 0 || !(controlAsked || formAsked)) return false;
     if (event.isAutoRepeat() && acts_.isPaintPending()) return true;
-    const bool isWriting = dynamic_cast<const TextField*>(control) && isWritingKey(code);
+    const bool isOwnSpace = controlAsked && code == KeySpace;  // in a field that has a use of its own for it
+    const bool isWriting = dynamic_cast<const TextField*>(control) && (isWritingKey(code) || isOwnSpace);
     bool used = false;
     KeyHeld = event.isAutoRepeat();
     acts_.Run(

@@ -153,6 +153,11 @@ struct TextFieldFace final : FaceOf<TextField, QLineEdit> {
         acts.Run([this] { shown.Leave(); }, {.whileBusy = shown.whileBusy, .editing = true});
     }
 
+    /// A text that was taken is as untouched as one that the program wrote.
+    void DrawKind() override {
+        if (!shown.isEdited()) by.setModified(false);
+    }
+
     Roles ColorRoles() const override { return {QPalette::Base, QPalette::Text}; }
 };
 

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <compare>
 #include <cstddef>
+#include <numeric>
 #include <set>
 
 namespace horvanta {
@@ -14,18 +15,21 @@ constexpr int gap = 1;  // pixels between windows
 struct Cost {
     int handlesHidden = 0;    ///< As the windows lie above one another at first.
     int partsHidden = 0;      ///< The same of other parts that have to be seen.
+    qint64 outside = 0;       ///< Square pixels beyond the frame: no raising brings them back.
     int handlesHideable = 0;  ///< If another window came to the top.
     int partsHideable = 0;
-    qint64 covered = 0;  ///< Square pixels of windows under others and outside the frame.
+    qint64 covered = 0;  ///< Square pixels of windows under others.
 
     auto operator<=>(const Cost&) const = default;
     bool isNone() const { return *this == Cost(); }
+    bool hidesNothingNeeded() const { return handlesHidden == 0 && partsHidden == 0 && outside == 0; }
 
     Cost& operator+=(const Cost& other) {
         handlesHidden += other.handlesHidden;
         partsHidden += other.partsHidden;
         handlesHideable += other.handlesHideable;
         partsHideable += other.partsHideable;
+        outside += other.outside;
         covered += other.covered;
         return *this;
     }
@@ -53,7 +57,7 @@ void AddOutside(Cost& cost, const Placed& window, const QRect& room) {
         if (room.contains(window.pane->needed[i].translated(window.rect.topLeft()))) continue;
         ++(i == 0 ? cost.handlesHidden : cost.partsHidden);
     }
-    cost.covered += AreaOf(window.rect) - AreaOf(window.rect & room);
+    cost.outside += AreaOf(window.rect) - AreaOf(window.rect & room);
 }
 
 Cost CostOf(const Placed& window, const std::vector<Placed>& others, const QRect& room) {
@@ -131,23 +135,33 @@ class Layout {
     std::vector<QPoint> places_;
 };
 
-/// The windows in their order, and by their height and width: large ones find room more easily while there is some.
-std::vector<std::vector<std::size_t>> OrdersOf(const std::vector<Pane>& panes) {
-    std::vector<std::size_t> order(panes.size());
-    for (std::size_t i = 0; i < order.size(); ++i) order[i] = i;
-    std::vector<std::vector<std::size_t>> orders(3, order);
-    const auto size = [&](std::size_t i) { return panes[i].wish.size(); };
-    std::ranges::stable_sort(orders[1], [&](auto a, auto b) { return size(a).height() > size(b).height(); });
-    std::ranges::stable_sort(orders[2], [&](auto a, auto b) { return size(a).width() > size(b).width(); });
+using Order = std::vector<std::size_t>;
+
+/// The windows in their order, and by their height and width: large ones find room more easily while there is some. The
+/// first comes first in the first three of them, and so keeps its place.
+std::vector<Order> OrdersOf(const std::vector<Pane>& panes) {
+    const auto isHigher = [&](auto a, auto b) { return panes[a].wish.height() > panes[b].wish.height(); };
+    const auto isWider = [&](auto a, auto b) { return panes[a].wish.width() > panes[b].wish.width(); };
+    Order order(panes.size());
+    std::iota(order.begin(), order.end(), std::size_t{0});
+    std::vector<Order> orders(5, order);
+    std::stable_sort(orders[1].begin() + 1, orders[1].end(), isHigher);
+    std::stable_sort(orders[2].begin() + 1, orders[2].end(), isWider);
+    std::stable_sort(orders[3].begin(), orders[3].end(), isHigher);
+    std::stable_sort(orders[4].begin(), orders[4].end(), isWider);
     return orders;
 }
 
 }  // namespace
 
 std::vector<QPoint> LayOut(const QSize& room, const std::vector<Pane>& panes) {
+    constexpr int keepingFirst = 3;  // orders
     std::vector<QPoint> places;
+    if (panes.empty()) return places;
     Cost best;
-    for (const auto& order : OrdersOf(panes)) {
+    int tried = 0;
+    for (const Order& order : OrdersOf(panes)) {
+        if (tried++ >= keepingFirst && best.hidesNothingNeeded()) break;
         Layout layout(room, panes);
         layout.Place(order);
         if (places.empty() || layout.cost() < best) {

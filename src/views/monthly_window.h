@@ -51,7 +51,7 @@ class MonthlyWindow {
 
     // clang-format off
     Form form{"Monthly", "Month"};
-    TextField ThisYear{form, "ThisYear", Tip("Change using  +/-  or up/down arrow  keys, Shift x10, Ctrl x100, both x1000"), Widest("-10000")};
+    TextField ThisYear{form, "ThisYear", Tip("Change using  +/-  or up/down arrow  keys, Shift x10, Ctrl x100, both x1000"), Widest("-10000"), Named("Year")};
     UpDown ChangeByYear{form, "ChangeByYear", Tip("Click to change Year (+Shift=by Decades, +Ctrl=by Centuries, +Ctrl+Shift=by Millennia)")};
     ChoiceList MonthNames{form, "MonthNames", Tip("Choose the desired month")};
     ChoiceList Calendars{form, "Calendars", Tip("Choose the desired calendar")};

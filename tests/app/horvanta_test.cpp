@@ -37,6 +37,7 @@ TEST(Start, FindsWhatTheLastRunSaved) {
         Desk desk;
         desk.Obey("menu AlwaysToday");
         desk.Obey("menu StepMenu 2");
+        desk.Obey("answer text Text Colour...");
         desk.Obey("answer color 255");
         desk.Obey("rightclick TimeAstro.TimeOfDay");
         desk.Obey("type TimeAstro.FixedDayNum 1000.123456789");
@@ -108,6 +109,7 @@ TEST(End, HasFourWays) {
     };
     for (const auto& [item, moment, foreground] : rows) {
         Desk desk;
+        desk.Obey("answer text Text Colour...");
         desk.Obey("answer color 255");
         desk.Obey("rightclick TimeAstro.TimeOfDay");
         desk.Obey("press Plus");

@@ -148,5 +148,18 @@ TEST(NameText, CanStandAnywhere) {
     EXPECT_EQ(Elided("ירושלים", 4), "ירו…");
 }
 
+TEST(Text, JoinsTheLinesOfAParagraph) {
+    const std::string broken = "A line that was broken by hand for a narrow window,";
+    const std::string rows[][2] = {
+        {broken + "\nand its rest.\nAnother.", broken + " and its rest.\nAnother."},
+        {broken + "\n\nA paragraph.", broken + "\n\nA paragraph."},
+        {"Saturday = Shanbeh\nSunday = Yek-shanbeh\n", "Saturday = Shanbeh\nSunday = Yek-shanbeh\n"},
+        {broken + "\n" + broken + "\nend.", broken + " " + broken + " end."},
+        {"", ""},
+        {"\n\n", "\n\n"},
+    };
+    for (const auto& [text, unwrapped] : rows) EXPECT_EQ(Unwrapped(text), unwrapped);
+}
+
 }  // namespace
 }  // namespace horvanta

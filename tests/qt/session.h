@@ -57,7 +57,9 @@ struct Session {
 
     template <class Widget>
     Widget* Find(const char* name) {
-        return frame().findChild<Widget*>(QString::fromLatin1(name));
+        const QString object = QString::fromLatin1(name);
+        auto* ofTime = Window(program.timeAstro.form)->findChild<Widget*>(object);  // names are those of one window
+        return ofTime ? ofTime : frame().findChild<Widget*>(object);
     }
 
     QMdiSubWindow* Window(const horvanta::Form& form) {

@@ -100,8 +100,8 @@ TEST_F(GregorianWindowTest, OffersItsInformationForCopying) {
 TEST_F(GregorianWindowTest, IsColouredFromItsMainDate) {
     desk_.Obey("answer color 65280");  // green
     desk_.Obey("dblclick Gregorian.GregorianDate");
-    desk_.Obey("rightclick Gregorian.GregorianDate");  // cancelled
-    EXPECT_EQ(desk_.Obey("asked"), "color 12642289 65280; color 0 cancel");
+    desk_.Obey("dblclick Gregorian.GregorianDate");  // cancelled
+    EXPECT_EQ(desk_.Obey("asked"), "color 12642289 65280; color 65280 cancel");
     const ColorPair green{{0, 255, 0}, {0, 0, 0}};
     EXPECT_EQ(window_.GregorianDate.colors, green);
     EXPECT_EQ(window_.GregCycleInfo.colors, green);

@@ -103,7 +103,7 @@ TEST_F(QuartaneWindowTest, IsReachedByJumps) {
 }
 
 TEST_F(QuartaneWindowTest, TakesItsMenuItemsAlong) {
-    desk_.Obey("menu QuaCal");
+    desk_.Obey("close Quartane");
     for (const char* item : {"PrevMenu 16", "NextMenu 17", "NextMenu 18", "MidNonLeapLeap", "QuaLeapUseZov"}) {
         EXPECT_EQ(desk_.Obey(std::string("menu ") + item), std::string("error: not enabled: ") + item);
     }
@@ -113,7 +113,7 @@ TEST_F(QuartaneWindowTest, TakesItsMenuItemsAlong) {
 }
 
 TEST_F(QuartaneWindowTest, IsAlwaysOpenAtStart) {
-    desk_.Obey("menu QuaCal");
+    desk_.Obey("close Quartane");
     EXPECT_FALSE(window_.form.visible);
     desk_.Obey("menu SavePreferences");
     const Desk next(desk_.desktop.settings.values);

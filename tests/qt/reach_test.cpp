@@ -1,0 +1,285 @@
+#include "core/text.h"
+#include "qt/information_box.h"
+#include "qt/window_layout.h"
+#include "session.h"
+
+#include <QAction>
+#include <QClipboard>
+#include <QContextMenuEvent>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMdiArea>
+#include <QMenu>
+#include <QPlainTextEdit>
+
+#include <algorithm>
+#include <map>
+#include <random>
+
+using namespace horvanta;
+
+namespace {
+
+/// What has to be seen of a window, in its own coordinates: its title bar and its main dates.
+QRegion Needed(const QMdiSubWindow& window) {
+    QRegion needed(0, 0, window.width(), window.widget()->y());
+    for (const auto* widget : window.findChildren<QWidget*>()) {
+        if (!widget->property("main").toBool() || !widget->isVisible()) continue;
+        needed += QRect(widget->mapTo(&window, QPoint()), widget->size());
+    }
+    return needed;
+}
+
+QRegion Seen(const QMdiSubWindow& window, const QMdiArea& area) {
+    QRegion seen = area.viewport()->rect();
+    const auto stack = area.subWindowList(QMdiArea::StackingOrder);
+    for (qsizetype i = stack.indexOf(&window) + 1; i < stack.size(); ++i) {
+        if (stack[i]->isVisible()) seen -= stack[i]->geometry();
+    }
+    return seen.translated(-window.pos());
+}
+
+void TakeContextMenu(const QString& caption) {
+    auto* timer = new QTimer(qApp);
+    QObject::connect(timer, &QTimer::timeout, timer, [timer, caption] {
+        auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+        if (!menu) return;
+        timer->deleteLater();
+        timer->stop();
+        for (QAction* action : menu->actions()) {
+            if (action->text().remove(u'&') != caption) continue;
+            menu->setActiveAction(action);
+            QTest::keyClick(menu, Qt::Key_Return);
+            return;
+        }
+        menu->close();
+    });
+    timer->start(1);
+}
+
+}  // namespace
+
+class ReachTest final : public QObject {
+    Q_OBJECT
+
+  private Q_SLOTS:
+    void init() {
+        settings_.emplace();
+        QGuiApplication::clipboard()->clear();
+    }
+
+    void theFirstStartHidesNoTitleAndNoMainDate_data() {
+        QTest::addColumn<QSize>("size");
+        QTest::addColumn<double>("fontScale");
+        QTest::newRow("small") << QSize(1366, 740) << 1.0;
+        QTest::newRow("medium") << QSize(1400, 870) << 1.0;
+        QTest::newRow("large") << QSize(1920, 1050) << 1.0;
+        QTest::newRow("large font") << QSize(1400, 870) << 1.5;
+    }
+
+    void theFirstStartHidesNoTitleAndNoMainDate() {
+        QFETCH(QSize, size);
+        QFETCH(double, fontScale);
+        const QFont standard = QApplication::font();
+        QFont scaled = standard;
+        scaled.setPointSizeF(standard.pointSizeF() * fontScale);
+        QApplication::setFont(scaled);
+        Session session;
+        session.frame().resize(size);
+        session.frame().Draw();
+        const auto& area = *session.frame().findChild<QMdiArea*>();
+        for (const Form* form : session.program.Forms()) {
+            const QMdiSubWindow& window = *session.Window(*form);
+            if (!form->visible) continue;
+            QVERIFY2((Needed(window) - Seen(window, area)).isEmpty(), form->name.c_str());
+        }
+        QApplication::setFont(standard);
+    }
+
+    void anItemRaisesACoveredWindow() {
+        Session session;
+        const QMdiSubWindow* gregorian = session.Window(session.program.gregorian.form);
+        QMdiSubWindow* time = session.Window(session.program.timeAstro.form);
+        time->move(gregorian->pos());
+        const auto choose = [&] { Trigger(session, "Gregorian and ISO Date"); };
+        choose();
+        QVERIFY(gregorian->isVisible());
+        const auto& area = *session.frame().findChild<QMdiArea*>();
+        QCOMPARE(area.subWindowList(QMdiArea::StackingOrder).last(), gregorian);
+        QCOMPARE(area.currentSubWindow(), gregorian);
+        choose();
+        QVERIFY(!gregorian->isVisible());
+        choose();
+        QVERIFY(gregorian->isVisible());
+    }
+
+    void arrangingLeavesNothingCovered() {
+        Session session;
+        for (Form* form : session.program.Forms()) session.Window(*form)->move(40, 40);
+        Trigger(session, "Arrange");
+        QRegion together;
+        for (const Form* form : session.program.Forms()) {
+            const QRect place = session.Window(*form)->geometry();
+            if (!form->visible) continue;
+            QVERIFY2(!together.intersects(place), form->name.c_str());
+            together += place;
+        }
+        QVERIFY(session.frame().findChild<QMdiArea*>()->viewport()->rect().contains(together.boundingRect()));
+    }
+
+    /// Windows that had to give way come back when the frame grows again; what is kept is where they stood.
+    void aSmallFrameKeepsEveryTitleInReach() {
+        Session session;
+        const auto& area = *session.frame().findChild<QMdiArea*>();
+        QMdiSubWindow* month = session.Window(session.program.monthly.form);
+        month->move(900, 600);
+        const QPoint before = month->pos();
+        session.frame().resize(700, 480);
+        for (const Form* form : session.program.Forms()) {
+            const QMdiSubWindow& window = *session.Window(*form);
+            if (!form->visible) continue;
+            const QRegion title = Seen(window, area) & QRect(0, 0, window.width(), window.widget()->y());
+            QVERIFY2(title.boundingRect().width() >= 60, form->name.c_str());
+        }
+        session.program.SavePreferences_Click();
+        QVERIFY(SettingsFolder::Read().contains("Left=" + QByteArray::number(month->x() * 15)));
+        session.frame().resize(1400, 900);
+        QCOMPARE(month->pos(), before);
+    }
+
+    void typingIsTakenByACommandAndGivenUpByEscape() {
+        Session session;
+        auto* number = session.Find<QLineEdit>("FixedDayNum");
+        QTest::keyClicks(number, QStringLiteral("1000"));
+        session.Press(Qt::Key_Up);
+        QCOMPARE(number->text(), QStringLiteral("1001"));
+        QTest::keyClicks(number, QStringLiteral("500"));
+        Trigger(session, "Save This Moment");
+        QCOMPARE(SavedMoment, 500.0);
+        QTest::keyClicks(number, QStringLiteral("7-abc"));
+        QCOMPARE(number->text(), QStringLiteral("7-abc"));
+        session.Press(Qt::Key_Escape);
+        QCOMPARE(number->text(), QStringLiteral("500"));
+        QCOMPARE(DisplayedMoment, 500.0);
+        session.Press(Qt::Key_Escape);
+        QCOMPARE(DisplayedMoment, Today());
+    }
+
+    /// Until the user acts again.
+    void theStatusBarTellsWhy() {
+        Session session;
+        const auto* status = session.Find<QLabel>("status");
+        DisplayedMoment = MaxFixedDay;
+        session.Press(Qt::Key_PageUp);
+        QCOMPARE(status->text(), QStringLiteral("the range ends at year 12000"));
+        QCOMPARE(status->accessibleName(), status->text());
+        session.Press(Qt::Key_PageDown);
+        QCOMPARE(status->text(), QString());
+    }
+
+    void informationIsReadInAWindow() {
+        Session session;
+        QString shown;
+        for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Escape}) {
+            DealWithNext<InformationBox>([&](InformationBox& box) {
+                shown = box.findChild<QPlainTextEdit*>()->toPlainText();
+                QTest::keyClick(box.findChild<QPlainTextEdit*>(), key);
+            });
+            session.program.gregorian.isoInfo_Click();
+            QVERIFY(shown.contains(QStringLiteral("calendar has no months.")));
+            QVERIFY(QGuiApplication::clipboard()->text().isEmpty());
+        }
+        DealWithNext<InformationBox>([](InformationBox& box) {
+            const auto buttons = box.findChildren<QPushButton*>();
+            QCOMPARE(buttons.size(), 2);
+            for (QPushButton* button : buttons) {
+                if (button->text() == QStringLiteral("&Copy")) button->click();
+            }
+        });
+        session.program.gregorian.isoInfo_Click();
+        QVERIFY(QGuiApplication::clipboard()->text().contains(QStringLiteral("has no\nmonths.")));
+    }
+
+    void theMenuKeyReachesEveryValue() {
+        Session session;
+        session.Find<QPushButton>("isoInfo")->setFocus();
+        const QString iso = session.Find<QLabel>("TheISOdate")->text();
+        TakeContextMenu(QStringLiteral("Copy ISO date (International Organization for Standard…: ") + iso.trimmed());
+        QContextMenuEvent asked(QContextMenuEvent::Keyboard, QPoint(), QPoint());
+        QApplication::sendEvent(QApplication::focusWidget(), &asked);
+        QCOMPARE(QGuiApplication::clipboard()->text(), iso);
+        TakeContextMenu(QStringLiteral("Copy"));
+        auto* date = session.Find<QLabel>("GregorianDate");
+        QContextMenuEvent clicked(QContextMenuEvent::Mouse, QPoint(5, 5), date->mapToGlobal(QPoint(5, 5)));
+        QApplication::sendEvent(date, &clicked);
+        QCOMPARE(QGuiApplication::clipboard()->text(), date->text());
+    }
+
+    void anArrowPressRenamesWhatChangedAndNothingElse() {
+        Session session;
+        session.Press(Qt::Key_Up);
+        struct Shown {
+            QString text;
+            QString tip;
+            QString name;
+        };
+        std::map<const QLabel*, Shown> before;
+        const auto labels = session.frame().findChildren<QLabel*>();
+        for (const QLabel* label : labels) before[label] = {label->text(), label->toolTip(), label->accessibleName()};
+        session.Press(Qt::Key_Up);
+        int changed = 0;
+        for (const QLabel* label : labels) {
+            const auto& [text, tip, name] = before[label];
+            const bool isChanged = label->text() != text || label->toolTip() != tip;
+            changed += isChanged;
+            QVERIFY2((label->accessibleName() != name) == isChanged, qPrintable(label->accessibleName()));
+        }
+        QVERIFY(changed > 5);
+    }
+
+    /// Windows that fit stand apart and within; those that don't leave each other's handles free.
+    void layoutsKeepWindowsInReach() {
+        std::mt19937 random(5784);
+        const auto between = [&](int least, int greatest) {
+            return least + static_cast<int>(random() % static_cast<unsigned>(greatest - least + 1));
+        };
+        for (int trial = 0; trial < 200; ++trial) {
+            const QSize room(between(1000, 2000), between(700, 1200));
+            std::vector<Pane> panes;
+            qint64 area = 0;
+            for (int i = between(1, 10); i > 0; --i) {
+                const QRect wish(between(-200, 2000), between(0, 1200), between(200, 550), between(150, 380));
+                const QRect title(0, 0, wish.width(), 25);
+                panes.push_back({wish, {QRect(0, 0, 100, 25), title}, false});
+                area += qint64(wish.width()) * wish.height();
+            }
+            const auto places = LayOut(room, panes);
+            QCOMPARE(places.size(), panes.size());
+            const bool ample = area * 5 < qint64(room.width()) * room.height();
+            for (std::size_t i = 0; i < panes.size(); ++i) {
+                const QRect rect(places[i], panes[i].wish.size());
+                const QRect handle = panes[i].needed[0].translated(places[i]);
+                QVERIFY(QRect(QPoint(), room).contains(handle));
+                for (std::size_t j = 0; j < panes.size(); ++j) {
+                    const bool isAbove = j != i && (j == 0 || (i != 0 && j > i));
+                    const QRect other(places[j], panes[j].wish.size());
+                    if (isAbove && other.intersects(handle)) qWarning() << trial << room << panes.size() << i << j;
+                    QVERIFY(!ample || i == j || !other.intersects(rect));
+                }
+            }
+        }
+    }
+
+  private:
+    static void Trigger(Session& session, const char* caption) {
+        for (QAction* action : session.frame().findChildren<QAction*>()) {
+            if (action->text().remove(u'&') == QString::fromLatin1(caption)) return action->trigger();
+        }
+        QFAIL(caption);
+    }
+
+    std::optional<SettingsFolder> settings_;
+};
+
+QTEST_MAIN(ReachTest)
+#include "reach_test.moc"
