@@ -8,7 +8,6 @@
 #include <QPainter>
 
 #include <algorithm>
-
 #include <utility>
 
 namespace horvanta {

@@ -4,6 +4,7 @@
 #include <compare>
 #include <cstddef>
 #include <numeric>
+#include <random>
 #include <set>
 
 namespace horvanta {
@@ -135,10 +136,13 @@ class Layout {
     std::vector<QPoint> places_;
 };
 
+constexpr int chanceOrders = 100;
+
 using Order = std::vector<std::size_t>;
 
-/// The windows in their order, and by their height and width: large ones find room more easily while there is some. The
-/// first comes first in the first three of them, and so keeps its place.
+/// The windows in their order, and by their height and width: large ones find room more easily while there is some.
+/// Then chance orders, the same at every start. The first comes first in all but the fourth and fifth, and so keeps its
+/// place.
 std::vector<Order> OrdersOf(const std::vector<Pane>& panes) {
     const auto isHigher = [&](auto a, auto b) { return panes[a].wish.height() > panes[b].wish.height(); };
     const auto isWider = [&](auto a, auto b) { return panes[a].wish.width() > panes[b].wish.width(); };
@@ -149,6 +153,11 @@ std::vector<Order> OrdersOf(const std::vector<Pane>& panes) {
     std::stable_sort(orders[2].begin() + 1, orders[2].end(), isWider);
     std::stable_sort(orders[3].begin(), orders[3].end(), isHigher);
     std::stable_sort(orders[4].begin(), orders[4].end(), isWider);
+    std::mt19937 chance;
+    for (int i = 0; i < chanceOrders; ++i) {
+        std::shuffle(order.begin() + 1, order.end(), chance);
+        orders.push_back(order);
+    }
     return orders;
 }
 

@@ -165,7 +165,7 @@ class ControlsTest final : public QObject {
         QTest::mouseClick(panels[4], Qt::LeftButton);
         QCOMPARE(QApplication::clipboard()->text(), QStringLiteral("Sunrise: ") + panels[4]->text());
         QTest::mouseClick(legends[3], Qt::LeftButton);
-        QCOMPARE(QApplication::clipboard()->text(), QStringLiteral("Sunrise: ") + panels[4]->text());
+        QCOMPARE(QApplication::clipboard()->text(), legends[3]->text() + QStringLiteral(": ") + panels[3]->text());
     }
 
   private:

@@ -107,9 +107,9 @@ class KeysTest final : public QObject {
         for (const auto* action : session.frame().menuBar()->findChildren<QAction*>()) {
             if (!action->shortcut().isEmpty()) QVERIFY(taken.insert(action->shortcut()).second);
         }
-        QVERIFY(!settings_->Read().contains("[TimeAstro]"));
+        QVERIFY(!settings_->Read().contains("TimeAstro/Top="));
         session.Press(Qt::Key_S, Qt::ControlModifier);
-        QVERIFY(settings_->Read().contains("[TimeAstro]"));
+        QVERIFY(settings_->Read().contains("TimeAstro/Top="));
     }
 
     void repeatsOfAHeldKeyWaitForThePaint() {

@@ -66,6 +66,14 @@ struct Session {
         return frame().findChild<QMdiSubWindow*>(QString::fromStdString(form.name));
     }
 
+    /// Closes windows that a small frame, or one with a large font, has no room for beside the others.
+    void CloseSome() {
+        for (const horvanta::Form* form : {&program.lunar.form, &program.hebrew.form, &program.events.form}) {
+            Window(*form)->close();
+        }
+        frame().Draw();
+    }
+
     /// A box that was closed leaves no window active for a while, and a window manager that has just been started
     /// forgets what it is asked.
     void AwaitActive() {
