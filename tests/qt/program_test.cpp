@@ -41,14 +41,6 @@ class ProgramTest final : public QObject {
         QVERIFY2(address.endsWith(QStringLiteral("&zoom=9&q=Times%20Square")), qPrintable(address));
     }
 
-    void informationIsCopiedOnYes() {
-        Session session;
-        AnswerNextBox(QMessageBox::Yes);
-        QTest::mouseClick(session.Find<QPushButton>("isoInfo"), Qt::LeftButton);
-        QVERIFY(QApplication::clipboard()->text().startsWith(QStringLiteral("The International Organization")));
-        QCOMPARE(session.frame().focusWidget(), session.Find<QLineEdit>("FixedDayNum"));
-    }
-
     void theProgramStartsOnAnySettingsFile_data() {
         QTest::addColumn<QByteArray>("bytes");
         QTest::newRow("empty") << QByteArray();
