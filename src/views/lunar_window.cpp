@@ -109,14 +109,13 @@ void LunarWindow::HangHandlers() {
 }
 
 Settings LunarWindow::StoredRows() {
-    return {
-        {"YLC", "YP", "",
-         [](const std::string& path) {
-             path.empty() ? RevertToFixedYermCycle() : void(OpenYermEraList(path));
-             return true;
-         },
-         [] { return PresentYermForm().EraFilePath; }, UserSettings},
-    };
+    return {{"YLC", "YP", "",
+             [this](const std::string& path) {
+                 storedList_ = path;
+                 path.empty() ? RevertToFixedYermCycle() : void(OpenYermEraList(path));
+                 return true;
+             },
+             [this] { return storedList_; }, UserSettings}};
 }
 
 void LunarWindow::Update() {
@@ -162,7 +161,8 @@ void LunarWindow::InfoYLC_Click() {
 void LunarWindow::OpenYermEraList_Click() {
     const auto path = CurrentDesktop->ChooseFile("Open Yerm Era List");
     if (!path) return;
-    if (!OpenYermEraList(*path)) {
+    storedList_ = OpenYermEraList(*path) ? *path : "";
+    if (storedList_.empty()) {
         CurrentDesktop->Tell("There is no list of eras in\n" + *path + "\n\nThe fixed 52-yerm cycle is in use.",
                              "Open Yerm Era List");
     }
@@ -170,6 +170,7 @@ void LunarWindow::OpenYermEraList_Click() {
 }
 
 void LunarWindow::RevertYerm52_Click() {
+    storedList_.clear();
     RevertToFixedYermCycle();
     UpdateStatus();
 }

@@ -64,6 +64,7 @@ class LunarWindow {
     void ShowNumbers(Moment universal);
 
     HorvantaMDI& frame_;
+    std::string storedList_;  ///< The path of the list to come back to, even if it can't be read for now.
 };
 
 }  // namespace horvanta

@@ -216,6 +216,8 @@ TEST_F(YermList, IsOpenedAndRemembered) {
     Desk desk(settings);
     EXPECT_FALSE(PresentYermForm().Progressive);
     EXPECT_EQ(desk.Obey("asked"), "none");  // silent at the start
+    desk.Obey("menu SavePreferences");
+    EXPECT_EQ(desk.desktop.settings.values["Horvanta-UDLs"]["YLC"]["YP"], path);  // it may be readable again
     desk.Obey("answer text " + path);
     desk.Obey("menu OpenYermEras");
     EXPECT_NE(desk.Obey("asked").find("box \"Open Yerm Era List\""), std::string::npos);
