@@ -106,6 +106,7 @@ bool isWritingKey(int code) {
 
 std::string AccessibleName(const Control& control) {
     if (!control.spoken.empty()) return control.spoken;
+    if (dynamic_cast<const DayStrip*>(&control)) return control.text;
     const std::string words = hasWords(control.text) ? RemoveAmpersands(control.text) : "";
     const bool isLabel = dynamic_cast<const Label*>(&control);
     if (isLabel && words.empty() && control.tooltip.empty()) return control.form.text;

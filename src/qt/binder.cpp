@@ -113,6 +113,11 @@ bool Binder::MenuAsked(const Face* face, const QContextMenuEvent& event) {
 /// While the program is busy, a key that its control does not use goes no further, nor moves the focus.
 bool Binder::KeyActed(QObject* watched, const QKeyEvent& event) {
     if (watched != QApplication::focusWidget()) return false;
+    if (isMenuKey(event)) {
+        const auto& widget = static_cast<const QWidget&>(*watched);
+        acts_.OpenMenu(form_.OpenMenu, widget.mapToGlobal(widget.rect().center()));
+        return true;
+    }
     Face* face = FaceOf(watched);
     const auto use = face ? face->TakeKey(event) : Face::KeyUse::Open;
     if (use != Face::KeyUse::Open) return use == Face::KeyUse::Used;

@@ -69,6 +69,8 @@ int ShiftOf(Qt::KeyboardModifiers held) {
 
 bool isEnter(const QKeyEvent& event) { return event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter; }
 
+bool isMenuKey(const QKeyEvent& event) { return event.key() == Qt::Key_F10 && event.modifiers() == Qt::ShiftModifier; }
+
 bool isListKey(const QKeyEvent& event) {
     constexpr int keys[] = {Qt::Key_Up,   Qt::Key_Down, Qt::Key_PageUp, Qt::Key_PageDown,
                             Qt::Key_Home, Qt::Key_End,  Qt::Key_Space};

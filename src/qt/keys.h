@@ -19,6 +19,9 @@ int ShiftOf(Qt::KeyboardModifiers held);
 
 bool isEnter(const QKeyEvent& event);
 
+/// The key for a menu where a keyboard has none of its own; not every platform tells of it as such.
+bool isMenuKey(const QKeyEvent& event);
+
 /// What moves in a list or opens it.
 bool isListKey(const QKeyEvent& event);
 

@@ -176,6 +176,8 @@ TEST(DailyUse, NothingIsSpokenByItsInnerName) {
         }
     }
     EXPECT_EQ(AccessibleName(desk.program.gregorian.Dummy), desk.program.gregorian.form.text);
+    const DayStrip& light = desk.program.timeAstro.fields.DayLight;
+    EXPECT_EQ(AccessibleName(light), light.text);
 }
 
 }  // namespace

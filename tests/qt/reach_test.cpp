@@ -208,6 +208,11 @@ class ReachTest final : public QObject {
         QContextMenuEvent asked(QContextMenuEvent::Keyboard, QPoint(), QPoint());
         QApplication::sendEvent(QApplication::focusWidget(), &asked);
         QCOMPARE(QGuiApplication::clipboard()->text(), iso);
+        QGuiApplication::clipboard()->clear();
+        session.Find<QPushButton>("isoInfo")->setFocus();
+        TakeContextMenu(QStringLiteral("Copy ISO date (International Organization for Standard…: ") + iso.trimmed());
+        session.Press(Qt::Key_F10, Qt::ShiftModifier);
+        QCOMPARE(QGuiApplication::clipboard()->text(), iso);
         TakeContextMenu(QStringLiteral("Copy"));
         auto* date = session.Find<QLabel>("GregorianDate");
         QContextMenuEvent clicked(QContextMenuEvent::Mouse, QPoint(5, 5), date->mapToGlobal(QPoint(5, 5)));
