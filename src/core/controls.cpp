@@ -105,8 +105,8 @@ bool isWritingKey(int code) {
 }
 
 std::string AccessibleName(const Control& control) {
-    if (!control.spoken.empty()) return control.spoken;
     if (dynamic_cast<const DayStrip*>(&control)) return control.text;
+    if (!control.spoken.empty()) return control.spoken;
     const std::string words = hasWords(control.text) ? RemoveAmpersands(control.text) : "";
     const bool isLabel = dynamic_cast<const Label*>(&control);
     if (isLabel && words.empty() && control.tooltip.empty()) return control.form.text;
