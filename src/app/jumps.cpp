@@ -83,7 +83,7 @@ void Jumps::ArbitraryLunation_Click() {
     if (*number >= first && *number <= last) {
         JumpToMoment(NumberedLunation(*number, convention));
     } else {
-        CurrentDesktop->Beep();
+        Refuse("lunation numbers range from " + GeneralText(first) + " to " + GeneralText(last));
     }
 }
 

@@ -20,6 +20,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <numeric>
 
 namespace horvanta {
 namespace {
@@ -134,12 +135,12 @@ void Frame::Draw() {
         child->binder->Draw();
         child->form->resizable ? DrawChosenSize(*child) : DrawSize(*child);
     }
-    PlaceAll();
     for (Child& child : children_) {
         const bool isShown = child.window->isVisibleTo(child.window->parentWidget());
         if (isShown != child.form->visible) child.window->setVisible(child.form->visible);
     }
     for (Child& child : children_) GrantFocus(child);
+    PlaceAll();
     drawing_ = false;
     AwaitPaint();
 }
@@ -239,6 +240,7 @@ void Frame::PlaceAll() {
         if (open[i]->window->pos() != places[i]) open[i]->window->move(places[i]);
         NoteStanding(*open[i]->form, *open[i]->window);
     }
+    if (room != room_) Stack(open, places);
     drawing_ = before;
     room_ = room;
     panes_ = std::move(panes);
@@ -259,9 +261,17 @@ void Frame::Arrange() {
         form.positioned = true;
         form.position.left = Twips(places[i].x());
         form.position.top = Twips(places[i].y());
-        open[i]->window->raise();
     }
-    if (!open.empty()) open.front()->window->raise();
+    Stack(open, places);
+}
+
+/// Lays windows above one another as their places were chosen for. What is active then stays in front.
+void Frame::Stack(const std::vector<Child*>& open, const std::vector<QPoint>& places) {
+    std::vector<std::size_t> order(open.size());
+    std::iota(order.begin(), order.end(), std::size_t{0});
+    std::ranges::sort(order, [&](auto a, auto b) { return LiesUnder(a, places[a], b, places[b]); });
+    for (const std::size_t number : order) open[number]->window->raise();
+    if (QMdiSubWindow* active = area_->currentSubWindow()) active->raise();
 }
 
 void Frame::ShowStatus(const QString& line) {
@@ -321,7 +331,7 @@ Frame::Child* Frame::ChildOf(const QObject* window) {
 }
 
 bool Frame::eventFilter(QObject* watched, QEvent* event) {
-    if (watched == area_->viewport() && event->type() == QEvent::Resize) PlaceAll();
+    if (watched == area_->viewport() && event->type() == QEvent::Resize && !drawing_) PlaceAll();
     Child* child = ChildOf(watched);
     if (!child) return QMainWindow::eventFilter(watched, event);
     switch (event->type()) {
@@ -369,8 +379,11 @@ void Frame::closeEvent(QCloseEvent* event) {
     if (!busy && !Quitting) Run(shell_.Close);
 }
 
-/// Keys that reach the frame because no window has the focus are the time window's.
+/// Keys that reach the frame because no window has the focus are the time window's. What a window had and left stays
+/// without effect.
 void Frame::keyPressEvent(QKeyEvent* event) {
+    const auto hasFocus = [](const Child& child) { return child.window->isAncestorOf(QApplication::focusWidget()); };
+    if (std::ranges::any_of(children_, hasFocus)) return;
     const KeyPress key = KeyPressOf(*event);
     if (key.code != 0) Run([&] { shell_.Form_KeyDown(key.code, key.shift); });
 }

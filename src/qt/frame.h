@@ -83,6 +83,7 @@ class Frame final : public QMainWindow, public Acts {
     std::vector<Child*> OpenChildren();
     Pane PaneOf(const Child& child) const;
     void PlaceAll();
+    void Stack(const std::vector<Child*>& open, const std::vector<QPoint>& places);
     void GrantFocus(Child& child);
     void ShowFirst();
     void NotePlace();

@@ -6,6 +6,7 @@
 #include <numeric>
 #include <random>
 #include <set>
+#include <utility>
 
 namespace horvanta {
 namespace {
@@ -14,7 +15,7 @@ constexpr int gap = 1;  // pixels between windows
 
 /// What a place costs; the first that differs decides.
 struct Cost {
-    int handlesHidden = 0;    ///< As the windows lie above one another at first.
+    int handlesHidden = 0;    ///< As the windows lie above one another (`LiesUnder`).
     int partsHidden = 0;      ///< The same of other parts that have to be seen.
     qint64 outside = 0;       ///< Square pixels beyond the frame: no raising brings them back.
     int handlesHideable = 0;  ///< If another window came to the top.
@@ -41,15 +42,16 @@ qint64 AreaOf(const QRect& rect) { return rect.isEmpty() ? 0 : qint64(rect.width
 struct Placed {
     const Pane* pane;
     QRect rect;
-    bool isTopmost;
+    std::size_t number;
 };
 
 /// Adds what a cover hides of a window.
-void AddHidden(Cost& cost, const Placed& window, const QRect& cover, bool isAbove) {
+void AddHidden(Cost& cost, const Placed& window, const Placed& cover) {
+    const bool isUnder = LiesUnder(window.number, window.rect.topLeft(), cover.number, cover.rect.topLeft());
     for (std::size_t i = 0; i < window.pane->needed.size(); ++i) {
-        if (!window.pane->needed[i].translated(window.rect.topLeft()).intersects(cover)) continue;
+        if (!window.pane->needed[i].translated(window.rect.topLeft()).intersects(cover.rect)) continue;
         ++(i == 0 ? cost.handlesHideable : cost.partsHideable);
-        if (isAbove) ++(i == 0 ? cost.handlesHidden : cost.partsHidden);
+        if (isUnder) ++(i == 0 ? cost.handlesHidden : cost.partsHidden);
     }
 }
 
@@ -67,8 +69,8 @@ Cost CostOf(const Placed& window, const std::vector<Placed>& others, const QRect
     for (const Placed& other : others) {
         if (!other.rect.intersects(window.rect)) continue;
         cost.covered += AreaOf(other.rect & window.rect);
-        AddHidden(cost, window, other.rect, other.isTopmost);
-        AddHidden(cost, other, window.rect, !other.isTopmost);
+        AddHidden(cost, window, other);
+        AddHidden(cost, other, window);
     }
     return cost;
 }
@@ -100,7 +102,7 @@ class Layout {
             for (const std::size_t number : order) {
                 const Pane& pane = panes_[number];
                 if (pane.fixed != fixed) continue;
-                Placed window{&pane, pane.wish, number == 0};
+                Placed window{&pane, pane.wish, number};
                 if (!fixed) cost_ += Settle(window, placed);
                 places_[number] = window.rect.topLeft();
                 placed.push_back(window);
@@ -122,7 +124,7 @@ class Layout {
         const QRect wish = window.rect;
         for (const int top : edges.tops) {
             for (const int left : edges.lefts) {
-                const Placed there{window.pane, QRect(QPoint(left, top), wish.size()), window.isTopmost};
+                const Placed there{window.pane, QRect(QPoint(left, top), wish.size()), window.number};
                 const Cost cost = CostOf(there, placed, room_);
                 if (cost < best) best = cost, window.rect = there.rect;
             }
@@ -136,23 +138,21 @@ class Layout {
     std::vector<QPoint> places_;
 };
 
+constexpr int sortedOrders = 3;
 constexpr int chanceOrders = 100;
 
 using Order = std::vector<std::size_t>;
 
 /// The windows in their order, and by their height and width: large ones find room more easily while there is some.
-/// Then chance orders, the same at every start. The first comes first in all but the fourth and fifth, and so keeps its
-/// place.
+/// Then chance orders, the same at every start. The first comes first in all and so keeps its place.
 std::vector<Order> OrdersOf(const std::vector<Pane>& panes) {
     const auto isHigher = [&](auto a, auto b) { return panes[a].wish.height() > panes[b].wish.height(); };
     const auto isWider = [&](auto a, auto b) { return panes[a].wish.width() > panes[b].wish.width(); };
     Order order(panes.size());
     std::iota(order.begin(), order.end(), std::size_t{0});
-    std::vector<Order> orders(5, order);
+    std::vector<Order> orders(sortedOrders, order);
     std::stable_sort(orders[1].begin() + 1, orders[1].end(), isHigher);
     std::stable_sort(orders[2].begin() + 1, orders[2].end(), isWider);
-    std::stable_sort(orders[3].begin(), orders[3].end(), isHigher);
-    std::stable_sort(orders[4].begin(), orders[4].end(), isWider);
     std::mt19937 chance;
     for (int i = 0; i < chanceOrders; ++i) {
         std::shuffle(order.begin() + 1, order.end(), chance);
@@ -163,14 +163,18 @@ std::vector<Order> OrdersOf(const std::vector<Pane>& panes) {
 
 }  // namespace
 
+bool LiesUnder(std::size_t window, const QPoint& place, std::size_t other, const QPoint& otherPlace) {
+    if (window == 0 || other == 0) return other == 0;
+    return std::pair(place.y(), window) < std::pair(otherPlace.y(), other);
+}
+
 std::vector<QPoint> LayOut(const QSize& room, const std::vector<Pane>& panes) {
-    constexpr int keepingFirst = 3;  // orders
     std::vector<QPoint> places;
     if (panes.empty()) return places;
     Cost best;
     int tried = 0;
     for (const Order& order : OrdersOf(panes)) {
-        if (tried++ >= keepingFirst && best.hidesNothingNeeded()) break;
+        if (tried++ >= sortedOrders && best.hidesNothingNeeded()) break;
         Layout layout(room, panes);
         layout.Place(order);
         if (places.empty() || layout.cost() < best) {

@@ -25,7 +25,7 @@ EventsWindow::EventsWindow(HorvantaMDI& frame) : frame_(frame) {
     EventsGrid.headings = {"Calendar", "Date and/or Time", "Event"};
     EventsGrid.RowClick = [this](std::size_t row) { EventsGrid_Click(row); };
     EventsGrid.Click = [this] {
-        if (EventsGrid.rows.empty()) CurrentDesktop->Beep();
+        if (EventsGrid.rows.empty()) Refuse("nothing happens on this day");
         frame_.TakeFocus();
     };
 }

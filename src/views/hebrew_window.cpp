@@ -188,7 +188,7 @@ void HebrewWindow::ShowZman(std::size_t index, const Zman& zman) {
 void HebrewWindow::CopyZman(std::size_t index) {
     const Zman& zman = shown_.at(index);
     if (!zman.isDue) {
-        CurrentDesktop->Beep();
+        Refuse("no candles are lit on this day");
         return;
     }
     const std::string name = zman.name.empty() ? zman.legend : zman.name;

@@ -268,7 +268,7 @@ void TimeAstro::SetFixedDayNumberToolTip() {
 void TimeAstro::FixedDayNum_LostFocus() {
     const std::string shown = DayNumberText();
     const auto day = ParseNumber(FixedDayNum.text);
-    if (!day) CurrentDesktop->Beep();
+    if (!day) RefuseEntry(FixedDayNum.text, "a day number");
     const bool changed = day && *day != DisplayedMoment && Trimmed(FixedDayNum.text) != shown;
     FixedDayNum.text = shown;
     if (!changed) return;

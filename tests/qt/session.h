@@ -43,12 +43,15 @@ class SettingsFolder {
 
 /// The whole program.
 struct Session {
-    Session() {
+    /// Without a size the frame keeps that of the screen.
+    explicit Session(const QSize& size = QSize(1400, 900)) {
         horvanta::CurrentDesktop = &desktop;
         program.Start();
         frame().Draw();
-        frame().showNormal();  // a maximized frame keeps the size of the screen
-        frame().resize(1400, 900);
+        if (size.isValid()) {
+            frame().showNormal();  // a maximized frame would keep that size too
+            frame().resize(size);
+        }
         AwaitActive();
     }
     ~Session() { horvanta::CurrentDesktop = nullptr; }
@@ -64,14 +67,6 @@ struct Session {
 
     QMdiSubWindow* Window(const horvanta::Form& form) {
         return frame().findChild<QMdiSubWindow*>(QString::fromStdString(form.name));
-    }
-
-    /// Closes windows that a small frame, or one with a large font, has no room for beside the others.
-    void CloseSome() {
-        for (const horvanta::Form* form : {&program.lunar.form, &program.hebrew.form, &program.events.form}) {
-            Window(*form)->close();
-        }
-        frame().Draw();
     }
 
     /// A box that was closed leaves no window active for a while, and a window manager that has just been started
