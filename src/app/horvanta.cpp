@@ -65,20 +65,10 @@ void Horvanta::HangHandlers() {
     HangTimeWindow();
 }
 
-/// Its item can only raise it: it is never hidden. Its fields copy with all their digits.
+/// Its item can only raise it: it is never hidden.
 void Horvanta::HangTimeWindow() {
     frame.ShowTime.Shows(timeAstro.form.visible);
     frame.ShowTime.Click = [this] { timeAstro.TakeFocus(); };
-    timeAstro.FixedDayNum.Click = timeAstro.FixedDayNumLabel.Click;
-    timeAstro.FixedDayNum.copies = timeAstro.TimeOfDay.copies = true;
-    for (Label* caption : {&timeAstro.FixedDayNumLabel, &timeAstro.UT, &timeAstro.SavedToFrom}) {
-        frame.OfferCopy(*caption);
-    }
-    TimeFields& fields = timeAstro.fields;
-    for (Label* value : {&timeAstro.SavedDiffBox, &fields.JD_MJD, &fields.Orbital_RAY_Date, &fields.EoT,
-                         &fields.SunDeclination, &fields.SunLong, &fields.DeltaTdisp}) {
-        frame.CopyOnClick(*value, value->Click);
-    }
 }
 
 /// The item of a window is ticked while the window is shown.

@@ -76,11 +76,6 @@ WindowRow TimeAstro::Row() {
 
 void TimeAstro::HangHandlers() {
     FixedDayNum.LostFocus = [this] { FixedDayNum_LostFocus(); };
-    FixedDayNumLabel.Click = [this] {
-        frame_.SetClipboardText(FixedDayNum.tooltip + ": " + GeneralText(DisplayedMoment));
-    };
-    TimeOfDay.Click = UT.Click = [this] { frame_.SetClipboardText(LocalTimes(DisplayedMoment)); };
-    SavedDiffBox.Click = SavedToFrom.Click = [this] { CopySavedDifference(); };
     JumpToPast.Click = [this] { JumpToPast_Click(); };
     NextDown.Click = [this] { NextDown_Click(); };
     DayDown.Click = [this] { DayUpDown(-1, 1); };
@@ -89,6 +84,19 @@ void TimeAstro::HangHandlers() {
     JumpToFuture.Click = [this] { JumpToFuture_Click(); };
     ClipBoardStatus.Click = [this] { ClipBoardStatus_Click(); };
     form.KeyDown = [this](int code, int shift) { return Form_KeyDown(code, shift); };
+    HangCopies();
+}
+
+/// What is copied has all its digits.
+void TimeAstro::HangCopies() {
+    FixedDayNum.Click = FixedDayNumLabel.Click = [this] {
+        frame_.SetClipboardText(FixedDayNum.tooltip + ": " + GeneralText(DisplayedMoment));
+    };
+    TimeOfDay.Click = UT.Click = [this] { frame_.SetClipboardText(LocalTimes(DisplayedMoment)); };
+    SavedToFrom.Click = [this] { CopySavedDifference(); };
+    frame_.CopyOnClick(SavedDiffBox, SavedToFrom.Click);
+    FixedDayNum.copies = TimeOfDay.copies = true;
+    for (Label* caption : {&FixedDayNumLabel, &UT, &SavedToFrom}) frame_.OfferCopy(*caption);
 }
 
 void TimeAstro::HangMenus() {

@@ -87,6 +87,7 @@ class TimeAstro {
 
   private:
     void HangHandlers();
+    void HangCopies();
     void HangMenus();
     void ShowMoment();
     void FixedDayNum_LostFocus();

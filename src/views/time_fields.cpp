@@ -151,15 +151,21 @@ void TimeFields::HangHandlers() {
         const Moment clock = Floor(DisplayedMoment) + time;
         return SunAtText(StandardToUniversal(DaylightToStandard(clock)));
     };
-    JD_MJD.Click = [this] { Copy(JD_MJD, GeneralText(JulianDayShown(DisplayedMoment))); };
-    Orbital_RAY_Date.Click = [this] { Copy(Orbital_RAY_Date, GeneralText(YearsShown(DisplayedMoment))); };
-    EoT.Click = [this] { Copy(EoT, SignedStr(EquationOfTime(DisplayedMoment) * minutesPerDay) + " minutes"); };
-    SunDeclination.Click = [this] {
+    HangCopies();
+}
+
+void TimeFields::HangCopies() {
+    frame_.CopyOnClick(JD_MJD, [this] { Copy(JD_MJD, GeneralText(JulianDayShown(DisplayedMoment))); });
+    frame_.CopyOnClick(Orbital_RAY_Date, [this] { Copy(Orbital_RAY_Date, GeneralText(YearsShown(DisplayedMoment))); });
+    frame_.CopyOnClick(EoT,
+                       [this] { Copy(EoT, SignedStr(EquationOfTime(DisplayedMoment) * minutesPerDay) + " minutes"); });
+    frame_.CopyOnClick(SunDeclination, [this] {
         const double declination = SolarDeclination(DisplayedMoment);
         Copy(SunDeclination, GeneralText(std::fabs(declination)) + "°" + Hemisphere(declination));
-    };
-    SunLong.Click = [this] { Copy(SunLong, GeneralText(SolarLongitude(DisplayedMoment)) + "°"); };
-    DeltaTdisp.Click = [this] { frame_.SetClipboardText("Delta T: " + LongDeltaTText(DeltaT(DisplayedMoment, 1))); };
+    });
+    frame_.CopyOnClick(SunLong, [this] { Copy(SunLong, GeneralText(SolarLongitude(DisplayedMoment)) + "°"); });
+    frame_.CopyOnClick(DeltaTdisp,
+                       [this] { frame_.SetClipboardText("Delta T: " + LongDeltaTText(DeltaT(DisplayedMoment, 1))); });
 }
 
 /// A value with all its digits, where the field shows those that a person reads.

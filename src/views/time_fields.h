@@ -90,6 +90,7 @@ class TimeFields {
   private:
     void MakePanels();
     void HangHandlers();
+    void HangCopies();
     void ShowLight(FixedDay day, bool noHorizon);
     void Copy(const Label& field, const std::string& value);
     void ShowYears(Moment universal);
