@@ -121,8 +121,8 @@ std::string QuarterText(Moment universal, double phase) {
     constexpr std::string_view names[] = {"New", "First Quarter", "Full", "Last Quarter"};
     const horvanta::LunationConvention& convention = ChosenLunationConvention();
     const double lunation = Round(MomentToLunation(universal) - phase / 360) + phase / 360 + convention.Offset;
-    return std::string(names[WholeNumber<std::size_t>(phase / 90)]) + " Moon, " + std::string(convention.Name) +
-           " Lunation Number " + GeneralText(lunation);
+    return std::string(names[WholeNumber<std::size_t>(Degrees(phase) / 90) % std::size(names)]) + " Moon, " +
+           std::string(convention.Name) + " Lunation Number " + GeneralText(lunation);
 }
 
 std::string PhaseText(double phase) {

@@ -18,7 +18,7 @@ struct LunarEvent {
 /// fixed day; what is seen from the place belongs to the day by its clocks.
 std::vector<LunarEvent> LunarEventsOn(Moment universal, const LocaleRecord& place = Locale);
 
-/// "First Quarter Moon, Brown Lunation Number 1250.25", the phase that is 0, 90, 180 or 270 degrees at a moment, with
+/// "First Quarter Moon, Brown Lunation Number 1250.25", the phase that is a multiple of 90 degrees at a moment, with
 /// the number of its lunation by the way that the user has chosen. The four of a lunation have one whole number.
 std::string QuarterText(Moment universal, double phase);
 
