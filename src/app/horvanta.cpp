@@ -113,6 +113,7 @@ void Horvanta::Start() {
 void Horvanta::LoadWindows() {
     CurrentDesktop->LoadFrame(frame);
     for (Form* form : Forms()) CurrentDesktop->LoadForm(*form);
+    for (Form* form : Dialogs()) CurrentDesktop->LoadForm(*form);
 }
 
 void Horvanta::MarkLaunch() {
@@ -236,6 +237,7 @@ void Horvanta::RunUpdatePass() {
         }
     }
     jumps.SetAgainCaption();
+    reports.Update();
     history.Note();
 }
 
