@@ -10,6 +10,10 @@ ProgressWindow::ProgressWindow() {
     form.Close = [this] { CancelButton_Click(); };
     CancelButton.Click = form.Close;
     CancelButton.whileBusy = true;
+    CancelButton.KeyDown = [this](int code, int) {
+        if (code == KeyEscape) CancelButton_Click();
+        return code == KeyEscape;
+    };
 }
 
 void ProgressWindow::Setup(const std::string& path, std::int32_t maximum) {

@@ -12,6 +12,10 @@ ReportFinishedWindow::ReportFinishedWindow(HorvantaMDI& frame) : frame_(frame) {
     form.modal = true;
     FilePath.readOnly = true;
     form.Close = OKButton.Click = [this] { OKButton_Click(); };
+    form.KeyDown = [this](int code, int) {
+        if (code == KeyEscape) OKButton_Click();
+        return code == KeyEscape;
+    };
     LaunchButton.Click = [this] { LaunchButton_Click(); };
     CopyPathButton.Click = [this] { CopyPathButton_Click(); };
     SelectButton.Click = [this] { SelectButton_Click(); };
@@ -25,7 +29,7 @@ void ReportFinishedWindow::ShowReportFinished(const std::string& path, const std
     FilePath.text = path;
     LaunchHint.text = hint;
     form.visible = true;
-    OKButton.TakeFocus();
+    LaunchButton.TakeFocus();
 }
 
 /// Stays, for who has seen the report may want to delete it.
