@@ -39,12 +39,14 @@ std::string EntityOf(const Character& character) {
     return "&#" + std::to_string(static_cast<std::uint32_t>(code)) + ";";
 }
 
-constexpr bool isPlainOnPage(char c) { return c >= 0x20 && c < 0x7F; }
+constexpr bool isPlainMarkup(char c) { return c >= 0x20 && c < 0x7F; }
+constexpr bool isPlain(char c) { return isPlainMarkup(c) && c != '&' && c != '<' && c != '>' && c != '"'; }
 
-/// Adds a text as a page has it: in signs of ASCII, which all of the page's character sets share.
-void AddMarkedUp(std::string& page, std::string_view text) {
+/// Adds a text as a page has it: in signs of ASCII, which all character sets of pages share.
+template <bool (*isKept)(char)>
+void Add(std::string& page, std::string_view text) {
     while (!text.empty()) {
-        const auto end = static_cast<std::size_t>(std::ranges::find_if_not(text, isPlainOnPage) - text.begin());
+        const auto end = static_cast<std::size_t>(std::ranges::find_if_not(text, isKept) - text.begin());
         page += text.substr(0, end);
         text.remove_prefix(end);
         if (text.empty()) return;
@@ -54,14 +56,8 @@ void AddMarkedUp(std::string& page, std::string_view text) {
     }
 }
 
-void AddEscaped(std::string& page, std::string_view text) {
-    for (std::size_t at = text.find_first_of("&<>\""); at != std::string_view::npos; at = text.find_first_of("&<>\"")) {
-        AddMarkedUp(page, text.substr(0, at));
-        page += EntityOf({1, text[at]});
-        text.remove_prefix(at + 1);
-    }
-    AddMarkedUp(page, text);
-}
+void AddMarkedUp(std::string& page, std::string_view text) { Add<isPlainMarkup>(page, text); }
+void AddEscaped(std::string& page, std::string_view text) { Add<isPlain>(page, text); }
 
 constexpr std::string_view lineEnd = "\r\n";
 
