@@ -19,18 +19,10 @@ NewFileDialog::NewFileDialog(QWidget* parent, const QString& title, const QStrin
     setOption(DontConfirmOverwrite);
     setNameFilters(filters);
     selectFile(name);
-    connect(this, &QFileDialog::filterSelected, this, &NewFileDialog::TakeKind);
 }
 
 QString NewFileDialog::ChosenExtension() const {
     return extensions_.value(std::max<qsizetype>(nameFilters().indexOf(selectedNameFilter()), 0));
-}
-
-void NewFileDialog::TakeKind() {
-    const QString path = selectedFiles().value(0);
-    const QString ending = QFileInfo(path).suffix();
-    if (!extensions_.contains(ending, Qt::CaseInsensitive)) return;
-    selectFile(path.chopped(ending.size()) + ChosenExtension());
 }
 
 QString NewFileDialog::Path() const {

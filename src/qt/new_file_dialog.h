@@ -9,7 +9,7 @@
 
 namespace horvanta {
 
-/// Asks for a file to be written. The ending of its name follows the kind that is chosen.
+/// Asks for a file to be written.
 class NewFileDialog final : public QFileDialog {
     Q_OBJECT
   public:
@@ -21,7 +21,6 @@ class NewFileDialog final : public QFileDialog {
 
   private:
     QString ChosenExtension() const;
-    void TakeKind();
 
     QStringList extensions_;  ///< Of the kinds, in the order of the filters.
 };

@@ -66,6 +66,10 @@ struct Session {
         return frame().findChild<QMdiSubWindow*>(QString::fromStdString(form.name));
     }
 
+    QWidget* Dialog(const horvanta::Form& form) {
+        return frame().findChild<QDialog*>(QString::fromStdString(form.name));
+    }
+
     /// Closes windows that a small frame, or one with a large font, has no room for beside the others.
     void CloseSome() {
         for (const horvanta::Form* form : {&program.lunar.form, &program.hebrew.form, &program.events.form}) {
