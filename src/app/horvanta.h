@@ -112,6 +112,7 @@ class Horvanta {
     void Raise(WindowRow& row);
     void Hide(WindowRow& row);
     void HangTimeWindow();
+    void HangWebPages();
 
     bool isStarted_ = false;
 };

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "core/controls.h"
+#include "core/web_pages.h"
 #include "core/window_colors.h"
 
 #include <algorithm>
@@ -277,6 +278,7 @@ class HorvantaMDI {
     MenuItem Links{menuBar, "Links", "Lin&ks"};
       MenuItem MenuAbout{Links, "MenuAbout", "&About Horvanta...", "F1"};
       MenuItem MapLocale{Links, "MapLocale", "&Map of the Current Locale"};
+      MenuArray<WebPages.size()> WebPageItem{Links, "WebPageItem", WebPageCaptions};
     // clang-format on
 
   private:

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <algorithm>
 #include <array>
 #include <string_view>
 
@@ -15,5 +16,11 @@ inline constexpr WebPage HomePage{"Horvanta on the &Web", ""};
 inline constexpr WebPage PostponementRulesPage{"Rules of &Postponement", ""};
 
 inline constexpr std::array WebPages{HomePage, PostponementRulesPage};
+
+inline constexpr auto WebPageCaptions = [] {
+    std::array<std::string_view, WebPages.size()> captions;
+    std::ranges::transform(WebPages, captions.begin(), &WebPage::caption);
+    return captions;
+}();
 
 }  // namespace horvanta

@@ -39,6 +39,7 @@ Report ReportOmerCount(const LocaleRecord& place) {
             .heading = heading,
             .notes = {},
             .columns = {std::begin(columns), std::end(columns)},
+            .isWide = false,
             .length = nights,
             .row = [first, place](std::int32_t index) { return RowOf(first + index, place); }};
 }

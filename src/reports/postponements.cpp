@@ -105,6 +105,7 @@ Report ReportPostponements(std::int32_t years) {
             .heading = "<i>Rosh Hashanah</i> " + from + "&ndash;" + to + count,
             .notes = Notes(),
             .columns = {std::begin(columns), std::end(columns)},
+            .isWide = true,
             .length = years,
             .row = [first](std::int32_t index) { return RowOf(first + index); }};
 }

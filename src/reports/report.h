@@ -62,6 +62,7 @@ struct Report {
     std::string heading;  ///< Marked up.
     std::vector<ReportNote> notes;
     std::vector<ReportColumn> columns;
+    bool isWide = false;                               ///< Its pages are best printed in landscape.
     std::int32_t length;                               ///< How many rows there are.
     std::function<ReportRow(std::int32_t index)> row;  ///< Each of them, from 0.
 };

@@ -65,17 +65,18 @@ constexpr std::string_view styleSheet =
     "<style type=\"text/css\">\r\n"
     "body { font-family: sans-serif; color: black; background-color: white }\r\n"
     "div.notes { text-align: left; max-width: 60em; margin: 0 auto }\r\n"
-    "table { border-collapse: collapse; text-align: left; margin: 1em auto }\r\n"
+    "table { border-collapse: collapse; font-size: 90%; text-align: left; margin: 1em auto }\r\n"
     "th, td { border: 1px solid #888888; padding: 2px 6px }\r\n"
     "th { color: black; background-color: #e8e8e8; vertical-align: bottom }\r\n"
     "td, th { print-color-adjust: exact; -webkit-print-color-adjust: exact }\r\n"
     "@media print {\r\n"
-    "body { font-size: 8pt }\r\n"
+    "body { font-size: 9pt }\r\n"
     "thead { display: table-header-group }\r\n"
     "tr { page-break-inside: avoid }\r\n"
     "h2 { page-break-after: avoid }\r\n"
-    "}\r\n"
-    "</style>\r\n";
+    "}\r\n";
+
+constexpr std::string_view wideStyle = "@page { size: landscape }\r\n";
 
 void WriteHtmlHeader(std::string& page, const Report& report) {
     page +=
@@ -85,7 +86,8 @@ void WriteHtmlHeader(std::string& page, const Report& report) {
         "\">\r\n"
         "<meta http-equiv=\"Content-Type\" content=\"text/html;charset=ISO-8859-1\">\r\n";
     page += styleSheet;
-    page += "<TITLE>";
+    if (report.isWide) page += wideStyle;
+    page += "</style>\r\n<TITLE>";
     AddEscaped(page, report.title);
     page += "</TITLE></HEAD><body>\r\n<DIV ALIGN=CENTER>\r\n<H1>";
     AddMarkedUp(page, report.heading);

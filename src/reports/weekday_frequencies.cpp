@@ -141,6 +141,7 @@ Report ListPossibleWeekdayStats() {
             .heading = "Exact Hebrew Calendar Full Cycle Weekday Frequencies",
             .notes = Notes(),
             .columns = Columns(),
+            .isWide = true,
             .length = allDays,
             .row = [fractions](std::int32_t index) { return PossibleWeekdayStatistics(DayAt(index), *fractions); }};
 }

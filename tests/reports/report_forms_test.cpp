@@ -47,6 +47,7 @@ Report OddReport(const OddText& odd) {
                         {kind, odd.isMarkedUp ? "plain" : odd.text, odd.isMarkedUp ? "" : odd.text},
                         {ColumnKind::Mark, "Mark", "", "Mark in a table"},
                         {ColumnKind::Number, "Number"}},
+            .isWide = true,
             .length = 3,
             .row = [text](std::int32_t index) {
                 return Cells(std::string(index < 2 ? "<i>A</i>" : "<i>B</i>"), text, std::string(index == 1 ? "x" : ""),
