@@ -8,7 +8,7 @@
 # ./test.sh walk   Persian days, Oriental months and moonrises over the centuries, each one
 source "$(dirname "$0")/tools/setup.sh"
 
-form_tests=(build/release/tests/horvanta_{controls,keys,looks,program,reach,windows}_tests)
+form_tests=(build/release/tests/horvanta_{controls,keys,looks,program,reach,reports,windows}_tests)
 
 heading() { printf '\n== %s\n' "$1"; }
 
@@ -60,6 +60,20 @@ form_tests_on_a_display() {
         "${form_tests[@]}"
 }
 
+# Every report in every form, and one of odd texts, by readers that were not written here.
+reports_check() {
+    heading 'Report files'
+    local folder=$PWD/build/reports item extension
+    rm -rf "$folder" && mkdir -p "$folder"
+    for item in ReportOmer ListPostpone19years ListPostpone1000years ListPossibleWeekdayStats; do
+        for extension in htm tab csv; do
+            printf '%s\n' "answer text $folder/$item.$extension" "menu $item" 'click ReportFinished.OKButton'
+        done
+    done | build/release/tools/desk/horvanta_desk >/dev/null
+    HORVANTA_REPORTS=$folder build/release/tests/horvanta_tests --gtest_brief=1 --gtest_filter='ReportForms.*'
+    python3 tests/reports/check_reports.py "$folder"
+}
+
 # Starts an installed program without a display, and on one for its picture, with settings of its own.
 runs() {
     local home=build/package/home
@@ -107,7 +121,7 @@ case "${1:-quick}" in
     quick) quick_tests ;;
     all)
         need "${display_packages[@]}" appstream clang-format desktop-file-utils dpkg-dev file \
-            lintian locales man-db openbox tzdata
+            lintian locales man-db openbox opensp python3 tzdata w3c-sgml-lib
         format_check
         floors_check
         quick_tests
@@ -115,6 +129,7 @@ case "${1:-quick}" in
         locale_tests
         shuffled_tests
         form_tests_on_a_display
+        reports_check
         packaging_checks
         ;;
     bench)

@@ -63,6 +63,15 @@ void Horvanta::HangHandlers() {
         if (row.isThere()) HangWindow(row);
     }
     HangTimeWindow();
+    HangWebPages();
+}
+
+/// A page without an address has no item.
+void Horvanta::HangWebPages() {
+    for (std::size_t i = 0; i < WebPages.size(); ++i) {
+        const std::string address(WebPages[i].address);
+        if (!address.empty()) frame.WebPageItem[i + 1].Click = [address] { CurrentDesktop->OpenWithShell(address); };
+    }
 }
 
 /// Its item can only raise it: it is never hidden.
@@ -103,6 +112,7 @@ void Horvanta::Start() {
 void Horvanta::LoadWindows() {
     CurrentDesktop->LoadFrame(frame);
     for (Form* form : Forms()) CurrentDesktop->LoadForm(*form);
+    for (Form* form : Dialogs()) CurrentDesktop->LoadForm(*form);
 }
 
 void Horvanta::MarkLaunch() {
@@ -226,6 +236,7 @@ void Horvanta::RunUpdatePass() {
         }
     }
     jumps.SetAgainCaption();
+    reports.Update();
     history.Note();
 }
 

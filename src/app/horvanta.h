@@ -4,6 +4,7 @@
 #include "app/jumps.h"
 #include "app/options.h"
 #include "app/places.h"
+#include "app/report_menu.h"
 #include "app/windows.h"
 #include "core/shell.h"
 #include "views/events_window.h"
@@ -72,6 +73,7 @@ class Horvanta {
     Jumps jumps{frame, timeAstro};
     Options options{frame};
     History history{frame, places};
+    ReportMenu reports{frame};
 
     /// In the order in which they are loaded and update: what they post stands in the day's list in this order.
     std::vector<WindowRow> windows{
@@ -92,6 +94,9 @@ class Horvanta {
     /// The same, as far as they are there.
     std::vector<Form*> Forms() const;
 
+    /// The windows that keep the user from all others while they are shown.
+    std::vector<Form*> Dialogs() { return {&reports.progress.form, &reports.finished.form}; }
+
   private:
     void HangHandlers();
     void HangWindow(WindowRow& row);
@@ -107,6 +112,7 @@ class Horvanta {
     void Raise(WindowRow& row);
     void Hide(WindowRow& row);
     void HangTimeWindow();
+    void HangWebPages();
 
     bool isStarted_ = false;
 };

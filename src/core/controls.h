@@ -129,6 +129,7 @@ struct TextField final : Control {
     using Control::Control;
     ~TextField() override;
 
+    bool readOnly = false;            ///< It can be read and copied, not written.
     std::function<void()> LostFocus;  ///< The user left the field or pressed Enter in it.
 
     /// The user changed the text into this one, and is still at it.
@@ -292,6 +293,13 @@ class RowTable final : public Control {
     std::function<void(std::size_t row)> RowClick;
 };
 
+/// A bar that fills while a long command goes on.
+struct ProgressBar final : Control {
+    using Control::Control;
+    std::int32_t value = 0;
+    std::int32_t maximum = 1;
+};
+
 /// A picture of the Moon as it is seen from a place. Its tooltip says it in words.
 class MoonPicture final : public Control {
   public:
@@ -337,9 +345,10 @@ class Form {
     const std::string name;
     std::string text;  ///< The caption.
     bool visible = false;
-    bool positioned = false;         ///< The user chose where it stands; the desktop may fit others into its frame.
-    bool resizable = false;          ///< The user may choose how large it is. A size of 0 is up to the desktop.
-    Position position;               ///< The desktop reports the size, and where the user moved the window.
+    bool modal = false;       ///< While it is shown the user can act in no other window. Set before it is loaded.
+    bool positioned = false;  ///< The user chose where it stands; the desktop may fit others into its frame.
+    bool resizable = false;   ///< The user may choose how large it is. A size of 0 is up to the desktop.
+    Position position;        ///< The desktop reports the size, and where the user moved the window.
     std::vector<Control*> controls;  ///< In the order of their construction.
     Control* focusWish = nullptr;    ///< Gets the focus, and its form is raised, when the desktop draws next.
     bool inFront = false;            ///< It has the focus and nothing covers it, as the desktop reports.

@@ -23,6 +23,12 @@ struct LocalClock {
 /// An answer to a question; the numbers are those by which desktops know them.
 enum class YesNoCancel { Cancel = 2, Yes = 6, No = 7 };
 
+/// A kind of file that the user can choose: "Web Page", whose names end in "htm".
+struct FileKind {
+    std::string_view name;
+    std::string_view extension;
+};
+
 /// Everything the program asks of the desktop it runs on.
 class Desktop {
   public:
@@ -47,12 +53,20 @@ class Desktop {
     /// A box with a question that may be left open, and stops what raised it then.
     virtual YesNoCancel AskYesNoCancel(std::string_view question, std::string_view title) = 0;
 
+    /// A box that waits for the user to see to something; false if he would rather stop what raised it.
+    virtual bool AskOkCancel(std::string_view question, std::string_view title) = 0;
+
     /// A box with a line to fill in; nothing when cancelled.
     virtual std::optional<std::string> AskText(std::string_view prompt, std::string_view title,
                                                std::string_view initial) = 0;
 
     /// A file that the user chooses to be read, by its path; nothing when cancelled.
     virtual std::optional<std::string> ChooseFile(std::string_view title) = 0;
+
+    /// A file that the user chooses to be written, by its path, which ends as one of the kinds; nothing when cancelled.
+    /// `name` is a bare name to begin with. Where there is such a file, the user wants it replaced.
+    virtual std::optional<std::string> ChooseNewFile(std::string_view title, const std::string& name,
+                                                     const std::vector<FileKind>& kinds) = 0;
 
     /// A box that tells something.
     virtual void Tell(std::string_view message, std::string_view title) = 0;
@@ -69,6 +83,9 @@ class Desktop {
 
     /// Opens a file or a web address with the program that the desktop has for it.
     virtual void OpenWithShell(const std::string& path) = 0;
+
+    /// Shows a file selected in the file manager, or the folder it is in.
+    virtual void SelectFile(const std::string& path) = 0;
 
     /// The colour the user chooses, starting from the present one; nothing when cancelled. The title says for what.
     virtual std::optional<Color> ChooseColor(Color present, std::string_view title) = 0;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "core/controls.h"
+#include "core/web_pages.h"
 #include "core/window_colors.h"
 
 #include <algorithm>
@@ -196,6 +197,15 @@ class HorvantaMDI {
       EventMenu NextMenu{GoToNext, "NextMenu", EventCaptions};
 
     MenuItem ReportS{menuBar, "ReportS", "&Reports"};
+      MenuItem HebrewReports{ReportS, "HebrewReports", "&Hebrew"};
+        MenuItem ReportOmer{HebrewReports, "ReportOmer", "&Omer Count"};
+        MenuItem ListPostpone{HebrewReports, "ListPostpone", "&Postponements"};
+          MenuItem ListPostpone19years{ListPostpone, "ListPostpone19years", "for 19 years"};
+          MenuItem ListPostpone57years{ListPostpone, "ListPostpone57years", "for 3 x 19 = 57 years"};
+          MenuItem ListPostpone100years{ListPostpone, "ListPostpone100years", "for 100 years"};
+          MenuItem ListPostpone500years{ListPostpone, "ListPostpone500years", "for 500 years"};
+          MenuItem ListPostpone1000years{ListPostpone, "ListPostpone1000years", "for 1000 years"};
+        MenuItem ListPossibleWeekdayStats{HebrewReports, "ListPossibleWeekdayStats", "&Weekday Frequencies"};
 
     MenuItem OptionsMenu{menuBar, "OptionsMenu", "&Options"};
       MenuItem AlwaysToday{OptionsMenu, "AlwaysToday", "&Always Start With Today"};
@@ -268,6 +278,7 @@ class HorvantaMDI {
     MenuItem Links{menuBar, "Links", "Lin&ks"};
       MenuItem MenuAbout{Links, "MenuAbout", "&About Horvanta...", "F1"};
       MenuItem MapLocale{Links, "MapLocale", "&Map of the Current Locale"};
+      MenuArray<WebPages.size()> WebPageItem{Links, "WebPageItem", WebPageCaptions};
     // clang-format on
 
   private:

@@ -328,12 +328,7 @@ bool isNameable(char32_t c) {
            std::ranges::none_of(unnameable, [c](const auto& range) { return c >= range.first && c <= range.second; });
 }
 
-/// How many bytes the character at the front of a text takes in UTF-8, and its code; one byte and no code where none
-/// begins.
-struct Character {
-    std::size_t bytes = 1;
-    std::optional<char32_t> code;
-};
+}  // namespace
 
 Character FrontOf(std::string_view text) {
     struct Lead {
@@ -352,8 +347,6 @@ Character FrontOf(std::string_view text) {
     }
     return code < lead->least ? Character() : Character{lead->bytes, code};
 }
-
-}  // namespace
 
 std::string NameText(std::string_view name) {
     constexpr int longest = 60;

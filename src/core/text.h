@@ -104,6 +104,15 @@ std::string_view Trimmed(std::string_view text);
 /// The text from the n-th character on, the first being 1; empty if it has fewer.
 std::string_view FromCharacter(std::string_view text, int n);
 
+/// A character at the front of a text.
+struct Character {
+    std::size_t bytes = 1;         ///< How many it takes.
+    std::optional<char32_t> code;  ///< None where no character begins.
+};
+
+/// The first character of a text that is not empty; one byte without a code where none begins.
+Character FrontOf(std::string_view text);
+
 /// The text within `most` characters: a longer one ends in "…".
 std::string Elided(std::string_view text, std::size_t most);
 

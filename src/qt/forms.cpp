@@ -8,7 +8,9 @@
 #include "forms/ui_monthly.h"
 #include "forms/ui_oriental.h"
 #include "forms/ui_persian.h"
+#include "forms/ui_progress.h"
 #include "forms/ui_quartane.h"
+#include "forms/ui_report_finished.h"
 #include "forms/ui_time_astro.h"
 #include "forms/ui_user.h"
 #include "forms/ui_world.h"
@@ -27,10 +29,13 @@ struct DesignerForm {
 };
 
 constexpr DesignerForm designerForms[] = {
-    {"TimeAstro", SetUp<Ui::TimeAstro>}, {"Gregorian", SetUp<Ui::Gregorian>}, {"Monthly", SetUp<Ui::Monthly>},
-    {"Quartane", SetUp<Ui::Quartane>},   {"User", SetUp<Ui::User>},           {"Persian", SetUp<Ui::Persian>},
-    {"Julian", SetUp<Ui::Julian>},       {"World", SetUp<Ui::World>},         {"Lunar", SetUp<Ui::Lunar>},
-    {"Events", SetUp<Ui::Events>},       {"Hebrew", SetUp<Ui::Hebrew>},       {"Chinese", SetUp<Ui::Chinese>},
+    {"TimeAstro", SetUp<Ui::TimeAstro>}, {"Gregorian", SetUp<Ui::Gregorian>},
+    {"Monthly", SetUp<Ui::Monthly>},     {"Quartane", SetUp<Ui::Quartane>},
+    {"User", SetUp<Ui::User>},           {"Persian", SetUp<Ui::Persian>},
+    {"Julian", SetUp<Ui::Julian>},       {"World", SetUp<Ui::World>},
+    {"Lunar", SetUp<Ui::Lunar>},         {"Events", SetUp<Ui::Events>},
+    {"Hebrew", SetUp<Ui::Hebrew>},       {"Chinese", SetUp<Ui::Chinese>},
+    {"Progress", SetUp<Ui::Progress>},   {"ReportFinished", SetUp<Ui::ReportFinished>},
 };
 
 }  // namespace

@@ -2,6 +2,7 @@
 
 #include "core/moment.h"
 #include "qt/eliding_label.h"
+#include "qt/form_dialog.h"
 #include "qt/keys.h"
 #include "qt/plain_text.h"
 #include "qt/user_gate.h"
@@ -107,6 +108,10 @@ void Frame::Load(Form& form, std::unique_ptr<QWidget> content) {
     NoteSize(form, window->size());
 }
 
+void Frame::LoadDialog(Form& form, std::unique_ptr<QWidget> content) {
+    dialogs_.push_back(new FormDialog(form, std::move(content), *this, this));
+}
+
 /// The line in the status bar is of the act before, unless this one tells something.
 void Frame::Run(const std::function<void()>& act, ActKind kind) {
     if (!act || (busy_ && !kind.whileBusy)) return;
@@ -141,6 +146,7 @@ void Frame::Draw() {
     }
     for (Child& child : children_) GrantFocus(child);
     PlaceAll();
+    for (FormDialog* dialog : dialogs_) dialog->Draw();
     drawing_ = false;
     AwaitPaint();
 }

@@ -19,6 +19,7 @@ class QMenu;
 namespace horvanta {
 
 class ElidingLabel;
+class FormDialog;
 
 /// The main window: the menu bar and, within the frame, a window for each form.
 class Frame final : public QMainWindow, public Acts {
@@ -31,6 +32,9 @@ class Frame final : public QMainWindow, public Acts {
 
     /// Makes the window of a form around its widgets, hidden, and tells the form its size.
     void Load(Form& form, std::unique_ptr<QWidget> content);
+
+    /// Makes the window of a modal form, hidden.
+    void LoadDialog(Form& form, std::unique_ptr<QWidget> content);
 
     /// Draws what has changed, and shows the frame if it was not.
     void Draw();
@@ -92,6 +96,7 @@ class Frame final : public QMainWindow, public Acts {
     HorvantaMDI& shell_;
     QMdiArea* area_;
     std::vector<Child> children_;
+    std::vector<FormDialog*> dialogs_;
     std::vector<std::pair<MenuItem*, QAction*>> actions_;
     ElidingLabel* status_;
     bool toldStatus_ = false;  ///< During the present act.

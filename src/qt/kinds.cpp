@@ -14,6 +14,7 @@
 #include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
+#include <QProgressBar>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QStyleOptionGroupBox>
@@ -130,6 +131,7 @@ struct TextFieldFace final : FaceOf<TextField, QLineEdit> {
         by.setMinimumWidth(by.fontMetrics().horizontalAdvance(withMargins));
     }
     void Connect(Acts& acts) override {
+        by.setReadOnly(shown.readOnly);
         QObject::connect(&by, &QLineEdit::textEdited, &by,
                          [this](const QString& typed) { shown.Edit(typed.toStdString()); });
         QObject::connect(&by, &QLineEdit::returnPressed, &by, [this, &acts] { Leave(acts); });
@@ -216,6 +218,15 @@ struct ChoiceListFace final : FaceOf<ChoiceList, QComboBox> {
     std::vector<std::string> items_;  ///< As they stand in the widget.
 };
 
+struct ProgressBarFace final : FaceOf<ProgressBar, QProgressBar> {
+    using FaceOf::FaceOf;
+
+    void DrawKind() override {
+        by.setRange(0, shown.maximum);
+        by.setValue(shown.value);
+    }
+};
+
 struct Kind {
     std::unique_ptr<Face> (*make)(Control& control, QWidget& widget);  ///< Null unless both are of the kind.
     bool (*isShownBy)(const QWidget& widget);
@@ -240,6 +251,7 @@ constexpr Kind kinds[] = {
     KindOf<TextFieldFace>,
     KindOf<GroupBoxFace>,
     KindOf<ChoiceListFace>,
+    KindOf<ProgressBarFace>,
     KindOf<OwnFace<UpDown, UpDownWidget>>,
     KindOf<OwnFace<StatusBar, StatusBarWidget>>,
     KindOf<OwnFace<CellGrid, CellGridWidget>>,

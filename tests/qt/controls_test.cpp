@@ -25,8 +25,10 @@ class ControlsTest final : public QObject {
 
     void everyControlHasItsWidgetAndEveryWidgetItsControl() {
         Session session;
-        for (Form* form : session.program.Forms()) {
-            QWidget* content = session.Window(*form)->widget();
+        std::vector<Form*> forms = session.program.Forms();
+        for (Form* dialog : session.program.Dialogs()) forms.push_back(dialog);
+        for (Form* form : forms) {
+            QWidget* content = form->modal ? session.Dialog(*form) : session.Window(*form)->widget();
             std::set<QString> controls;
             for (Control* control : form->controls) {
                 const QString name = QString::fromStdString(control->name);

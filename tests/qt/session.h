@@ -69,6 +69,10 @@ struct Session {
         return frame().findChild<QMdiSubWindow*>(QString::fromStdString(form.name));
     }
 
+    QWidget* Dialog(const horvanta::Form& form) {
+        return frame().findChild<QDialog*>(QString::fromStdString(form.name));
+    }
+
     /// A box that was closed leaves no window active for a while, and a window manager that has just been started
     /// forgets what it is asked.
     void AwaitActive() {

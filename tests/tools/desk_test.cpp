@@ -51,7 +51,7 @@ TEST(Desk, AnswersEveryLineWithOne) {
 
 void AddMenuLines(const MenuItem& menu, std::vector<std::string>& lines) {
     for (const MenuItem* item : menu.items) {
-        if (item->name == "QuitSubMenu") continue;
+        if (item->name == "QuitSubMenu" || item->name == "ReportS") continue;  // they end it, or write files
         if (item->Click) lines.push_back("menu " + item->name);
         AddMenuLines(*item, lines);
     }

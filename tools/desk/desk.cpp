@@ -93,6 +93,8 @@ std::string ShownText(const Control& control) {
     } else if (const auto* moon = dynamic_cast<const MoonPicture*>(&control)) {
         for (const double x : {moon->look.lit, moon->look.turn, moon->look.size}) texts.push_back(GeneralText(x));
         texts.emplace_back(moon->look.up ? "up" : "down");
+    } else if (const auto* progress = dynamic_cast<const ProgressBar*>(&control)) {
+        return std::to_string(progress->value) + "/" + std::to_string(progress->maximum);
     } else if (const auto* list = dynamic_cast<const ChoiceList*>(&control)) {
         texts = list->items;
         texts.push_back("selected=" + std::to_string(list->selected));
@@ -122,6 +124,7 @@ std::string Joined(const std::vector<std::string>& items) {
 Desk::Desk(const StoredSettings& settings) {
     desktop.settings.values = settings;
     CurrentDesktop = &desktop;
+    desktop.duringEvents = [this] { ObeyWaiting(); };
     program.Start();
     desktop.Settle();
 }
@@ -143,6 +146,7 @@ std::string Desk::Obey(std::string_view line) try {
         {"answer", &Desk::Answer},     {"show", &Desk::Show},
         {"events", &Desk::Events},     {"asked", &Desk::Asked},
         {"status", &Desk::Status},     {"edit", &Desk::Edit},
+        {"during", &Desk::During},
     };
     std::string_view rest = line;
     const std::string_view name = TakeWord(rest);
@@ -201,13 +205,14 @@ std::string Desk::Menu(std::string_view rest) {
     MenuItem* item = rest.empty() ? nullptr : program.frame.menuBar.Find(rest);
     if (!item || !item->Click) throw BadLine("no such menu item: " + std::string(rest));
     if (!item->isEnabled()) throw BadLine("not enabled: " + std::string(rest));
+    RequireHeard(program.frame.name);
     item->Click();
     return "ok";
 }
 
 Control& Desk::ControlInReach(std::string_view name) const {
     Control& control = ControlNamed(name);
-    if (!isInReach(control)) throw BadLine("not in reach: " + std::string(name));
+    if (!isInReach(control) || !desktop.isHeard(control)) throw BadLine("not in reach: " + std::string(name));
     return control;
 }
 
@@ -315,7 +320,8 @@ std::string Desk::DblClick(std::string_view rest) { return Act(rest, &Control::D
 std::string Desk::RightClick(std::string_view rest) {
     const Form& form = FormNamed(rest.substr(0, rest.find('.')));
     if (rest != form.name && ControlInReach(rest).RightClick) return Act(rest, &Control::RightClick);
-    if (!form.visible) throw BadLine("not in reach: " + std::string(rest));
+    if (!form.visible || !form.OpenMenu) throw BadLine("not in reach: " + std::string(rest));
+    RequireHeard(form.name);
     form.OpenMenu();
     return "ok";
 }
@@ -330,6 +336,7 @@ std::string Desk::Close(std::string_view rest) {
     if (!isFrame && !FormNamed(rest).visible) throw BadLine("not in reach: " + std::string(rest));
     const std::function<void()>& close = isFrame ? program.frame.Close : FormNamed(rest).Close;
     if (!close) throw BadLine("can't be closed: " + std::string(rest));
+    RequireHeard(rest);
     close();
     return "ok";
 }
@@ -364,6 +371,22 @@ std::string Desk::Answer(std::string_view rest) {
     return "ok";
 }
 
+/// A number before the line says how many rounds go by before it.
+std::string Desk::During(std::string_view rest) {
+    std::string_view line = rest;
+    const auto rounds = ParseNumber(TakeWord(line));
+    waiting_.push_back({rounds ? WholeNumber(*rounds) : 0, std::string(rounds ? line : rest)});
+    return "ok";
+}
+
+void Desk::ObeyWaiting() {
+    if (waiting_.empty() || waiting_.front().rounds-- > 0) return;
+    const std::string line = waiting_.front().line;
+    waiting_.pop_front();
+    const std::string answer = Obey(line);
+    desktop.asked.push_back("during " + Quoted(line) + " " + answer);
+}
+
 std::string Desk::Show(std::string_view rest) {
     const Form& form = FormNamed(rest);
     std::vector<std::string> items{form.name + " " + Quoted(form.text) + (form.visible ? "" : " hidden")};
@@ -390,10 +413,15 @@ std::string Desk::Status(std::string_view) { return Quoted(desktop.status); }
 std::string Desk::Asked(std::string_view) { return Joined(std::exchange(desktop.asked, {})); }
 
 Form& Desk::FormNamed(std::string_view name) const {
-    for (Form* form : program.Forms()) {
+    for (Form* form : desktop.forms) {
         if (form->name == name) return *form;
     }
     throw BadLine("no such window: " + std::string(name));
+}
+
+void Desk::RequireHeard(std::string_view name) const {
+    const Form* modal = desktop.ModalForm();
+    if (modal ? modal->name != name : desktop.busy) throw BadLine("not in reach: " + std::string(name));
 }
 
 Control& Desk::ControlNamed(std::string_view name) const {

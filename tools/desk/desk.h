@@ -3,6 +3,7 @@
 #include "app/horvanta.h"
 #include "recording_desktop.h"
 
+#include <deque>
 #include <functional>
 #include <string>
 #include <string_view>
@@ -43,6 +44,8 @@ class Desk {
     std::string Asked(std::string_view rest);
     std::string Status(std::string_view rest);
 
+    std::string During(std::string_view rest);
+
     std::string Choose(std::string_view rest);
     std::string ClickCell(CellGrid& grid, std::string_view number);
     std::string ClickCell(const Grid& grid, std::string_view place);
@@ -53,6 +56,18 @@ class Desk {
     Control& ControlNamed(std::string_view name) const;
     Control& ControlInReach(std::string_view name) const;
     Form& FormNamed(std::string_view name) const;
+
+    /// Throws if a window of that name can't be acted on, because another one keeps the user from it.
+    void RequireHeard(std::string_view name) const;
+
+    /// Obeys the first of the lines that wait, once its time has come.
+    void ObeyWaiting();
+
+    struct Waiting {
+        int rounds;  ///< How often events are to run before.
+        std::string line;
+    };
+    std::deque<Waiting> waiting_;
 };
 
 }  // namespace horvanta

@@ -47,6 +47,23 @@ void RecordingDesktop::LoadForm(Form& form) {
     forms.push_back(&form);
 }
 
+void RecordingDesktop::LetEventsRun() {
+    Settle();
+    const bool before = std::exchange(busy, true);
+    if (duringEvents) duringEvents();
+    busy = before;
+}
+
+const Form* RecordingDesktop::ModalForm() const {
+    const auto found = std::ranges::find_if(forms, [](const Form* form) { return form->modal && form->visible; });
+    return found == forms.end() ? nullptr : *found;
+}
+
+bool RecordingDesktop::isHeard(const Control& control) const {
+    const Form* modal = ModalForm();
+    return (!modal || modal == &control.form) && (!busy || control.whileBusy);
+}
+
 void RecordingDesktop::Beep() { asked.emplace_back("beep"); }
 
 BoxAnswer RecordingDesktop::NextAnswer() {
@@ -89,6 +106,17 @@ std::optional<std::string> RecordingDesktop::ChooseFile(std::string_view title) 
     return chosen ? std::optional(answer.typed) : std::nullopt;
 }
 
+std::optional<std::string> RecordingDesktop::ChooseNewFile(std::string_view title, const std::string& name,
+                                                           const std::vector<FileKind>& kinds) {
+    const BoxAnswer answer = NextAnswer();
+    const bool chosen = answer.kind == BoxAnswer::text;
+    std::string record = "save " + Quoted(title) + " " + Quoted(name);
+    for (const FileKind& kind : kinds)
+        record += " " + Quoted(std::string(kind.name) + " *." + std::string(kind.extension));
+    asked.push_back(record + " " + (chosen ? Quoted(answer.typed) : "cancel"));
+    return chosen ? std::optional(answer.typed) : std::nullopt;
+}
+
 void RecordingDesktop::Tell(std::string_view message, std::string_view title) {
     asked.push_back("box " + Quoted(title) + " " + Quoted(message));
 }
@@ -125,7 +153,7 @@ void RecordingDesktop::SetClipboard(const std::string& text) { asked.push_back("
 /// A focused button keeps Space and Enter, a text field Enter and what it uses itself; other keys go to the focused
 /// window. A control that was hidden or disabled since has no keys any more, but its window has.
 bool RecordingDesktop::Press(int code, int shift) {
-    if (!focused || !focused->form.visible) return false;
+    if (!focused || !focused->form.visible || !isHeard(*focused)) return false;
     const bool reached = isInReach(*focused);
     auto* field = dynamic_cast<TextField*>(focused);
     if (reached && field && code == KeyEscape && field->Restore()) return true;
@@ -143,14 +171,14 @@ bool RecordingDesktop::Press(int code, int shift) {
 }
 
 bool RecordingDesktop::Type(TextField& field, std::string_view text) {
-    if (!Focus(field)) return false;
+    if (field.readOnly || !Focus(field)) return false;
     field.Edit(std::string(text));
     LeaveField();
     return true;
 }
 
 bool RecordingDesktop::Edit(TextField& field, std::string_view text) {
-    if (!Focus(field)) return false;
+    if (field.readOnly || !Focus(field)) return false;
     field.Edit(std::string(text));
     return true;
 }

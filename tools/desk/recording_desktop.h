@@ -11,6 +11,9 @@
 
 namespace horvanta {
 
+/// A text within double quotes, with quotes, backslashes and line ends escaped.
+std::string Quoted(std::string_view text);
+
 /// Settings that last as long as the object.
 class MemorySettings final : public SettingsStore {
   public:
@@ -44,16 +47,20 @@ class RecordingDesktop : public Desktop {
   public:
     void LoadFrame(HorvantaMDI& frame) override { frame_ = &frame; }
     void LoadForm(Form& form) override;
-    void LetEventsRun() override { Settle(); }
+    void LetEventsRun() override;
     void Beep() override;
     void ShowStatus(std::string_view line) override { status = line; }
     bool AskYesNo(std::string_view question, std::string_view title) override;
     YesNoCancel AskYesNoCancel(std::string_view question, std::string_view title) override;
+    bool AskOkCancel(std::string_view question, std::string_view title) override { return AskYesNo(question, title); }
     std::optional<std::string> AskText(std::string_view prompt, std::string_view title,
                                        std::string_view initial) override;
     std::optional<std::string> ChooseFile(std::string_view title) override;
+    std::optional<std::string> ChooseNewFile(std::string_view title, const std::string& name,
+                                             const std::vector<FileKind>& kinds) override;
     void Tell(std::string_view message, std::string_view title) override;
     void OpenWithShell(const std::string& path) override;
+    void SelectFile(const std::string& path) override { asked.push_back("select " + Quoted(path)); }
     bool ShowInformation(std::string_view text, std::string_view title) override;
     std::optional<std::size_t> ChooseFromMenu(const std::vector<std::string>& captions) override;
     void ArrangeWindows() override { asked.emplace_back("arrange"); }
@@ -69,6 +76,12 @@ class RecordingDesktop : public Desktop {
     bool Edit(TextField& field, std::string_view text);  ///< Without leaving the field.
     bool Focus(Control& control);
 
+    /// The window that keeps the user from the others; null if there is none.
+    const Form* ModalForm() const;
+
+    /// Whether the user can act on a control, as far as other windows and long commands go.
+    bool isHeard(const Control& control) const;
+
     /// Grants the wishes for focus, as a drawing desktop does when an act has returned.
     void Settle();
 
@@ -76,6 +89,8 @@ class RecordingDesktop : public Desktop {
     std::string status;              ///< The line in the status bar.
     std::deque<BoxAnswer> answers;
     std::vector<Form*> forms;
+    std::function<void()> duringEvents;  ///< What else happens when a long command lets events run.
+    bool busy = false;                   ///< It does just now.
     Control* focused = nullptr;
     LocalClock clock{19737, 0.4375};  // January 15, 2024 at 10:30
     MemorySettings settings;
@@ -95,8 +110,5 @@ bool isInReach(const Control& control);
 
 /// True for buttons, check boxes and option buttons, which take the focus when they are clicked, and keys as clicks.
 bool TakesClicks(const Control& control);
-
-/// A text within double quotes, with quotes, backslashes and line ends escaped.
-std::string Quoted(std::string_view text);
 
 }  // namespace horvanta
