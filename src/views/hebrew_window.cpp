@@ -157,7 +157,9 @@ void HebrewWindow::Update() {
     HebrewDate.text = HebrewDateString(today.date, true, false, true) + " ";
     const bool begun = today.date.Fixed >= HebrewEpoch;
     for (Control* control : form.controls) control->enabled = begun;
-    if (begun) {
+    if (!begun) {
+        HebrewCycleInfo.text = "Before the calendar's first year";
+    } else {
         ShowYear(today.date);
         day_events::AddAll(form.text, HebrewShortDateString(today.date, false), EventsOf(today, tomorrow), HebrewDate);
     }
