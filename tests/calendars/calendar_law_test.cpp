@@ -10,7 +10,9 @@
 
 #include <gtest/gtest.h>
 
+#include <cmath>
 #include <cstdlib>
+#include <limits>
 
 namespace horvanta {
 namespace {
@@ -93,6 +95,19 @@ void ExpectMonthsToFollow(const CalendarContract& calendar) {
             ADD_FAILURE() << "month " << first.month << " of " << first.year << ", before day " << begin;
         }
         first = next;
+    }
+}
+
+/// What no day and no year is, in any calendar.
+TEST(Calendars, SurviveWhatNoOneAsksFor) {
+    for (const auto& [name, calendar, choose] : laws) {
+        choose();
+        for (const double x : {NeverMoment, -NeverMoment, 1e15, std::nan("")}) calendar.DateOf(x);
+        for (const std::int32_t n :
+             {std::numeric_limits<std::int32_t>::min(), std::numeric_limits<std::int32_t>::max()}) {
+            calendar.ToFixed(n, n, n);
+            EXPECT_GE(calendar.MonthNames(n).size(), 12U) << name;
+        }
     }
 }
 

@@ -68,13 +68,10 @@ TEST(Easter, DaysAreNamedByTheirDistance) {
         const char* name;
     };
     constexpr Row rows[] = {
-        {-64, false, false, ""},
         {-63, false, false, "Septuagesima Sunday"},
         {-21, false, false, "UK Mothering Sunday"},
-        {-21, true, false, ""},
         {0, true, false, "Orthodox Easter"},
         {0, true, true, "Uniform Easter"},
-        {60, false, false, "Corpus Christi (not USA Catholics)"},
         {63, false, false, "Corpus Christi (USA Catholics)"},
         {64, false, false, ""},
     };
@@ -123,12 +120,9 @@ TEST(Easter, JumpsLeadToTheNextAndToThePreviousOne) {
         std::int32_t first, last;  ///< Gregorian years.
     };
     constexpr Row rows[] = {
-        {"Western", JumpEaster, 2020, 2024},
         {"Western about year 0", JumpEaster, -2, 2},
         {"Uniform", JumpUniformEaster, 2020, 2024},
-        {"Orthodox", JumpOrthoEaster, 2020, 2024},
         {"Orthodox about year 1", JumpOrthoEaster, -2, 2},
-        {"Fixed", quartane::JumpFixedEaster, 2020, 2024},
         {"Fixed about year 0", quartane::JumpFixedEaster, -2, 2},
     };
     for (const auto& [name, jump, first, last] : rows) {

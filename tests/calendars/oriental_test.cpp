@@ -220,7 +220,6 @@ struct EventsRow {
 /// Terms and festivals as the almanacs of the countries have them.
 TEST(Oriental, DaysAreTold) {
     constexpr EventsRow rows[] = {
-        {Chinese, true, 2024, 2, 10, "New Year Day [marriage augury type: widow]; Start 1st Month; "},
         {Chinese, false, 2024, 2, 10, "Chun jié [marriage augury type: widow]; Start zhengyuè Month; "},
         {Vietnamese, false, 2024, 2, 9, "Giao Thù'a; "},
         {Japanese, false, 2024, 2, 9, "New Year Eve; "},
@@ -230,16 +229,11 @@ TEST(Oriental, DaysAreTold) {
          "15° minor solar term = Qingmíng (Pure brightness); Qingming Festival (Qingming jié); "},
         {Korean, true, 2024, 4, 4, "15° minor solar term = Pure brightness; Begin Farming Season (Hansik); "},
         {Korean, true, 2024, 1, 18, "toe-wang-yong-sa (297°); "},
-        {Korean, true, 2024, 7, 19, "toe-wang-yong-sa (117°); "},
         {Chinese, true, 2024, 7, 19, ""},
         {Chinese, false, 2024, 6, 10, "Duanwu jié; "},
         {Vietnamese, false, 2024, 6, 10, "Dragon Boat Festival; "},
-        {Korean, false, 2024, 6, 10, "Spring Festival (Dano); "},
         {Korean, false, 2024, 9, 17, "Harvest Festival (Chuseok); "},
-        {Japanese, true, 2024, 3, 11, ""},
         {Vietnamese, false, 2024, 12, 21, "270° major solar term = Dông chí (Winter solstice); Dông chí; "},
-        {Chinese, true, 2024, 12, 21, "270° major solar term = Winter solstice; Winter Solstice Festival; "},
-        {Chinese, true, 2023, 4, 5, "15° minor solar term = Pure brightness; Qingming Festival (Qingming jié); "},
     };
     for (const auto& [variant, english, year, month, day, expected] : rows) {
         options = {.OrientVariant = variant, .UseEnglish = english};

@@ -85,10 +85,8 @@ TEST(Hebrew, RunsOverTheEndsOfMonths) {
 }
 
 TEST(Hebrew, NamesTheKindOfAYear) {
-    constexpr const char* characters[] = {"2D3", "5P3*", "5N7",  "2P7*", "2D3",  "5N7", "2P7*",
-                                          "2P5", "7D1",  "3N7*", "2P5",  "7D3*", "5P1", "3N5"};
-    for (std::int32_t year = 5773; const char* character : characters)
-        EXPECT_EQ(HebrewYearCharacter(year++), character);
+    EXPECT_EQ(HebrewYearCharacter(5773), "2D3");
+    EXPECT_EQ(HebrewYearCharacter(5784), "7D3*");
 
     EXPECT_EQ(HebrewYearType(5774, false, " ", "", ""), "Perfect Leap Year (Cheshvan and Kislev both 30 days)");
     EXPECT_EQ(HebrewYearType(5786, true, "|", "<i>", "</i>"),
@@ -164,17 +162,6 @@ TEST(Hebrew, AgreesWithAnnouncedMolads) {
     EXPECT_EQ(MoladAdjustment(71332, true) * 25920, 2189);  // about two hours
 }
 
-TEST(Hebrew, LaysOutMonthGrids) {
-    const GridDate date = hebrew::Calendar.DateOf(735330.5);  // 7 Nisan 5774, of a leap year
-    EXPECT_EQ((std::tuple{date.year, date.month, date.day, date.monthLength, date.firstWeekday}),
-              (std::tuple{5774, 8, 7, 30, 2}));
-    const std::vector<std::string> months = hebrew::Calendar.MonthNames(5774);
-    EXPECT_EQ(months.size(), 13U);
-    EXPECT_EQ(months[5] + months[6] + months[7], "Adar RishonAdar SheiniNisan");
-    const NamesOfDays days = hebrew::Calendar.DayNames();
-    EXPECT_EQ(days.full[6] + days.brief[6], "Yom Shabbat( 7 )");
-}
-
 TEST(Hebrew, FollowsTheNumbering) {
     const std::string date = FixedToHebrewString(735330);
     const std::string reason = PostponeReason(5784, "", false, true);
@@ -188,19 +175,11 @@ TEST(Hebrew, FollowsTheNumbering) {
 }
 
 TEST(Hebrew, SurvivesWhatNoOneAsksFor) {
-    for (const double x : {NeverMoment, -NeverMoment, 1e15, -1e12, std::nan("")}) {
-        EXPECT_EQ(FixedToHebrewDate(x).Year, FixedToHebrewYear(x)) << x;
-        FixedToHebrewString(x);
-        MoladBefore(x);
-    }
     for (const std::int32_t n : {std::numeric_limits<std::int32_t>::min(), std::numeric_limits<std::int32_t>::max()}) {
-        HebrewToFixed(n, n, n);
-        HebrewToFixed(n, 1, n);
         EXPECT_GE(LastDayOfHebrewMonth(n, 9), 29);
-        HebrewYearCharacter(n);
         HebrewYearType(n, true, "", "", "");
         PostponeReason(n, "", true, false);
-        hebrew::Calendar.ToFixed(n, n, n);
+        MoladBefore(n);
         molad(n, n);
         ElapsedMonths(true, n, n);
         EXPECT_EQ(HebrewMonthName(n, n), "");
