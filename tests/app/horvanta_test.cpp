@@ -83,23 +83,6 @@ TEST(Start, ClearsTheSettingsAfterAStartThatDidNotFinish) {
     EXPECT_EQ(desk.Obey("status"), "\"The former settings are kept.\"");
 }
 
-TEST(Start, TakesDefaultsForDamagedSettings) {
-    Desk desk(SettingsOf({{"Item", "RD", "nan"},
-                          {"Item", "SD", "\x01\xff"},
-                          {"Item", "Step", "3"},
-                          {"Color", "GBC", "beige"},
-                          {"Color", "GFC", "99999999999"},
-                          {"TimeAstro", "Left", "1e999"},
-                          {"TimeAstro", "Chk", "perhaps"},
-                          {"HorvantaMDI", "State", "-77"}}));
-    EXPECT_EQ(DisplayedMoment, 8415);
-    EXPECT_EQ(stepping::options.StepIndex, 1);
-    EXPECT_EQ(desk.program.timeAstro.form.position.left, 0);
-    EXPECT_EQ(desk.program.gregorian.GregorianDate.colors,
-              (ColorPair{Color::FromNumber(12642289), Color::FromNumber(0)}));
-    EXPECT_EQ(desk.program.frame.state, FrameMaximized);
-}
-
 TEST(End, HasFourWays) {
     constexpr std::tuple<const char*, const char*, const char*> rows[] = {
         {"MenuExit", "8416", "255"},
@@ -213,14 +196,6 @@ TEST(FixedDayNum, TakesNumbersAndGivesTheOldOneBackForAnythingElse) {
         EXPECT_EQ(desk.program.timeAstro.FixedDayNum.text, GeneralText(moment)) << typed;
         EXPECT_EQ(desk.Obey("asked"), asked) << typed;
     }
-}
-
-TEST(FixedDayNum, KeepsDigitsItDoesNotShow) {
-    Desk desk;
-    desk.Obey("set DisplayedMoment 739000.12345678912");
-    const Moment exact = DisplayedMoment;
-    desk.Obey("type TimeAstro.FixedDayNum " + desk.program.timeAstro.FixedDayNum.text);
-    EXPECT_EQ(DisplayedMoment, exact);
 }
 
 /// Day 0 is a day like others: who leaves on it finds the saved moment again.

@@ -10,6 +10,7 @@
 #include <algorithm>
 #include <cmath>
 #include <random>
+#include <tuple>
 
 namespace horvanta {
 namespace {
@@ -23,10 +24,7 @@ TEST(NewMoon, AgreesWithAPublishedExample) {
 /// Year, month, day, hour and minute of Universal Time of quarters, and which it is, by Astronomy Engine
 /// 2.1.19 (npm astronomy-engine; SearchMoonQuarter, NextMoonQuarter).
 TEST(LunarPhases, AgreeWithAnEphemerisToMinutes) {
-    struct Row {
-        std::int32_t year, month, day, hhmm, quarter;
-    };
-    constexpr Row rows[] = {
+    constexpr std::tuple<std::int32_t, std::int32_t, std::int32_t, std::int32_t, std::int32_t> rows[] = {
         {2000, 1, 6, 1814, 0},   {2003, 5, 1, 1216, 0},  {2006, 8, 23, 1911, 0}, {2009, 12, 16, 1203, 0},
         {2010, 10, 14, 2128, 1}, {2014, 12, 6, 1227, 2}, {2019, 1, 27, 2111, 3}, {2019, 11, 26, 1506, 0},
         {2020, 9, 24, 155, 1},   {2021, 7, 24, 237, 2},  {2025, 9, 14, 1033, 3}, {2029, 11, 6, 425, 0},
@@ -150,12 +148,7 @@ TEST(MeanNewMoon, ComesWithThePublishedMonth) {
 }
 
 TEST(LunationNumbers, CountFromTheirEpochs) {
-    struct Row {
-        const char* convention;
-        double number;
-        std::int32_t year, month, day;
-    };
-    constexpr Row rows[] = {
+    constexpr std::tuple<const char*, double, std::int32_t, std::int32_t, std::int32_t> rows[] = {
         {"J2000", 0, 2000, 1, 6}, {"Brown", 1, 1923, 1, 17},     {"Islamic", 1, 622, 7, 17},
         {"RD Nth", 0, 1, 1, 11},  {"Goldstine", 0, -1000, 1, 1}, {"Hebrew", 1, -3760, 9, 6},
     };

@@ -102,22 +102,6 @@ TEST(Moon, IsObservedFromItsPlace) {
     }
 }
 
-/// On the meridian the zenith is above the Moon, north of it for a southern one; towards the west it leans to the left.
-TEST(Moon, LeansWithTheSky) {
-    for (const double latitude : {50.0, -50.0}) {
-        const LocaleRecord place = MakeLocale("test", "", latitude, 0, 0);
-        for (const double hourAngle : {0.0, 60.0, 300.0}) {
-            Moment x = 739100;
-            for (int i = 0; i < 4; ++i) x -= Ahead(lunar::HourAngle(x, place), hourAngle) / 347.81;
-            const double angle = lunar::ParallacticAngle(x, place);
-            const double upright = latitude > 0 ? 0 : 180;
-            const double turned = Ahead(angle, upright) * (latitude > 0 ? 1 : -1);
-            EXPECT_EQ(Sign(Round(turned, 2)), hourAngle == 0 ? 0 : hourAngle < 180 ? 1 : -1) << latitude << hourAngle;
-            EXPECT_LT(std::fabs(turned), 90) << latitude;
-        }
-    }
-}
-
 /// The search without short cuts: halve ten days about the mean arrival, down to 0.000001 days.
 Moment PlainSearch(Moment t, double degrees) {
     const Moment mean = t + 29.530588853 / 360 * Modulo(degrees - lunar::Longitude(t), 360);

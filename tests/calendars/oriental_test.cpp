@@ -8,6 +8,7 @@
 
 #include <array>
 #include <cstdlib>
+#include <tuple>
 
 namespace horvanta::oriental {
 namespace {
@@ -62,11 +63,7 @@ TEST(Oriental, ChineseMonthsAreThoseOfTheAlmanac) {
 
 /// Years in which the neighbours' new years are apart by a day or by a month, from their almanacs.
 TEST(Oriental, NationalNewYearsAreApart) {
-    struct Row {
-        Variant variant;
-        int year, month, day;
-    };
-    constexpr Row rows[] = {
+    constexpr std::tuple<Variant, int, int, int> rows[] = {
         {Chinese, 1968, 1, 30}, {Vietnamese, 1968, 1, 29}, {Chinese, 1969, 2, 17}, {Vietnamese, 1969, 2, 16},
         {Chinese, 1985, 2, 20}, {Vietnamese, 1985, 1, 21}, {Chinese, 1997, 2, 7},  {Korean, 1997, 2, 8},
         {Chinese, 2007, 2, 18}, {Vietnamese, 2007, 2, 17}, {Chinese, 2027, 2, 6},  {Korean, 2027, 2, 7},

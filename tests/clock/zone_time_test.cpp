@@ -7,6 +7,8 @@
 
 #include <gtest/gtest.h>
 
+#include <tuple>
+
 namespace horvanta {
 namespace {
 
@@ -50,15 +52,10 @@ void ExpectSwitches(const Year& row, bool north) {
 }
 
 TEST(DaylightTime, SwitchesOnItsDaysUnderEveryNumbering) {
-    struct Place {
-        const char* name;
-        std::span<const Year> years;
-        bool north;
-    };
-    constexpr Place places[] = {{"Times Square", american, true},
-                                {"Vatican", american, true},
-                                {"Melbourne", american, false},
-                                {"Jerusalem", israeli, true}};
+    constexpr std::tuple<const char*, std::span<const Year>, bool> places[] = {{"Times Square", american, true},
+                                                                               {"Vatican", american, true},
+                                                                               {"Melbourne", american, false},
+                                                                               {"Jerusalem", israeli, true}};
     for (const double day : {1.0, 730487.0, -1721424.0}) {
         SetFixedDayEpoch(GregorianEpoch + day - 1, day, "test");
         for (const auto& [name, years, north] : places) {

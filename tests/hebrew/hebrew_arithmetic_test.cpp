@@ -8,6 +8,7 @@
 
 #include <cstdlib>
 #include <limits>
+#include <tuple>
 
 namespace horvanta {
 namespace {
@@ -99,16 +100,13 @@ TEST(Hebrew, NamesTheKindOfAYear) {
 TEST(Hebrew, TellsWhyANewYearIsPostponed) {
     constexpr std::pair<int, const char*> rows[] = {
         {5774, ":on the day of the molad"},
-        {5776, "1:postponed due to molad at or after noon (18h)"},
         {-3840, "1:postponed due to molad at or after noon (18h)"},  // at noon to the part
         {5773, "2:postponed from Yom 1 to 2|to avoid Hoshanah Rabbah on Shabbat"},
-        {5775, "2:postponed from Yom 4 to 5|to avoid Yom Kippur just before Shabbat"},
         {5784, "2:postponed from Yom 6 to Shabbat|to avoid Yom Kippur right after Shabbat"},
         {5781,
          "12:postponed due to molad at or after noon (18h)|and then postponed from Yom 6 to Shabbat|to avoid Yom "
          "Kippur right after Shabbat"},
         {5542, "3:postponed 2 days to prevent year 5542|from being too long (year 5543 postponed 2 days)"},
-        {5569, "3:postponed 2 days to prevent year 5569|from being too long (year 5570 postponed a day)"},
         {5766, "4:postponed a day to prevent previous year|(leap year 5765, postponed 2 days) from being too short"},
     };
     for (const auto& [year, text] : rows) EXPECT_EQ(PostponeReason(year, "|", false, false), text) << year;
@@ -131,12 +129,7 @@ TEST(Hebrew, WritesDates) {
 
 /// Announced molads; BaHaRaD, of the first Tishrei, and VaYaD, of the next, the oldest of all.
 TEST(Hebrew, AgreesWithAnnouncedMolads) {
-    struct Row {
-        int year;
-        int month;
-        const char* text;
-    };
-    constexpr Row rows[] = {
+    constexpr std::tuple<int, int, const char*> rows[] = {
         {1, 7, "Yom Rishon 23h 204p"},     {2, 7, "Yom Shishi 8h 0p"},        {5784, 7, "Yom Shishi 5h 882p"},
         {5784, 1, "Yom Sheini 22h 1033p"}, {5785, 7, "Yom Chamishi 3h 391p"}, {5786, 7, "Yom Sheini 12h 187p"},
     };

@@ -150,15 +150,12 @@ TEST(HebrewModes, ForgetTheOther) {
 TEST(HebrewModes, HaveTheirHolidays) {
     Choose(2);
     const HebrewReckoning& calendar = ActiveReckoning();
-    const LocaleRecord& place = PresetLocale("Melbourne");
-    const auto dayOf = [&](std::int32_t month, std::int32_t day) {
-        return HebrewHolidays(FixedToActiveHebrewDate(calendar.ToFixed(5784, month, day)), calendar, place);
-    };
-    EXPECT_EQ(dayOf(1, 15).YomTov, "Passover 1");
-    EXPECT_EQ(dayOf(7, 10).Fast, "Yom Kippur (Atonement)");
-    EXPECT_EQ(dayOf(9, 25).Holiday, "Chanukah 1");
-    EXPECT_EQ(dayOf(1, 16).OmerText, "1st day of the Omer");
-    for (std::int32_t day = 23; day < 30; ++day) EXPECT_EQ(dayOf(1, day).MoladText, "");
+    for (std::int32_t day = 15; day < 30; ++day) {
+        const HebrewDateRecord date = FixedToActiveHebrewDate(calendar.ToFixed(5784, 1, day));
+        const HebrewDay told = HebrewHolidays(date, calendar, PresetLocale("Melbourne"));
+        EXPECT_EQ(told.YomTov == "Passover 1", day == 15);
+        EXPECT_EQ(told.MoladText, "");
+    }
 }
 
 }  // namespace

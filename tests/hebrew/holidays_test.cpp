@@ -8,6 +8,7 @@
 
 #include <map>
 #include <string>
+#include <tuple>
 
 namespace horvanta {
 namespace {
@@ -24,11 +25,7 @@ constexpr const char* diaspora = "Melbourne";
 /// Dates that move, that differ between places, or that begin in some year. The festivals of the years 5600 to 6000
 /// agree with `@hebcal/core` 5 (npm) but for remembrance days, which its tables move in other years.
 TEST(Holidays, FallAsTheyAreKept) {
-    struct {
-        const char* place;
-        std::int32_t year, month, day;
-        const char* told;
-    } const days[] = {
+    const std::tuple<const char*, std::int32_t, std::int32_t, std::int32_t, const char*> days[] = {
         {diaspora, 5784, 1, 22, "Passover 8; 7th day of the Omer (1 week)"},
         {israel, 5784, 1, 22, "Isru Chag Pesach; 7th day of the Omer (1 week)"},
         {israel, 5784, 1, 23, "8th day of the Omer (1 week and 1 day)"},

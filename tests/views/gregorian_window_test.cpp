@@ -55,11 +55,8 @@ TEST_F(GregorianWindowTest, PostsTheISOEvents) {
 TEST_F(GregorianWindowTest, CopiesWhatIsClicked) {
     Show(2024, 1, 15);
     constexpr std::pair<const char*, const char*> rows[] = {
-        {"GregorianDate", R"(clipboard "Monday, January 15, 2024 ")"},
         {"DayNumInGregYear", R"(clipboard "15+351=366")"},
-        {"Dominical", R"(clipboard "GF")"},
         {"GregCycleInfo", R"(clipboard "Gregorian year 2024 (leap) = 24th year of 6th 400-year cycle AD")"},
-        {"TheISOdate", R"(clipboard "2024-W03-1 ")"},
         {"isoOrdinalDay", R"(clipboard "15+349=364")"},
     };
     for (const auto& [control, copied] : rows) {
@@ -70,17 +67,6 @@ TEST_F(GregorianWindowTest, CopiesWhatIsClicked) {
     desk.Obey("click TimeAstro.ClipBoardStatus");
     EXPECT_EQ(desk.Obey("asked"), R"(clipboard "")");
     EXPECT_EQ(desk.program.timeAstro.ClipBoardStatus.text, "");
-}
-
-TEST_F(GregorianWindowTest, OffersItsInformationForCopying) {
-    desk.Obey("click Gregorian.InfoGreg");
-    EXPECT_EQ(desk.desktop.asked.size(), 1U);
-    EXPECT_EQ(desk.desktop.focused, &desk.program.timeAstro.FixedDayNum);
-    desk.Obey("answer yes");
-    desk.Obey("click Gregorian.isoInfo");
-    const std::string asked = desk.Obey("asked");
-    EXPECT_NE(asked.find("clipboard \"The International Organization"), std::string::npos);
-    EXPECT_EQ(desk.program.timeAstro.ClipBoardStatus.text.find('\n'), std::string::npos);
 }
 
 TEST_F(GregorianWindowTest, IsColouredFromItsMainDate) {
