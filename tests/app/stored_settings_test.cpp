@@ -217,27 +217,5 @@ TEST(StoredSettings, OfACutFileAreTakenAsFarAsTheyGo) {
     }
 }
 
-TEST(StoredSettings, ChooseTheUsersOwnPlaceWithoutAQuestion) {
-    StoredSettings settings = AllRows();
-    auto& slot = settings["Horvanta-UDLs"]["User 7"];
-    slot = {{"Name", "Kfar Israel"}, {"Lat", "31.5"}, {"Long", "34.75"},
-            {"Elev", "12"},          {"Zone", "2"},   {"Chk", "True"}};
-    StoredSettings left;
-    {
-        Desk desk(settings);
-        EXPECT_EQ(Locale.Name, "Kfar Israel");
-        EXPECT_FALSE(Locale.Diaspora);
-        EXPECT_TRUE(desk.program.frame.UserLoc[7].isTicked());
-        EXPECT_FALSE(desk.program.frame.UserLoc[6].isShown());
-        EXPECT_EQ(desk.Obey("asked"), "none");
-        desk.Obey("menu SetMecca");
-        desk.Obey("menu MenuExit");
-        left = desk.desktop.settings.flushed;
-    }
-    const Desk desk(left);
-    EXPECT_EQ(Locale.Name, "Mecca");
-    EXPECT_EQ(UserLocales[7].Longitude, 34.75);
-}
-
 }  // namespace
 }  // namespace horvanta

@@ -9,7 +9,6 @@
 
 #include <algorithm>
 #include <cmath>
-#include <random>
 #include <tuple>
 
 namespace horvanta {
@@ -53,42 +52,6 @@ TEST(LunarPhases, KeepToAnEphemerisOverMillennia) {
         EXPECT_NEAR((PhaseAfter(expected - 10, phase) - expected) * 1440, 0, 10) << julianDay;
         if (phase == 0) {
             EXPECT_NEAR((NewMoonNearest(expected - 3) - expected) * 1440, 0, 10) << julianDay;
-        }
-    }
-}
-
-/// The searches without short cuts: halve four days about the mean arrival, down to 0.00001 days.
-Moment PlainSearch(Moment x, double degrees, bool after) {
-    constexpr double daysPerDegree = 29.530588853 / 360;
-    const double ahead = Modulo(after ? degrees - lunar::Phase(x) : lunar::Phase(x) - degrees, 360);
-    const Moment mean = x + (after ? 1 : -1) * daysPerDegree * ahead;
-    Moment a = after ? std::max(x, mean - 2) : mean - 2;
-    Moment b = after ? mean + 2 : std::min(x, mean + 2);
-    for (;;) {
-        const Moment m = (a + b) / 2;
-        if (b - a <= 0.00001) return m;
-        (Modulo(lunar::Phase(m) - degrees, 360) < 180 ? b : a) = m;
-    }
-}
-
-/// Each bit counts: calendars compare such moments with their boundaries.
-TEST(LunarPhases, EqualThePlainSearch) {
-    std::mt19937_64 random(19770218);
-    std::uniform_real_distribution<double> days(MinFixedDay, MaxFixedDay);
-    std::uniform_real_distribution<double> circle(0, 360);
-    std::uniform_real_distribution<double> small(-1, 1);
-    int faults = 0;
-    for (int i = 0; i < 3000 && faults < 10; ++i) {
-        SetDeltaTDisabled(i % 5 == 0);
-        const Moment x = i % 3 == 0 ? std::floor(days(random)) : days(random);
-        const double asked[] = {circle(random), 90.0 * (i % 4), lunar::Phase(x), lunar::Phase(x) + small(random)};
-        const double degrees = asked[i % 4];
-        for (const bool after : {true, false}) {
-            const Moment plain = PlainSearch(x, degrees, after);
-            const Moment found = after ? PhaseAfter(x, degrees) : PhaseBefore(x, degrees);
-            if (plain == found) continue;
-            ++faults;
-            ADD_FAILURE() << x << " to " << degrees << ": " << plain << " against " << found - plain << " more";
         }
     }
 }

@@ -12,7 +12,6 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
-#include <random>
 
 namespace horvanta {
 namespace {
@@ -32,18 +31,6 @@ TEST(Sun, AgreesWithPublishedExamples) {
     const Moment october = TerrestrialDate(1992, 10, 13);
     EXPECT_NEAR(SolarLongitude(october), 199.906, 0.001);
     EXPECT_NEAR(SolarDeclination(october), -7.78382, 0.001);
-}
-
-/// Centuries of Terrestrial Time from J2000, and arc seconds by libnova 0.16 (ln_get_nutation), to which each of the
-/// series' terms counts.
-TEST(Sun, SharesItsNutationWithAnotherProgram) {
-    constexpr std::pair<double, double> rows[] = {
-        {-30, 2.8486}, {-10, -7.4925},    {-3, -3.5313},     {-1.2345, 3.1102}, {-0.4321, 14.1666}, {-0.1273, -3.7772},
-        {0, -13.9232}, {0.1111, 18.3140}, {0.2468, -1.8293}, {0.777, -14.5354}, {2.5, 9.1543},      {9, 1.5454},
-    };
-    for (const auto& [centuries, seconds] : rows) {
-        EXPECT_NEAR(Nutation(centuries, true) * 3600, seconds, 0.0001) << centuries;
-    }
 }
 
 /// Centuries of Terrestrial Time from J2000, and the apparent longitude of date by Astronomy Engine 2.1.19 (npm
@@ -104,40 +91,6 @@ TEST(Seasons, FollowOneAnotherThroughAllYears) {
             before = season;
         }
         EXPECT_NEAR(SeasonMoment(year + 1, 0) - SeasonMoment(year, 0), 365.2424, 0.03) << year;
-    }
-}
-
-/// The search without short cuts: halve ten days about the mean Sun's arrival, down to 0.00001 days.
-Moment PlainSearch(Moment t, double degrees) {
-    constexpr double daysPerDegree = 365.242189 / 360;
-    const Moment mean = t + daysPerDegree * Modulo(degrees - SolarLongitude(t), 360);
-    Moment a = std::max(t, mean - 5);
-    Moment b = mean + 5;
-    for (;;) {
-        const Moment x = (a + b) / 2;
-        if (b - a < 0.00001) return x;
-        (Modulo(SolarLongitude(x) - degrees, 360) < 180 ? b : a) = x;
-    }
-}
-
-/// Each bit counts: calendars compare such moments with their boundaries.
-TEST(SolarLongitudeAfter, EqualsThePlainSearch) {
-    std::mt19937_64 random(20240321);
-    std::uniform_real_distribution<double> days(MinFixedDay, MaxFixedDay);
-    std::uniform_real_distribution<double> circle(0, 360);
-    std::uniform_real_distribution<double> small(-0.05, 0.05);  // the mean Sun arrives within minutes of the Sun
-    int faults = 0;
-    for (int i = 0; i < 2500 && faults < 10; ++i) {
-        SetDeltaTDisabled(i % 5 == 0);
-        const Moment t = i % 3 == 0 ? std::floor(days(random)) : days(random);
-        const double asked[] = {circle(random), 90.0 * (i % 4), SolarLongitude(t), SolarLongitude(t) + small(random)};
-        const double degrees = asked[i % 4];
-        const Moment plain = PlainSearch(t, degrees);
-        const Moment found = SolarLongitudeAfter(t, degrees);
-        if (plain != found) {
-            ++faults;
-            ADD_FAILURE() << t << " to " << degrees << ": " << plain << " against " << found - plain << " more";
-        }
     }
 }
 

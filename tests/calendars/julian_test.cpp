@@ -146,17 +146,5 @@ TEST_F(JulianWindowTest, AsksForTheYearsOfTheCounts) {
     EXPECT_EQ(window_.OlympiadCycleDecimal.text, "2");
 }
 
-/// No date, text or event depends on how the days are numbered.
-TEST_F(JulianWindowTest, IsTheSameUnderEveryNumbering) {
-    desk.Obey("click Julian.Revise");
-    for (const int year : {-6900, -1, 1, 2024}) {
-        Show(year, 1, 1);
-        const std::string shown = desk.Obey("show Julian") + desk.Obey("events Roman");
-        desk.Obey("menu SetEpochOptMenu 6");
-        EXPECT_EQ(desk.Obey("show Julian") + desk.Obey("events Roman"), shown);
-        desk.Obey("menu SetEpochOptMenu 2");
-    }
-}
-
 }  // namespace
 }  // namespace horvanta

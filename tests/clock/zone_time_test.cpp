@@ -90,13 +90,5 @@ TEST(DaylightTime, IsKeptOnlyWhereAndWhenItIsWanted) {
     }
 }
 
-TEST(DaylightTime, TellsItsSwitches) {
-    Locale = PresetLocale("Times Square");
-    EXPECT_EQ(DaylightSwitchText(DaylightStart(2024), true),
-              "Switch to Daylight Saving Time on Sunday, March 10, 2024 at 02:00 h");
-    EXPECT_EQ(DaylightSwitchText(DaylightEnd(2024), false),
-              "Switch to Standard Time on Sunday, November 3, 2024 at 02:00 h");
-}
-
 }  // namespace
 }  // namespace horvanta

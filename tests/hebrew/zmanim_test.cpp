@@ -55,18 +55,14 @@ TEST(Zmanim, LightCandles) {
         days[] = {
             {"Times Square", 5784, 1, 4, "<", "18 minutes before sunset", "Three Stars"},  // Friday
             {"Times Square", 5784, 1, 5, "", "", "Shabbat Ends"},
-            {"Times Square", 5784, 1, 12, "", "", "Shabbat HaGadol Ends"},
-            {"Times Square", 5784, 1, 14, "<", "18 minutes before sunset", "Three Stars"},
             {"Times Square", 5784, 1, 15, ">", "after Yom Tov ends", "Passover 1 Ends"},
             {"Jerusalem", 5784, 1, 15, "", "", "Passover Ends"},
-            {"Times Square", 5784, 1, 16, "", "", "Passover 2 Ends"},
             {"Times Square", 5784, 7, 1, ">", "after Shabbat ends", "Shabbat, Rosh Hashanah 1 (Hebrew New Year) Ends"},
             {"Times Square", 5785, 7, 2, "<", "18 minutes before sunset", "Rosh Hashanah 2 (Hebrew New Year) Ends"},
             {"Times Square", 5784, 9, 24, "~", "when stars appear", "Three Stars"},
             {"Times Square", 5784, 9, 26, ">", "after Shabbat ends", "Shabbat Ends"},
             {"Times Square", 5784, 9, 25, "<", "18 minutes before sunset", "Three Stars"},  // Chanukah on a Friday
             {"Times Square", 5785, 10, 2, "", "", "Three Stars"},
-            {"Times Square", 5784, 8, 7, "", "", "Three Stars"},
         };
     for (const auto& [name, year, month, day, mark, rule, ends] : days) {
         const LocaleRecord& place = PresetLocale(name);

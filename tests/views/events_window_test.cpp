@@ -13,18 +13,14 @@ TEST_F(EventsWindowTest, ListsTheDayInTheColoursOfItsCalendars) {
     desk.Obey("menu PersianCal");
     Show(2024, 3, 20);
     const auto& rows = desk.program.events.EventsGrid.rows;
-    const auto isOf = [&](std::size_t row, const Control& date, const std::string& text) {
-        return rows[row].colors == date.colors && rows[row].cells[2].find(text) != std::string::npos;
-    };
-    bool persian = false;
-    bool solar = false;
-    bool lunar = false;
-    for (std::size_t row = 0; row < rows.size(); ++row) {
-        persian = persian || isOf(row, desk.program.persian.ThePersianDate, "Norouz");
-        solar = solar || isOf(row, desk.program.timeAstro.TimeOfDay, "Northward Equinox");
-        lunar = lunar || isOf(row, desk.program.lunar.MoonName, "Local Moonrise");
+    const std::pair<const Control&, const char*> told[] = {{desk.program.persian.ThePersianDate, "Norouz"},
+                                                           {desk.program.timeAstro.TimeOfDay, "Northward Equinox"},
+                                                           {desk.program.lunar.MoonName, "Local Moonrise"}};
+    for (const auto& [date, text] : told) {
+        EXPECT_TRUE(std::ranges::any_of(rows, [&](const RowTable::Row& row) {
+            return row.colors == date.colors && row.cells[2].find(text) != std::string::npos;
+        })) << text;
     }
-    EXPECT_TRUE(persian && solar && lunar);
 
     const auto& cells = rows[0].cells;
     EXPECT_EQ(AskedBy("click Events.EventsGrid 0"),

@@ -52,23 +52,6 @@ TEST_F(GregorianWindowTest, PostsTheISOEvents) {
     EXPECT_EQ(desk.Obey("events ISO"), "none");
 }
 
-TEST_F(GregorianWindowTest, CopiesWhatIsClicked) {
-    Show(2024, 1, 15);
-    constexpr std::pair<const char*, const char*> rows[] = {
-        {"DayNumInGregYear", R"(clipboard "15+351=366")"},
-        {"GregCycleInfo", R"(clipboard "Gregorian year 2024 (leap) = 24th year of 6th 400-year cycle AD")"},
-        {"isoOrdinalDay", R"(clipboard "15+349=364")"},
-    };
-    for (const auto& [control, copied] : rows) {
-        desk.Obey("click Gregorian." + std::string(control));
-        EXPECT_EQ(desk.Obey("asked"), copied);
-    }
-    EXPECT_EQ(desk.program.timeAstro.ClipBoardStatus.text, "15+349=364");
-    desk.Obey("click TimeAstro.ClipBoardStatus");
-    EXPECT_EQ(desk.Obey("asked"), R"(clipboard "")");
-    EXPECT_EQ(desk.program.timeAstro.ClipBoardStatus.text, "");
-}
-
 TEST_F(GregorianWindowTest, IsColouredFromItsMainDate) {
     desk.Obey("answer color 65280");  // green
     desk.Obey("dblclick Gregorian.GregorianDate");
