@@ -38,7 +38,7 @@ void Face::DrawColors() {
     const auto [background, foreground] = ColorRoles();
     QPalette palette = coloured ? widget.palette() : QPalette();
     if (control.colors) {
-        palette.setColor(background, ToQColor(control.colors->background));
+        palette.setColor(background, GroundOf(*control.colors));
         palette.setColor(foreground, ToQColor(control.colors->foreground));
     } else if (control.tint) {
         const QColor behind = palette.color(background);

@@ -50,6 +50,8 @@ class Acts {
     ~Acts() = default;
 };
 
+QColor ToQColor(Color color);
+
 /// A control and the widget that shows it. Each kind of control has a class of it.
 class Face {
   public:
@@ -97,6 +99,9 @@ class Face {
     using Roles = std::pair<QPalette::ColorRole, QPalette::ColorRole>;
     virtual Roles ColorRoles() const { return {QPalette::Window, QPalette::WindowText}; }
 
+    /// The background to give to the widget so that it looks as chosen.
+    virtual QColor GroundOf(const ColorPair& colors) const { return ToQColor(colors.background); }
+
   private:
     void DrawColors();
 };
@@ -107,7 +112,6 @@ std::unique_ptr<Face> MakeFace(Control& control, QWidget& widget);
 /// Whether a widget is there to show a control, rather than being a part of one or mere layout.
 bool isFace(const QWidget& widget);
 
-QColor ToQColor(Color color);
 Color ToColor(const QColor& color);
 
 // These set only what differs: widgets pass on even what they had already.

@@ -206,6 +206,14 @@ struct ChoiceListFace final : FaceOf<ChoiceList, QComboBox> {
 
     Roles ColorRoles() const override { return {QPalette::Button, QPalette::ButtonText}; }
 
+    /// The style shades a button from a lighter tint downwards, on which light letters would fade.
+    QColor GroundOf(const ColorPair& colors) const override {
+        constexpr int shade = 160;  // percent
+        const QColor ground = FaceOf::GroundOf(colors);
+        const bool isLightOnDark = qGray(ToQColor(colors.foreground).rgb()) > qGray(ground.rgb());
+        return isLightOnDark ? ground.darker(shade) : ground;
+    }
+
     void DrawKind() override {
         if (items_ != shown.items) {
             items_ = shown.items;

@@ -6,11 +6,24 @@
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QMouseEvent>
+#include <QStyledItemDelegate>
+
+#include <algorithm>
 
 namespace horvanta {
 namespace {
 
 constexpr int rowPadding = 3;  // pixels above and below the text of a row
+
+/// Keeps room about the lines of a row, or else broken ones would run into the next.
+class PaddedCell final : public QStyledItemDelegate {
+  public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+
+    QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override {
+        return QStyledItemDelegate::sizeHint(option, index) + QSize(0, 2 * rowPadding);
+    }
+};
 
 }  // namespace
 
@@ -28,7 +41,7 @@ RowTableWidget::RowTableWidget(QWidget* parent) : QTableWidget(parent) {
     horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     horizontalHeader()->setHighlightSections(false);
     verticalHeader()->setSectionResizeMode(QHeaderView::ResizeToContents);
-    verticalHeader()->setMinimumSectionSize(fontMetrics().height() + 2 * rowPadding);
+    setItemDelegate(new PaddedCell(this));
 }
 
 void RowTableWidget::Draw(const RowTable& table) {
@@ -43,7 +56,22 @@ void RowTableWidget::Draw(const RowTable& table) {
     clearSelection();
     setRowCount(static_cast<int>(rows_.size()));
     for (std::size_t row = 0; row < rows_.size(); ++row) DrawRow(static_cast<int>(row), rows_[row]);
-    for (int column = 0; column + 1 < columnCount(); ++column) resizeColumnToContents(column);
+    FitColumns();
+    if (hasFocus()) ShowCurrentRow();
+}
+
+/// In a narrow window they too break their lines, and leave the last one a third.
+void RowTableWidget::FitColumns() {
+    const int widest = viewport()->width() / 3;
+    for (int column = 0; column + 1 < columnCount(); ++column) {
+        resizeColumnToContents(column);
+        setColumnWidth(column, std::min(columnWidth(column), widest));
+    }
+}
+
+/// Whoever comes by keyboard sees the row on which Enter acts.
+void RowTableWidget::ShowCurrentRow() {
+    if (rowCount() > 0) selectRow(std::max(currentRow(), 0));
 }
 
 void RowTableWidget::DrawRow(int row, const RowTable::Row& shown) {
@@ -74,12 +102,22 @@ QSize RowTableWidget::minimumSizeHint() const {
     return {letters * fontMetrics().averageCharWidth(), lines * (fontMetrics().height() + 2 * rowPadding)};
 }
 
+void RowTableWidget::focusInEvent(QFocusEvent* event) {
+    QTableWidget::focusInEvent(event);
+    if (event->reason() != Qt::MouseFocusReason) ShowCurrentRow();
+}
+
 void RowTableWidget::keyPressEvent(QKeyEvent* event) {
     if (!isEnter(*event)) {
         QTableWidget::keyPressEvent(event);
     } else if (currentRow() >= 0 && !event->isAutoRepeat()) {
         act_(currentRow());
     }
+}
+
+void RowTableWidget::resizeEvent(QResizeEvent* event) {
+    QTableWidget::resizeEvent(event);
+    FitColumns();
 }
 
 void RowTableWidget::mouseReleaseEvent(QMouseEvent* event) {

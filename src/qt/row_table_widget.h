@@ -30,10 +30,14 @@ class RowTableWidget final : public QTableWidget {
     QSize minimumSizeHint() const override;
 
   protected:
+    void focusInEvent(QFocusEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
 
   private:
+    void FitColumns();
+    void ShowCurrentRow();
     void DrawRow(int row, const RowTable::Row& shown);
 
     std::vector<RowTable::Row> rows_;  ///< As they stand in the widget.

@@ -33,8 +33,9 @@ void StatusBarWidget::Draw(const StatusBar& bar) {
     const bool column = property("column").toBool();
     if (column) static_cast<QBoxLayout*>(layout())->setDirection(QBoxLayout::TopToBottom);
     while (parts_.size() < bar.panels.size()) AddPanel();
+    const auto side = property("numbers").toBool() ? Qt::AlignRight : Qt::AlignLeft;
     if (column)
-        for (QLabel* panel : parts_) panel->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+        for (QLabel* panel : parts_) panel->setAlignment(side | Qt::AlignVCenter);
     for (std::size_t i = 0; i < bar.panels.size(); ++i) {
         const StatusBar::Panel& panel = bar.panels[i];
         parts_[i]->setText(QString::fromStdString(panel.text));

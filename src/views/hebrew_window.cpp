@@ -51,13 +51,13 @@ std::string WeekdaysText(const HebrewDateRecord& date) {
     const std::string day = OrdinalString(date.Day);
     const std::string head = "Possible Hebrew weekdays for the " + day + " of ";
     const std::string month{HebrewMonthName(date.Year, date.Month)};
-    if (date.Month < adarRishon) return head + month + ":\n" + PossibleWeekdays(date.Month, date.Day, -1) + "\n";
+    if (date.Month < adarRishon) return head + month + ":\n" + PossibleWeekdays(date.Month, date.Day, -1) + ".\n";
 
     const bool leap = isHebrewLeapYear19(date.Year);
     const bool rishon = leap && date.Month == adarRishon;
-    return head + month + ":\n" + PossibleWeekdays(date.Month, date.Day, leap ? 1 : 0) + "\n...for the " + day +
+    return head + month + ":\n" + PossibleWeekdays(date.Month, date.Day, leap ? 1 : 0) + ".\n...for the " + day +
            " of Adar or Adar " + (rishon ? "Rishon" : "Sheini") + ":\n" +
-           (rishon ? PossibleWeekdays(adarRishon, date.Day, -3) : PossibleWeekdays(adarSheini, date.Day, -2)) + "\n";
+           (rishon ? PossibleWeekdays(adarRishon, date.Day, -3) : PossibleWeekdays(adarSheini, date.Day, -2)) + ".\n";
 }
 
 std::string CharacterText(std::int32_t year) {
@@ -157,7 +157,9 @@ void HebrewWindow::Update() {
     HebrewDate.text = HebrewDateString(today.date, true, false, true) + " ";
     const bool begun = today.date.Fixed >= HebrewEpoch;
     for (Control* control : form.controls) control->enabled = begun;
-    if (begun) {
+    if (!begun) {
+        HebrewCycleInfo.text = "Before the calendar's first year";
+    } else {
         ShowYear(today.date);
         day_events::AddAll(form.text, HebrewShortDateString(today.date, false), EventsOf(today, tomorrow), HebrewDate);
     }

@@ -1,5 +1,6 @@
 #include "views/oriental_window.h"
 
+#include "calendars/calendar_text.h"
 #include "core/day_events.h"
 #include "core/moment.h"
 #include "core/text.h"
@@ -75,7 +76,6 @@ OrientalWindow::OrientalWindow(HorvantaMDI& frame) : frame_(frame) {
     std::ranges::transform(faces, kept_.begin(), &Face::standard);
     for (const Face& face : faces) CalChoice.items.emplace_back(face.name);
     UseEnglish.Shows(options.UseEnglish);
-    LeapCheckbox.Shows(isLong_);
     HangHandlers();
 }
 
@@ -114,7 +114,8 @@ void OrientalWindow::Update() {
     TheOrientDate.text = " " + dateText + " ";
     TheOrientDate.tooltip = name + " date";
     Info.text = name + " info";
-    isLong_ = date.isLongYear;
+    Info.tooltip = "Click here for " + name + " Calendar information";
+    LeapCheckbox.text = YearKind(date.isLongYear);
     ShowNames(date);
     ShowMidnight(date);
     day_events::AddAll(name, dateText, EventsOf(date), TheOrientDate);

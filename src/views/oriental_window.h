@@ -41,7 +41,7 @@ class OrientalWindow {
     Label SLatMidnight{form, "SLatMidnight", Tip("Click to copy with all digits"), Widest("Midnight Solar Longitude at Time Zone UT+7:45:40 = 359.9999°")};
     ChoiceList CalChoice{form, "CalChoice", Tip("Choose the national calendar"), Named("National calendar")};
     CheckBox UseEnglish{form, "UseEnglish", Caption("English"), Tip("Check for English names, clear for those of the calendar's own language")};
-    CheckBox LeapCheckbox{form, "LeapCheckbox", Caption("Leap"), Tip("Checked if this year has 13 months (read only)")};
+    Label LeapCheckbox{form, "LeapCheckbox", Tip("A leap year has 13 months, a common year 12"), Widest("Common year")};
     Button Info{form, "Info", Widest("Vietnamese info")};
     // clang-format on
 
@@ -59,7 +59,6 @@ class OrientalWindow {
     HorvantaMDI& frame_;
     std::int32_t worn_ = oriental::Chinese;  ///< The calendar whose colours are worn.
     std::array<ColorPair, 4> kept_;          ///< The colours of the calendars that are not.
-    bool isLong_ = false;                    ///< The displayed year has 13 months.
 };
 
 }  // namespace horvanta

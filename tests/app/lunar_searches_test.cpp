@@ -11,6 +11,7 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
+#include <tuple>
 #include <vector>
 
 namespace horvanta {
@@ -20,11 +21,8 @@ Moment Jump(MenuEvent event, Moment from, int direction) { return FindEventSearc
 
 /// Six events a lunation, each after the one before; the way back meets the same moments.
 TEST(LunarSearches, WalkLeadsThroughTheEventsAndBack) {
-    const struct {
-        const char* place;
-        std::size_t year;
-        int eventsOfYear;
-    } walks[] = {{"Jerusalem", 2024, 74}, {"Melbourne", 1850, 74}, {"Greenwich", 3500, 74}, {"Yellowknife", 2024, 68}};
+    const std::tuple<const char*, std::size_t, int> walks[] = {
+        {"Jerusalem", 2024, 74}, {"Melbourne", 1850, 74}, {"Greenwich", 3500, 74}, {"Yellowknife", 2024, 68}};
     for (const auto& [place, year, eventsOfYear] : walks) {
         Locale = PresetLocale(place);
         const Moment first = JumpLunarEvent(GregorianToFixed(static_cast<std::int32_t>(year), 1, 1), 1);
@@ -42,11 +40,7 @@ TEST(LunarSearches, WalkLeadsThroughTheEventsAndBack) {
 /// Every search moves in its direction, from anywhere and from the event itself, and finds the event next to it.
 TEST(LunarSearches, FindTheNeighbour) {
     constexpr double anomalistic = 27.55455;
-    const struct {
-        MenuEvent event;
-        double period;
-        double play;
-    } rows[] = {
+    const std::tuple<MenuEvent, double, double> rows[] = {
         {MenuEvent::NewMoon, MeanSynodicMonth, 0.4},
         {MenuEvent::FirstQuarterMoon, MeanSynodicMonth, 0.7},
         {MenuEvent::FullMoon, MeanSynodicMonth, 0.4},

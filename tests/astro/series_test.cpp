@@ -1,6 +1,5 @@
 #include "astro/series.h"
 
-#include "astro/lunar_phase_tables.h"
 #include "astro/moon_tables.h"
 #include "astro/sun.h"
 #include "astro/sun_tables.h"
@@ -33,7 +32,6 @@ Series Both(const char* name, const Row (&table)[Count], double unit, const Term
 }
 
 const std::vector<Series>& AllSeries() {
-    using lunar::LatitudeTerm;
     using lunar::LongitudeTerm;
     static const std::vector<Series> all = {
         Both("Sun", solarTerms, 0.00000573,
@@ -47,18 +45,6 @@ const std::vector<Series>& AllSeries() {
         Both("longitude", lunar::longitudeTerms, 0.000001,
              [](const LongitudeTerm& t) {
                  return series::Term{{t.d, t.m, t.mPrime, t.f}, {t.longitude}};
-             }),
-        Both("distance", lunar::longitudeTerms, 0.000001,
-             [](const LongitudeTerm& t) {
-                 return series::Term{{t.d, t.m, t.mPrime, t.f}, {t.distance}};
-             }),
-        Both("latitude", lunar::latitudeTerms, 0.000001,
-             [](const LatitudeTerm& t) {
-                 return series::Term{{t.d, t.m, t.mPrime, t.f}, {t.latitude}};
-             }),
-        Both("new moon", newMoonTerms, 13,
-             [](const NewMoonTerm& t) {
-                 return series::Term{{t.m, t.mPrime, t.f, t.omega}, {t.coefficient}};
              }),
     };
     return all;

@@ -38,25 +38,12 @@ constexpr std::int32_t never = -1;
 /// declination at the altitude -34'29". PyEphem 4.1.4 gives the same to a second.
 constexpr Day days[] = {
     {"Greenwich", 1905, 12, 22, 55919, 80333, 115830, 155327, 175741, 129.72, 230.28},
-    {"Greenwich", 1984, 2, 29, 45620, 64703, 121232, 173855, 192955, 102.70, 257.58},
     {"Greenwich", 2024, 6, 21, never, 34247, 120155, 202102, never, 50.31, 309.68},
-    {"Greenwich", 2049, 11, 3, 50342, 65733, 114333, 162852, 182233, 114.93, 244.87},
-    {"Jerusalem", 1905, 12, 22, 50805, 63518, 113731, 163944, 180657, 117.91, 242.09},
-    {"Jerusalem", 1984, 2, 29, 44628, 60725, 115137, 173617, 185718, 99.32, 260.90},
-    {"Jerusalem", 2024, 6, 21, 25414, 43406, 114058, 184749, 202740, 62.10, 297.89},
     {"Jerusalem", 2049, 11, 3, 43425, 55710, 112237, 164741, 181024, 107.94, 251.90},
-    {"Times Square", 1905, 12, 22, 53811, 71705, 115433, 163201, 181055, 121.69, 238.31},
     {"Times Square", 1984, 2, 29, 50015, 63105, 120826, 174625, 191725, 100.31, 259.92},
-    {"Times Square", 2024, 6, 21, 21811, 42451, 115754, 193057, 213735, 58.33, 301.67},
-    {"Times Square", 2049, 11, 3, 45612, 62914, 113930, 164915, 182213, 110.35, 249.47},
-    {"Tokyo", 1905, 12, 22, 51529, 64705, 113918, 163132, 180307, 119.34, 240.66},
-    {"Tokyo", 1984, 2, 29, 44758, 61241, 115336, 173503, 185953, 99.89, 260.33},
     {"Tokyo", 2024, 6, 21, 23633, 42527, 114250, 190013, 204906, 60.68, 299.32},
-    {"Tokyo", 2049, 11, 3, 43815, 60450, 112433, 164349, 181021, 108.69, 251.14},
     {"Melbourne", 1905, 12, 22, 25927, 45447, 121834, 194222, 213743, 120.24, 239.75},
-    {"Melbourne", 1984, 2, 29, 43137, 60327, 123253, 190140, 203309, 100.19, 260.07},
     {"Melbourne", 2024, 6, 21, 60127, 73550, 122206, 170823, 184246, 59.76, 300.24},
-    {"Melbourne", 2049, 11, 3, 33225, 51105, 120349, 185710, 203617, 109.20, 250.57},
 };
 
 TEST(SunEvents, AgreeWithAnEphemeris) {
@@ -140,15 +127,11 @@ constexpr Question questions[] = {
     {"dusk", [](FixedDay d, const LocaleRecord& place) { return Dusk(d, 18, place); }, 0, 3, true},
     {"midday", [](FixedDay d, const LocaleRecord& place) { return SolarMidday(d, place); }, 0.4, 0.6, true},
     {"midnight", [](FixedDay d, const LocaleRecord& place) { return SolarMidnight(d, place); }, -0.1, 0.1, true},
-    {"sundial 3", [](FixedDay d, const LocaleRecord& place) { return SundialToStandard(d, 3, place); }, -2, 3, true},
     {"sundial 12", [](FixedDay d, const LocaleRecord& place) { return SundialToStandard(d, 12, place); }, -2, 3, true},
     {"sundial 21", [](FixedDay d, const LocaleRecord& place) { return SundialToStandard(d, 21, place); }, -2, 3, true},
     {"day hour", DayTemporalHour, 0, 0.5},
-    {"night hour", NightTemporalHour, -0.5, 0.5},
     {"morning hour", MorningTemporalHour, 0, 0.5},
-    {"afternoon hour", AfternoonTemporalHour, 0, 0.5},
     {"evening hour", EveningTemporalHour, -0.5, 0.5},
-    {"hour before dawn", PreDawnTemporalHour, -0.5, 0.5},
     {"rise azimuth", [](FixedDay d, const LocaleRecord& place) { return RiseSetAzimuth(d, true, true, place); }, 0,
      180},
     {"set azimuth", [](FixedDay d, const LocaleRecord& place) { return RiseSetAzimuth(d, true, false, place); }, 180,
@@ -175,19 +158,16 @@ TEST(SunEvents, HappenOrNeverHappenAtThePoles) {
     }
 }
 
-/// Refraction lifts the limb over the horizon of a Sun whose centre stays below it: a sunrise without its azimuth.
-TEST(SunEvents, HaveNoAzimuthWhereTheCentreStaysBelow) {
+/// Refraction lifts the limb over the horizon of a Sun whose centre stays below it: a sunrise without its azimuth. At
+/// midsummer the centre, lifted by 0.57 degrees, does not set where its lowest altitude is higher.
+TEST(SunEvents, HaveNoAzimuthWhereTheCentreStaysOnOneSide) {
     const LocaleRecord place = PlaceAt(67, 0);
     const FixedDay solstice = GregorianToFixed(2024, 12, 21);
     EXPECT_NEAR(Sunrise(solstice, place), solstice + 0.47, 0.01);
     EXPECT_EQ(RiseSetAzimuth(solstice, false, true, place), NeverMoment);
-}
-
-/// At midsummer the centre, lifted by 0.57 degrees at the horizon, does not set where its lowest altitude is higher.
-TEST(SunEvents, HaveNoAzimuthWhereTheCentreStaysAbove) {
-    const FixedDay solstice = GregorianToFixed(2024, 6, 20);
-    EXPECT_NE(RiseSetAzimuth(solstice, true, true, PlaceAt(65.98, 0)), NeverMoment);
-    EXPECT_EQ(RiseSetAzimuth(solstice, true, true, PlaceAt(66.0, 0)), NeverMoment);
+    const FixedDay june = GregorianToFixed(2024, 6, 20);
+    EXPECT_NE(RiseSetAzimuth(june, true, true, PlaceAt(65.98, 0)), NeverMoment);
+    EXPECT_EQ(RiseSetAzimuth(june, true, true, PlaceAt(66.0, 0)), NeverMoment);
 }
 
 /// Where the geocentric Sun stands without refraction, by Astronomy Engine 2.1.19 (npm astronomy-engine; Horizon of the
@@ -200,11 +180,9 @@ TEST(Sun, StandsWhereAnEphemerisPutsIt) {
     };
     constexpr Row rows[] = {
         {0, 0, 738965.5, 88.167, 1.827},
-        {51.5, 0, 739058.375, 45.381, 45.475},
         {51.5, -75, 739058.9583333334, 18.438, -89.497},
         {-33.9, 151.2, 739241.9166666666, 38.359, 58.427},
         {31.78, 35.2, 738900.1875, -2.710, 79.581},
-        {69.6, 18.9, 739058.9583333334, 3.067, 176.605},
         {69.6, 18.9, 739241.4583333334, -3.091, -4.332},
         {-80, 100, 711978.25, -5.082, -10.716},
     };

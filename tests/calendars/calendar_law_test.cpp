@@ -1,3 +1,4 @@
+#include "astro/timescales.h"
 #include "calendars/calendar_contract.h"
 #include "calendars/gregorian.h"
 #include "calendars/julian.h"
@@ -10,7 +11,9 @@
 
 #include <gtest/gtest.h>
 
+#include <cmath>
 #include <cstdlib>
+#include <limits>
 
 namespace horvanta {
 namespace {
@@ -93,6 +96,44 @@ void ExpectMonthsToFollow(const CalendarContract& calendar) {
             ADD_FAILURE() << "month " << first.month << " of " << first.year << ", before day " << begin;
         }
         first = next;
+    }
+}
+
+/// No date depends on how days are numbered, nor on what was remembered under another numbering or without Delta T.
+TEST(Calendars, KeepTheirDatesUnderEveryNumbering) {
+    for (const auto& [name, calendar, choose] : laws) {
+        choose();
+        const auto dates = [&calendar] {
+            std::string text;
+            for (const double day : {-2'500'000.5, -1.0, 0.5, 735329.5, 2'000'000.0}) {
+                const GridDate date = calendar.DateOf(GregorianEpoch + day);
+                text += std::to_string(date.year) + ' ' + std::to_string(date.month) + ' ' + std::to_string(date.day) +
+                        ' ' + std::to_string(date.firstWeekday) + ", ";
+            }
+            return text;
+        };
+        const std::string before = dates();
+        SetDeltaTDisabled(true);
+        dates();
+        SetDeltaTDisabled(false);
+        for (const double dayOne : {700000.0, -1721424.0, 1.0}) {
+            SetFixedDayEpoch(GregorianEpoch + dayOne, dayOne, "moved");
+            EXPECT_EQ(dates(), before) << name << dayOne;
+        }
+        SetFixedDayEpoch(GregorianEpoch, 1, "rata die");
+    }
+}
+
+/// What no day and no year is, in any calendar.
+TEST(Calendars, SurviveWhatNoOneAsksFor) {
+    for (const auto& [name, calendar, choose] : laws) {
+        choose();
+        for (const double x : {NeverMoment, -NeverMoment, 1e15, std::nan("")}) calendar.DateOf(x);
+        for (const std::int32_t n :
+             {std::numeric_limits<std::int32_t>::min(), std::numeric_limits<std::int32_t>::max()}) {
+            calendar.ToFixed(n, n, n);
+            EXPECT_GE(calendar.MonthNames(n).size(), 12U) << name;
+        }
     }
 }
 

@@ -1,13 +1,8 @@
 #include "calendars/julian.h"
 
-#include "calendars/gregorian.h"
 #include "calendars/roman.h"
-#include "core/moment.h"
-#include "core/text.h"
-#include "desk.h"
+#include "desk_fixture.h"
 #include "views/julian_window.h"
-
-#include <gtest/gtest.h>
 
 namespace horvanta {
 namespace {
@@ -96,32 +91,13 @@ TEST(Roman, CountsYearsFromRomeAndByOlympiads) {
     for (const double year : {-777.0, 394.0, 1895.0}) EXPECT_EQ(YearToOlympiadString(year), "") << year;
 }
 
-TEST(Julian, SurvivesWhatNoOneAsksFor) {
-    for (const bool revised : {false, true}) {
-        UseRule(revised);
-        for (const double x : {NeverMoment, -NeverMoment, std::nan("")}) {
-            RomanDateString(FixedToRomanDate(x));
-            YearToOlympiadString(x);
-            const std::int32_t n = WholeNumber(x);
-            RomanToFixed(n, n, n, n, true);
-            JulianDominicalLetters(n);
-            OlympiadToJulian(n, n);
-            JulianYearString(JulianToAUC(n), true);
-        }
-    }
-}
-
-class JulianWindowTest : public testing::Test {
+class JulianWindowTest : public DeskTest {
   protected:
-    JulianWindowTest() { desk_.Obey("menu JulianCal"); }
+    JulianWindowTest() { desk.Obey("menu JulianCal"); }
 
-    void Show(int year, int month, int day) {
-        DisplayedMoment = JulianToFixed(year, month, day, true) + 0.5;
-        UpdateStatus();
-    }
+    static void Show(int year, int month, int day) { DeskTest::Show(JulianToFixed(year, month, day, true) + 0.5); }
 
-    Desk desk_;
-    JulianWindow& window_ = desk_.program.julian;
+    JulianWindow& window_ = desk.program.julian;
 };
 
 TEST_F(JulianWindowTest, ShowsTheDateInEveryCount) {
@@ -143,51 +119,31 @@ TEST_F(JulianWindowTest, ShowsTheDateInEveryCount) {
                   text);
     }
     Show(-754, 1, 1);
-    desk_.Obey("click Julian.UseAUC");
+    desk.Obey("click Julian.UseAUC");
     EXPECT_EQ(window_.TheJulianDate.text, "Monday, January 1, 1 PUC ");
-    desk_.Obey("click Julian.Revise");
+    desk.Obey("click Julian.Revise");
     EXPECT_EQ(window_.form.text, "Revised Julian and Roman");
-    EXPECT_EQ(desk_.Obey("events Roman"), R"("Roman" "kalendas Ianuarius 1 PUC" "Kalends")");
-    desk_.Obey("press PageDown");
-    EXPECT_EQ(desk_.Obey("events Roman"), "none");
-    desk_.Obey("click Julian.UseAUC");
+    EXPECT_EQ(desk.Obey("events Roman"), R"("Roman" "kalendas Ianuarius 1 PUC" "Kalends")");
+    desk.Obey("press PageDown");
+    EXPECT_EQ(desk.Obey("events Roman"), "none");
+    desk.Obey("click Julian.UseAUC");
     Show(2024, 1, 2);
     EXPECT_EQ(window_.form.text, "Revised Julian (equal to Gregorian) and Roman");
-}
-
-TEST_F(JulianWindowTest, CopiesWhatIsClicked) {
-    Show(2024, 8, 1);
-    desk_.Obey("click Julian.TheRomanDate");
-    EXPECT_EQ(desk_.Obey("asked"), R"(clipboard " Mercurii dies, kalendas Augustus MMXXIV AD")");
-    desk_.Obey("click Julian.OlympiadYearDecimal");
-    EXPECT_EQ(desk_.Obey("asked"), R"(clipboard "Modern Olympiad Cycle#, Year# in Olympiad Cycle: 33, 1")");
 }
 
 TEST_F(JulianWindowTest, AsksForTheYearsOfTheCounts) {
     constexpr std::pair<const char*, int> rows[] = {
         {"759", -753}, {"727", -753}, {"-753", -753}, {"x", -753}, {"758", -758}};
     for (const auto& [typed, year] : rows) {
-        desk_.Obey("answer text " + std::string(typed));
-        desk_.Obey("menu JYRF");
+        desk.Obey("answer text " + std::string(typed));
+        desk.Obey("menu JYRF");
         EXPECT_EQ(julian::options.YRF, year) << typed;
     }
     Show(-775, 7, 1);
-    desk_.Obey("answer text 780");
-    desk_.Obey("menu OSY");
+    desk.Obey("answer text 780");
+    desk.Obey("menu OSY");
     EXPECT_EQ(window_.OlympiadLabel.tooltip, "Ancient Olympiad (cycle 1, year 1 = July 1st, 780 BC)");
     EXPECT_EQ(window_.OlympiadCycleDecimal.text, "2");
-}
-
-/// No date, text or event depends on how the days are numbered.
-TEST_F(JulianWindowTest, IsTheSameUnderEveryNumbering) {
-    desk_.Obey("click Julian.Revise");
-    for (const int year : {-6900, -1, 1, 2024}) {
-        Show(year, 1, 1);
-        const std::string shown = desk_.Obey("show Julian") + desk_.Obey("events Roman");
-        desk_.Obey("menu SetEpochOptMenu 6");
-        EXPECT_EQ(desk_.Obey("show Julian") + desk_.Obey("events Roman"), shown);
-        desk_.Obey("menu SetEpochOptMenu 2");
-    }
 }
 
 }  // namespace

@@ -62,26 +62,6 @@ TEST_F(MomentTest, IsOnlyClampedWhileUpdatesAreHeld) {
     EXPECT_EQ(passes, 1);
 }
 
-TEST_F(MomentTest, KeepsDatesTimesAndWeekdaysUnderEveryNumbering) {
-    const FixedDay newYear2000 = GregorianToFixed(2000, 1, 1);
-    const double days[] = {730486, -1721424, 678577.0, 61, newYear2000 + 0.75, 4382545};
-    for (const double day : days) {
-        ChangeFixedDayEpoch(day, 1, "test");
-        EXPECT_EQ(FixedToGregorianString(DisplayedMoment), "Monday, January 15, 2024") << day;
-        EXPECT_EQ(FixedToISODate(DisplayedMoment).week, 3) << day;
-        EXPECT_NEAR(DayFraction(DisplayedMoment), 0.75, 1e-9);
-        EXPECT_NEAR(DayFraction(SavedMoment), 0.123456789, 1e-9);
-        EXPECT_EQ(DayOfWeek(GregorianToFixed(2000, 1, 1)), 6) << day;
-        EXPECT_EQ(DayOfWeek(J2000), 6) << day;
-    }
-    ChangeFixedDayEpoch(GregorianEpoch, 1, "rata die");
-    EXPECT_EQ(DisplayedMoment, 738900.75);
-    EXPECT_NEAR(SavedMoment, 730120.123456789, 1e-9);
-    EXPECT_EQ(JDEpoch, -1721424.5);
-    SetFixedDayEpoch(GregorianEpoch + 1, 1, "the same number for another day");
-    EXPECT_EQ(FixedToGregorianDate(DisplayedMoment).day, 16);
-}
-
 /// A time of day of two digits stays one of two digits.
 TEST_F(MomentTest, TakesNoNoiseFromANewNumbering) {
     for (const double fraction : {0.96, 0.1, 0.3, 0.999999999}) {

@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <map>
+#include <tuple>
 #include <vector>
 
 namespace horvanta {
@@ -76,11 +77,7 @@ TEST(Torah, ReadsAllPortionsInEveryYear) {
 }
 
 TEST(Torah, ReadsTheDaysOwn) {
-    struct {
-        const char* place;
-        std::int32_t year, month, day;
-        const char* told;
-    } const days[] = {
+    const std::tuple<const char*, std::int32_t, std::int32_t, std::int32_t, const char*> days[] = {
         {"Jerusalem", 5784, 1, 18, "Chol Hamoed Pesach"},
         {"Jerusalem", 5785, 7, 22, "Shemini Atzeret"},
         {"Times Square", 5785, 7, 23, "Simchat Torah"},

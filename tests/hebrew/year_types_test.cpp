@@ -34,10 +34,8 @@ TEST(YearTypes, FollowOneAnotherAsInTheFullCycle) {
 }
 
 TEST(YearTypes, CountAllYearsOnEveryDay) {
-    constexpr struct {
-        std::int32_t selector;
-        std::int32_t years;
-    } selectors[] = {{0, 435456}, {1, 254016}, {-1, YearsOfFullCycle}, {-2, YearsOfFullCycle}, {-3, YearsOfFullCycle}};
+    constexpr std::pair<std::int32_t, std::int32_t> selectors[] = {
+        {0, 435456}, {1, 254016}, {-1, YearsOfFullCycle}, {-2, YearsOfFullCycle}, {-3, YearsOfFullCycle}};
     for (const auto& [selector, years] : selectors) {
         for (std::int32_t month = 1; month <= 13; ++month) {
             for (std::int32_t day = 1; day <= 30; ++day) {

@@ -20,8 +20,6 @@ TEST(Locale, IsMadeOfWhatIsGiven) {
     EXPECT_EQ(nowhere.Location, "Unspecified Location");
     EXPECT_EQ(nowhere.Latitude, 90);
     EXPECT_EQ(nowhere.Longitude, -170);
-    EXPECT_EQ(nowhere.LongRad, Radians(190));
-    EXPECT_TRUE(nowhere.North && nowhere.West && !nowhere.South && !nowhere.East);
 
     EXPECT_EQ(MakeLocale("x", "", -95, 0, 0).Latitude, -90);
     EXPECT_EQ(MakeLocale("x", "", 0, 37.5, 0).Zone, 2);
@@ -44,10 +42,6 @@ TEST(Locale, ListsThePresets) {
     const LocaleRecord& midpoint = PresetLocale("N-E Mid");
     const LocaleRecord& jerusalem = PresetLocale("Jerusalem");
     EXPECT_EQ(midpoint.Longitude, jerusalem.Longitude + 4);
-    EXPECT_EQ(midpoint.KmPerDegLong, jerusalem.KmPerDegLong);
-    EXPECT_EQ(midpoint.Zone, 2.6166666666666667);
-    EXPECT_EQ(TehranMeridian().Longitude, 52.5);
-    EXPECT_NEAR(PresetLocale("Greenwich").Elevation, 46.887384, 1e-9);
 }
 
 /// Great circles from a table of spherical trigonometry; the ellipsoid from Meeus, Astronomical Algorithms, chapter 11.
@@ -60,15 +54,10 @@ TEST(Locale, KnowsDistancesAndDirections) {
     EXPECT_EQ(OblateDistance(paris, paris), 0);
     EXPECT_EQ(DirectionTo(paris, paris), 0);
     EXPECT_NEAR(DirectionTo(paris, washington), 291.79, 0.01);
+    EXPECT_EQ(DirectionTo(MakeLocale("x", "", 0, 10, 0), MakeLocale("x", "", 0, 50, 0)), 90);
+    EXPECT_EQ(DirectionTo(MakeLocale("x", "", 0, 10, 0), MakeLocale("x", "", 0, -50, 0)), 270);
     const LocaleRecord pole = MakeLocale("Pole", "", 90, 0, 0);
     EXPECT_NEAR(SphericalDistance(pole, MakeLocale("x", "", -90, 77, 0)), 3.14159265 * 6367, 0.001);
-}
-
-TEST(Locale, LiesDueEastAndWestAlongTheEquator) {
-    const LocaleRecord here = MakeLocale("here", "", 0, 10, 0);
-    EXPECT_EQ(DirectionTo(here, MakeLocale("east", "", 0, 50, 0)), 90);
-    EXPECT_EQ(DirectionTo(here, MakeLocale("west", "", 0, -50, 0)), 270);
-    EXPECT_EQ(DirectionTo(here, here), 0);
 }
 
 TEST(Locale, IsToldInWords) {
@@ -97,8 +86,6 @@ TEST(Locale, IsToldInWords) {
 
 TEST(Locale, IsFoundOnMaps) {
     const LocaleRecord place = MakeLocale("Old Town", "Old Town & Port", -1.5, 2.25, 0);
-    web_map::options.MapIndex = 2;
-    EXPECT_TRUE(MapLink(place, false).ends_with("?ll=-1.5,2.25&spn=10,10&t=k&q=-1.5,2.25"));
     web_map::options.MapIndex = 3;
     EXPECT_TRUE(MapLink(MakeLocale("A&B#é", "", 1, 2, 0), false).ends_with("an.1_2_A%26B%23%C3%A9_"));
     web_map::options.MapIndex = 4;
@@ -120,8 +107,6 @@ TEST(LocaleMenu, MovesWithAReport) {
     desk.Obey("menu SetParis");
     EXPECT_EQ(desk.Obey("asked").substr(0, 16), "box \"New Locale\"");
     EXPECT_EQ(Locale, PresetLocale("Paris"));
-    EXPECT_EQ(desk.program.timeAstro.form.text.substr(0, 17), "Paris Observatory");
-    EXPECT_EQ(desk.program.timeAstro.UT.text, "Universal Time");
     desk.Obey("menu SetParis");
     EXPECT_EQ(desk.Obey("asked"), "none");
     desk.Obey("answer yes");

@@ -1,44 +1,35 @@
 #include "views/events_window.h"
 
-#include "calendars/gregorian.h"
-#include "core/moment.h"
-#include "desk.h"
+#include "desk_fixture.h"
 #include "locale/presets.h"
-
-#include <gtest/gtest.h>
 
 namespace horvanta {
 namespace {
 
-/// The day of a Persian new year and an equinox, with all windows open that tell of it.
-TEST(EventsWindow, ListsTheDayInTheColoursOfItsCalendars) {
-    Desk desk;
-    desk.Obey("menu PersianCal");
-    DisplayedMoment = GregorianToFixed(2024, 3, 20);
-    UpdateStatus();
-    const auto& rows = desk.program.events.EventsGrid.rows;
-    const auto isOf = [&](std::size_t row, const Control& date, const std::string& text) {
-        return rows[row].colors == date.colors && rows[row].cells[2].find(text) != std::string::npos;
-    };
-    bool persian = false;
-    bool solar = false;
-    bool lunar = false;
-    for (std::size_t row = 0; row < rows.size(); ++row) {
-        persian = persian || isOf(row, desk.program.persian.ThePersianDate, "Norouz");
-        solar = solar || isOf(row, desk.program.timeAstro.TimeOfDay, "Northward Equinox");
-        lunar = lunar || isOf(row, desk.program.lunar.MoonName, "Local Moonrise");
-    }
-    EXPECT_TRUE(persian && solar && lunar);
+using EventsWindowTest = DeskTest;
 
-    desk.Obey("asked");
-    desk.Obey("click Events.EventsGrid 0");
+/// The day of a Persian new year and an equinox, with all windows open that tell of it.
+TEST_F(EventsWindowTest, ListsTheDayInTheColoursOfItsCalendars) {
+    desk.Obey("menu PersianCal");
+    Show(2024, 3, 20);
+    const auto& rows = desk.program.events.EventsGrid.rows;
+    const std::pair<const Control&, const char*> told[] = {{desk.program.persian.ThePersianDate, "Norouz"},
+                                                           {desk.program.timeAstro.TimeOfDay, "Northward Equinox"},
+                                                           {desk.program.lunar.MoonName, "Local Moonrise"}};
+    for (const auto& [date, text] : told) {
+        EXPECT_TRUE(std::ranges::any_of(rows, [&](const RowTable::Row& row) {
+            return row.colors == date.colors && row.cells[2].find(text) != std::string::npos;
+        })) << text;
+    }
+
     const auto& cells = rows[0].cells;
-    EXPECT_EQ(desk.Obey("asked"), "clipboard \"" + cells[2] + ", " + cells[1] + " (" + cells[0] + ")\"");
+    EXPECT_EQ(AskedBy("click Events.EventsGrid 0"),
+              "clipboard \"" + cells[2] + ", " + cells[1] + " (" + cells[0] + ")\"");
     EXPECT_EQ(desk.desktop.focused, &desk.program.timeAstro.FixedDayNum);
 }
 
 /// North and south of the equator the clocks change on the same days, in opposite ways.
-TEST(EventsWindow, TellsOfClockChanges) {
+TEST_F(EventsWindowTest, TellsOfClockChanges) {
     const struct {
         const char* place;
         std::int32_t month;
@@ -48,11 +39,9 @@ TEST(EventsWindow, TellsOfClockChanges) {
                 {"Times Square", 11, 3, "Switch to Standard Time on"},
                 {"Melbourne", 3, 10, "Switch to Standard Time on"},
                 {"Times Square", 3, 11, ""}};
-    const Desk desk;
     for (const auto& [place, month, day, text] : rows) {
         Locale = PresetLocale(place);
-        DisplayedMoment = GregorianToFixed(2024, month, day);
-        UpdateStatus();
+        Show(2024, month, day);
         std::string told;
         for (const RowTable::Row& row : desk.program.events.EventsGrid.rows) {
             if (row.cells[2].starts_with("Switch")) told = row.cells[2];
@@ -62,30 +51,21 @@ TEST(EventsWindow, TellsOfClockChanges) {
     }
 }
 
-TEST(EventsWindow, BeepsWhereNothingHappens) {
-    Desk desk;
+TEST_F(EventsWindowTest, BeepsWhereNothingHappens) {
     for (const char* window : {"Lunar", "Gregorian", "Hebrew"}) desk.Obey(std::string("close ") + window);
-    DisplayedMoment = GregorianToFixed(2024, 1, 2);
-    UpdateStatus();
+    Show(2024, 1, 2);
     ASSERT_TRUE(desk.program.events.EventsGrid.rows.empty());
-    desk.Obey("asked");
-    desk.Obey("click Events.EventsGrid");
-    EXPECT_EQ(desk.Obey("asked"), "beep");
+    EXPECT_EQ(AskedBy("click Events.EventsGrid"), "beep");
 }
 
-TEST(EventsWindow, KeepsItsSize) {
-    StoredSettings settings;
-    {
-        Desk desk;
-        EXPECT_EQ(desk.program.events.form.position.width, 9360);
-        desk.program.events.form.position.width = 7500;
-        desk.program.events.form.position.height = 3000;
-        desk.Obey("menu SavePreferences");
-        settings = desk.desktop.settings.values;
-    }
+TEST_F(EventsWindowTest, KeepsItsSize) {
+    EXPECT_EQ(desk.program.events.form.position.width, 9360);
+    desk.program.events.form.position = {.width = 7500, .height = 3000};
+    desk.Obey("menu SavePreferences");
+    StoredSettings settings = desk.desktop.settings.values;
     EXPECT_EQ(settings["Horvanta"]["Item"]["EW"], "7500");
-    Desk desk(settings);
-    EXPECT_EQ(desk.program.events.form.position.height, 3000);
+    const Desk again(settings);
+    EXPECT_EQ(again.program.events.form.position.height, 3000);
 }
 
 }  // namespace

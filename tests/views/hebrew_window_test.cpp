@@ -1,45 +1,29 @@
 #include "views/hebrew_window.h"
 
-#include "calendars/gregorian.h"
-#include "core/day_events.h"
-#include "core/moment.h"
-#include "desk.h"
+#include "desk_fixture.h"
 #include "locale/presets.h"
 
-#include <gtest/gtest.h>
+#include <algorithm>
 
 namespace horvanta {
 namespace {
 
-class HebrewWindowTest : public testing::Test {
+class HebrewWindowTest : public DeskTest {
   protected:
-    void Show(const char* place, FixedDay day) {
+    using DeskTest::Show;
+    static void Show(const char* place, FixedDay day) {
         Locale = PresetLocale(place);
-        DisplayedMoment = day + 0.5;
-        UpdateStatus();
+        Show(day + 0.5);
     }
 
-    /// The window's events of the day, one after another.
-    std::string Events() {
-        std::string texts;
-        for (const day_events::Event& event : day_events::List()) {
-            if (event.calendar != "Hebrew") continue;
-            texts += event.text + "; ";
-            EXPECT_EQ(event.colors, window_.HebrewDate.colors);
-        }
-        return texts;
-    }
+    static std::string Events() { return DeskTest::Events("Hebrew"); }
 
     /// What a bar's panel of that name shows.
     std::string Time(std::string_view key) {
-        for (const StatusBar::Panel& panel : window_.DawnDusk.panels) {
-            if (panel.key == key) return panel.text;
-        }
-        return "no such panel";
+        return std::ranges::find(window_.DawnDusk.panels, key, &StatusBar::Panel::key)->text;
     }
 
-    Desk desk_;
-    HebrewWindow& window_ = desk_.program.hebrew;
+    HebrewWindow& window_ = desk.program.hebrew;
 };
 
 TEST_F(HebrewWindowTest, ShowsDateYearAndDay) {
@@ -69,21 +53,21 @@ TEST_F(HebrewWindowTest, CopiesTimes) {
     Show("Jerusalem", GregorianToFixed(2024, 12, 27));
     const std::string candles = Time("Candles");
     EXPECT_EQ(candles.front(), '<');
-    desk_.Obey("click Hebrew.DawnDuskLegends 9");
-    EXPECT_EQ(desk_.Obey("asked"), "clipboard \"Light Candles before " + candles.substr(1) + "\"");
-    desk_.Obey("click Hebrew.DawnDusk 1");
-    EXPECT_EQ(desk_.Obey("asked"), "clipboard \"Dawn (Maimonides) = " + Time("Dawn") + "\"");
-    desk_.Obey("menu SetCandles40");
+    desk.Obey("click Hebrew.DawnDuskLegends 9");
+    EXPECT_EQ(desk.Obey("asked"), "clipboard \"Light Candles before " + candles.substr(1) + "\"");
+    desk.Obey("click Hebrew.DawnDusk 1");
+    EXPECT_EQ(desk.Obey("asked"), "clipboard \"Dawn (Maimonides) = " + Time("Dawn") + "\"");
+    desk.Obey("menu SetCandles40");
     EXPECT_NE(Time("Candles"), candles);
     Show("Jerusalem", GregorianToFixed(2024, 12, 24));
     EXPECT_EQ(Time("Candles"), "---");
-    desk_.Obey("click Hebrew.DawnDusk 9");
-    EXPECT_EQ(desk_.Obey("asked"), "beep");
+    desk.Obey("click Hebrew.DawnDusk 9");
+    EXPECT_EQ(desk.Obey("asked"), "beep");
 }
 
 TEST_F(HebrewWindowTest, HidesTheTimesWithThoseOfTheSun) {
     EXPECT_TRUE(window_.DawnDusk.visible);
-    desk_.Obey("click TimeAstro.ShowDawnDusk");
+    desk.Obey("click TimeAstro.ShowDawnDusk");
     EXPECT_FALSE(window_.DawnDusk.visible);
     EXPECT_FALSE(window_.DawnDuskLegends.visible);
 }
@@ -92,6 +76,7 @@ TEST_F(HebrewWindowTest, HidesTheTimesWithThoseOfTheSun) {
 TEST_F(HebrewWindowTest, WaitsForTheFirstDay) {
     Show("Jerusalem", HebrewEpoch - 1);
     EXPECT_FALSE(window_.HebrewCycleInfo.enabled);
+    EXPECT_EQ(window_.HebrewCycleInfo.text, "Before the calendar's first year");
     EXPECT_EQ(Events(), "");
     Show("Jerusalem", HebrewEpoch);
     EXPECT_TRUE(window_.HebrewCycleInfo.enabled);
@@ -99,30 +84,29 @@ TEST_F(HebrewWindowTest, WaitsForTheFirstDay) {
 }
 
 TEST_F(HebrewWindowTest, JumpsToFestivals) {
-    const auto jump = [&](const char* item) {
-        desk_.Obey(std::string("menu ") + item);
-        return GregorianDateString(FixedToGregorianDate(DisplayedMoment));
+    const auto jump = [&](EventMenu& menu, MenuEvent event) {
+        desk.Obey("menu " + ItemOf(menu, event).name);
+        return FixedToGregorianString(DisplayedMoment);
     };
-    const auto item = [](EventMenu& menu, MenuEvent event) { return ItemOf(menu, event).name; };
-    HorvantaMDI& frame = desk_.program.frame;
+    HorvantaMDI& frame = desk.program.frame;
     Show("Jerusalem", GregorianToFixed(2024, 4, 23));
-    EXPECT_EQ(jump(item(frame.NextMenu, MenuEvent::Passover).c_str()), "Sunday, April 13, 2025");
-    EXPECT_EQ(jump(item(frame.PrevMenu, MenuEvent::Passover).c_str()), "Tuesday, April 23, 2024");
-    EXPECT_EQ(jump(item(frame.NextMenu, MenuEvent::RoshHashanah).c_str()), "Thursday, October 3, 2024");
-    EXPECT_EQ(jump(item(frame.PrevMenu, MenuEvent::RoshHashanah).c_str()), "Saturday, September 16, 2023");
+    EXPECT_EQ(jump(frame.NextMenu, MenuEvent::Passover), "Sunday, April 13, 2025");
+    EXPECT_EQ(jump(frame.PrevMenu, MenuEvent::Passover), "Tuesday, April 23, 2024");
+    EXPECT_EQ(jump(frame.NextMenu, MenuEvent::RoshHashanah), "Thursday, October 3, 2024");
+    EXPECT_EQ(jump(frame.PrevMenu, MenuEvent::RoshHashanah), "Saturday, September 16, 2023");
 }
 
 TEST_F(HebrewWindowTest, TellsTheMoladAsChosen) {
     Show("Jerusalem", GregorianToFixed(2024, 5, 4));
     EXPECT_NE(Events().find("Molad of Iyar = Yom Rivii at 17h 41m 8p"), std::string::npos);
-    desk_.Obey("menu MoladHoursParts");
+    desk.Obey("menu MoladHoursParts");
     EXPECT_NE(Events().find("Molad of Iyar = Yom Rivii at 17:746"), std::string::npos) << Events();
 }
 
 TEST_F(HebrewWindowTest, ExplainsTheYear) {
     Show("Jerusalem", GregorianToFixed(2024, 3, 24));
-    desk_.Obey("click Hebrew.HebrewCycleInfo");
-    const std::string told = desk_.Obey("asked");
+    desk.Obey("click Hebrew.HebrewCycleInfo");
+    const std::string told = desk.Obey("asked");
     for (const char* part :
          {"for the 14th of Adar Sheini:", "...for the 14th of Adar or Adar Sheini:", "postponed from Yom 6 to Shabbat",
           "191st day of 383-day year, in 8th year of 19-year cycle.", "Rosh Hashanah on Yom 7 (Shabbat);",

