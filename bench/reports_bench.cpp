@@ -5,7 +5,6 @@
 #include "reports/omer_count.h"
 #include "reports/postponements.h"
 #include "reports/report_forms.h"
-#include "reports/weekday_frequencies.h"
 
 #include <benchmark/benchmark.h>
 
@@ -26,7 +25,6 @@ Report Omer() { return ReportOmerCount(PresetLocale("Times Square")); }
 
 BENCHMARK_CAPTURE(Page, postponements, [] { return ReportPostponements(1000); })->Name("postponements of 1000 years");
 BENCHMARK_CAPTURE(Page, omer, Omer)->Name("Omer report");
-BENCHMARK_CAPTURE(Page, weekdays, ListPossibleWeekdayStats)->Name("weekday frequencies");
 
 const RatioClaim postponements({"postponements of 1000 years", "ICU Hebrew from fixed", 4000});
 const RatioClaim omer({"Omer report", "ICU Hebrew from fixed", 1000});

@@ -70,7 +70,7 @@ bool ReportRoad::MakeFile(const Report& report, const ReportForm& form, const st
         progress_.Hide();
     }
     if (std::exchange(progress_.CancelReport, false)) {
-        CurrentDesktop->Beep();
+        Refuse("the report was canceled");
     } else if (file.hasFailed()) {
         TellFailure(file, path, report.description);
     } else if (TakePlace(file, path, report.description)) {
