@@ -182,12 +182,15 @@ void MonthlyWindow::ShowToday(const GridDate& date) {
     Days.spoken = SpokenDay();
 }
 
-/// "Monday, January 15, 2024, today"
+/// "Monday, January 15, 2024, today". A month with a number in its name is kept apart from that of the day.
 std::string MonthlyWindow::SpokenDay() const {
     const CalendarContract& calendar = *Current().contract;
-    const std::string& text = Days.cells[Days.active].text;
-    const std::string day =
-        calendar.CellText ? text : MonthNames.items[static_cast<std::size_t>(MonthNames.selected)] + " " + text;
+    std::string day = Days.cells[Days.active].text;
+    if (!calendar.CellText) {
+        const std::string& month = MonthNames.items[static_cast<std::size_t>(MonthNames.selected)];
+        const bool hasNumber = month.find_first_of("0123456789") != std::string::npos;
+        day = month + (hasNumber ? ", day " : " ") + day;
+    }
     return calendar.DayNames().full[Days.active % 7] + ", " + day + ", " + ThisYear.text +
            (Days.today == Days.active ? ", today" : "");
 }

@@ -21,15 +21,17 @@ namespace {
 /// Each search is strict, steps from event to event, and comes back the way it went, also from a moment just beside an
 /// event.
 TEST(Events, AreWalkedThereAndBack) {
-    constexpr std::pair<MenuEvent, double> rows[] = {
-        {MenuEvent::RotationAdjustedNewYear, 365.2425}, {MenuEvent::MeanOrbitalNewYear, 365.2422},
-        {MenuEvent::BesselianNewYear, 365.2422},        {MenuEvent::SolarEvent, 91.3},
-        {MenuEvent::NorthwardEquinox, 365.2424},        {MenuEvent::NorthSolstice, 365.2416},
-        {MenuEvent::SouthwardEquinox, 365.242},         {MenuEvent::SouthSolstice, 365.2427},
-        {MenuEvent::MeanPerihelion, 365.2596},          {MenuEvent::MeanAphelion, 365.2596}};
-    for (const auto& [event, days] : rows) {
+    constexpr std::tuple<MenuEvent, double, double> rows[] = {
+        {MenuEvent::RotationAdjustedNewYear, 365.2425, 0.08}, {MenuEvent::MeanOrbitalNewYear, 365.2422, 365.2},
+        {MenuEvent::BesselianNewYear, 365.2422, 365.2},       {MenuEvent::SolarEvent, 91.3, 79.1},
+        {MenuEvent::NorthwardEquinox, 365.2424, 79.1},        {MenuEvent::NorthSolstice, 365.2416, 171.9},
+        {MenuEvent::SouthwardEquinox, 365.242, 265.5},        {MenuEvent::SouthSolstice, 365.2427, 355.4},
+        {MenuEvent::MeanPerihelion, 365.2596, 3.2},           {MenuEvent::MeanAphelion, 365.2596, 185.9}};
+    const FixedDay year = GregorianToFixed(2024, 1, 1);
+    for (const auto& [event, days, first2024] : rows) {
         const auto jump = FindEventSearch(event)->jump;
         SCOPED_TRACE(static_cast<int>(event));
+        EXPECT_NEAR(jump(year, 1) - year, first2024, 0.1);
         for (const Moment start : {-2'000'000.3, 700'000.0, 739'000.0, 4'000'000.7}) {
             const Moment first = jump(start, 1);
             EXPECT_GT(first, start);

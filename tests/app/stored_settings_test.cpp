@@ -110,6 +110,10 @@ TEST(StoredSettings, HaveEveryKeyOnce) {
             setting.section.starts_with("User ") || setting.section == "UserNum" || setting.section == "YLC";
         EXPECT_EQ(setting.application, inUserSettings ? UserSettings : ProgramSettings) << setting.section;
     }
+    for (const auto& [section, key, text] : rows) {
+        const bool isElsewhere = section == std::string("HorvantaMDI") || section == std::string("Later");
+        EXPECT_TRUE(isElsewhere || rowsOfKey.contains({section, key})) << section << "/" << key;
+    }
 }
 
 TEST(StoredSettings, ReadNumbersAsTheyAreWritten) {

@@ -157,10 +157,16 @@ TEST(Monthly, SpeaksTheDay) {
     const FixedDay today = Today();
     ASSERT_EQ(FixedToGregorianString(today), "Monday, January 15, 2024");
     const Row rows[] = {
-        {"1", today + 0.9, "Monday, January 15, 2024, today", 15}, {"1", today + 1, "Tuesday, January 16, 2024", 15},
-        {"1", today + 16.5, "Wednesday, January 31, 2024", 15},    {"1", today - 15, "Sunday, December 31, 2023", -1},
-        {"1", today + 17, "Thursday, February 1, 2024", -1},       {"2", today, "Monday, W3-1, 2024, today", 14},
+        {"1", today + 0.9, "Monday, January 15, 2024, today", 15},
+        {"1", today + 1, "Tuesday, January 16, 2024", 15},
+        {"1", today + 16.5, "Wednesday, January 31, 2024", 15},
+        {"1", today - 15, "Sunday, December 31, 2023", -1},
+        {"1", today + 17, "Thursday, February 1, 2024", -1},
+        {"2", today, "Monday, W3-1, 2024, today", 14},
         {"5", today + 1, "Se-shanbeh, Dey 26, 1402", 30},
+        {"6", today, "Monday, 12th, day 5, 4720, today", 8},
+        {"7", today, "Yom Sheini, Shevat 5, 5784, today", 8},
+        {"8", today, "Monday, Yerm 21, month 9, day 4, 1113, today", 8},
     };
     for (const Row& row : rows) {
         desk.Obey(std::string("choose Monthly.Calendars ") + row.calendar);
