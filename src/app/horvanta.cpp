@@ -84,14 +84,17 @@ void Horvanta::HangTimeWindow() {
 /// The item of a window is ticked while the window is shown.
 void Horvanta::HangWindow(WindowRow& row) {
     if (row.item) {
-        row.item->Shows(row.form.visible);
-        row.item->Click = [this, &row] { ShowOrHide(row); };
+        if (!row.isBox) row.item->Shows(row.form.visible);
+        row.item->Click = [this, &row] { row.isBox ? Raise(row) : ShowOrHide(row); };
         row.form.Close = [this, &row] { Hide(row); };
     }
     row.form.OpenMenu = [this, &row] { frame.OpenMenu(row.form, row.colors); };
     if (row.colors) frame.OfferColors(*row.colors);
     if (!row.form.KeyDown) row.form.KeyDown = frame.Form_KeyDown;
-    for (const GridCalendar& calendar : row.calendars) monthly.Offer(calendar);
+    for (const GridCalendar& calendar : row.calendars) {
+        monthly.Offer(calendar);
+        dateBox.Offer(calendar);
+    }
 }
 
 void Horvanta::Start() {
@@ -251,6 +254,7 @@ void Horvanta::ShowOrHide(WindowRow& row) {
 void Horvanta::Raise(WindowRow& row) {
     if (!row.form.visible) {
         if (row.mayToggle && !row.mayToggle()) return;
+        if (row.prepare) row.prepare();
         row.form.visible = true;
         EnableNeeding(row);
         UpdateStatus();

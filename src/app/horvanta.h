@@ -6,6 +6,7 @@
 #include "app/places.h"
 #include "app/windows.h"
 #include "core/shell.h"
+#include "views/date_box.h"
 #include "views/events_window.h"
 #include "views/gregorian_window.h"
 #include "views/hebrew_window.h"
@@ -68,6 +69,7 @@ class Horvanta {
     WorldWindow world;
     EventsWindow events{frame};
     MonthlyWindow monthly{frame};
+    DateBox dateBox{frame};
     Places places{frame, timeAstro.fields};
     Jumps jumps{frame, timeAstro};
     Options options{frame};
@@ -87,6 +89,7 @@ class Horvanta {
         Below(monthly.form, events.Row()),
         Beside(monthly.form, userLocales.Row()),
         {world.form, world.Dummy},
+        dateBox.Row(),
     };
 
     /// The same, as far as they are there.

@@ -68,6 +68,9 @@ struct CalendarContract {
     /// What it is called at present; null for one that always goes by its name.
     std::string (*PresentName)() = nullptr;
 
+    /// A year as it is written, where that is not its number: "44 BC".
+    std::string (*YearText)(std::int32_t year) = nullptr;
+
     /// The month behind which a leap month moves those that follow; 0 where no month moves.
     std::int16_t leapMonthAfter = 0;
 

@@ -130,6 +130,11 @@ struct TextField final : Control {
     ~TextField() override;
 
     std::function<void()> LostFocus;  ///< The user left the field or pressed Enter in it.
+    std::function<void()> Entered;    ///< He pressed Enter; called after `LostFocus`.
+
+    /// Called at each change by the user, where it is there. What stands in such a field counts at once: there is
+    /// nothing to take later or to give up.
+    std::function<void()> Typed;
 
     /// The user changed the text into this one, and is still at it.
     void Edit(const std::string& typed);
@@ -137,8 +142,9 @@ struct TextField final : Control {
     /// True from the first change until the user leaves the field, or the program writes another text into it.
     bool isEdited() const { return edit_ && text == edit_->typed; }
 
-    /// The user leaves the field.
+    /// The user leaves the field, or presses Enter in it.
     void Leave();
+    void Enter();
 
     /// Puts back the text from before the editing; false if there was none.
     bool Restore();
@@ -337,6 +343,7 @@ class Form {
     const std::string name;
     std::string text;  ///< The caption.
     bool visible = false;
+    bool floats = false;             ///< Opens in the middle, before the others, which don't give way to it.
     bool positioned = false;         ///< The user chose where it stands; the desktop may fit others into its frame.
     bool resizable = false;          ///< The user may choose how large it is. A size of 0 is up to the desktop.
     Position position;               ///< The desktop reports the size, and where the user moved the window.

@@ -1,5 +1,6 @@
 #include "qt/forms.h"
 
+#include "forms/ui_date_box.h"
 #include "forms/ui_events.h"
 #include "forms/ui_gregorian.h"
 #include "forms/ui_hebrew.h"
@@ -31,6 +32,7 @@ constexpr DesignerForm designerForms[] = {
     {"Quartane", SetUp<Ui::Quartane>},   {"User", SetUp<Ui::User>},           {"Persian", SetUp<Ui::Persian>},
     {"Julian", SetUp<Ui::Julian>},       {"World", SetUp<Ui::World>},         {"Lunar", SetUp<Ui::Lunar>},
     {"Events", SetUp<Ui::Events>},       {"Hebrew", SetUp<Ui::Hebrew>},       {"Chinese", SetUp<Ui::Chinese>},
+    {"DateBox", SetUp<Ui::DateBox>},
 };
 
 }  // namespace

@@ -135,6 +135,9 @@ void Frame::Draw() {
         child->form->resizable ? DrawChosenSize(*child) : DrawSize(*child);
     }
     PlaceAll();
+    for (const Child* child : OpenChildren()) {
+        if (child->form->floats) PlaceFloating(*child);
+    }
     for (Child& child : children_) {
         const bool isShown = child.window->isVisibleTo(child.window->parentWidget());
         if (isShown != child.form->visible) child.window->setVisible(child.form->visible);
@@ -203,6 +206,12 @@ std::vector<Frame::Child*> Frame::OpenChildren() {
     return open;
 }
 
+std::vector<Frame::Child*> Frame::StandingChildren() {
+    std::vector<Child*> standing = OpenChildren();
+    std::erase_if(standing, [](const Child* child) { return child->form->floats; });
+    return standing;
+}
+
 /// A window stands where its form says, but so that it can be taken hold of: settings may come from a larger screen.
 /// One that would stand elsewhere, or that no one has placed, may give way to others.
 Pane Frame::PaneOf(const Child& child) const {
@@ -228,7 +237,7 @@ Pane Frame::PaneOf(const Child& child) const {
 
 /// Nothing moves as long as no window changes and the frame keeps its size.
 void Frame::PlaceAll() {
-    const std::vector<Child*> open = OpenChildren();
+    const std::vector<Child*> open = StandingChildren();
     std::vector<Pane> panes;
     for (const Child* child : open) panes.push_back(PaneOf(*child));
     const QSize room = area_->viewport()->size();
@@ -244,8 +253,20 @@ void Frame::PlaceAll() {
     panes_ = std::move(panes);
 }
 
+/// Where it was put, or in the middle, but within the frame.
+void Frame::PlaceFloating(const Child& child) {
+    QMdiSubWindow& window = *child.window;
+    const QSize room = area_->viewport()->size();
+    const QSize left = room - window.size();
+    const Position& place = child.form->position;
+    const QPoint wish = child.form->positioned ? QPoint(Rounded(place.left), Rounded(place.top))
+                                               : QPoint(left.width() / 2, left.height() / 3);
+    window.move(std::clamp(wish.x(), 0, std::max(0, left.width())),
+                std::clamp(wish.y(), 0, std::max(0, left.height())));
+}
+
 void Frame::Arrange() {
-    std::vector<Child*> open = OpenChildren();
+    std::vector<Child*> open = StandingChildren();
     std::ranges::stable_partition(open, [&](const Child* c) { return c->window == area_->currentSubWindow(); });
     std::vector<Pane> panes;
     for (const Child* child : open) {

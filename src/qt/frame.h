@@ -81,6 +81,8 @@ class Frame final : public QMainWindow, public Acts {
     void ReportFront();
     bool isCovered(const QMdiSubWindow* window) const;
     std::vector<Child*> OpenChildren();
+    std::vector<Child*> StandingChildren();
+    void PlaceFloating(const Child& child);
     Pane PaneOf(const Child& child) const;
     void PlaceAll();
     void GrantFocus(Child& child);

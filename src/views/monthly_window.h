@@ -22,7 +22,7 @@ inline Options options;
 class MonthlyWindow {
   public:
     /// The calendars in the order of the list; a place whose calendar is not there yet is left out of what is shown.
-    static constexpr std::size_t CalendarCount = 9;
+    static constexpr std::size_t CalendarCount = GridCalendarCount;
 
     explicit MonthlyWindow(HorvantaMDI& frame);
 

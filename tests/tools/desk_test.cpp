@@ -89,6 +89,10 @@ std::vector<std::string> OddTexts() {
             "\xFF\xC0\xAF",
             "a;b,c=d]",
             "@@",
+            "2024-02-29",
+            "12 March 44 BC",
+            "15 Nisan 5784",
+            "JD 2460000.25",
             std::string(3, '\0'),
             std::string(5000, 'x')};
 }
