@@ -398,6 +398,12 @@ std::string ReplaceAll(std::string_view text, std::string_view what, std::string
     return result.append(text);
 }
 
+namespace {
+
+bool TellsValue(std::string_view line) { return line.find(" = ") != std::string_view::npos; }
+
+}  // namespace
+
 std::string Unwrapped(std::string_view text) {
     constexpr std::size_t shortest = 45;  // bytes of a line that has been broken for its width
     constexpr std::string_view endings = ".:!?";
@@ -408,7 +414,8 @@ std::string Unwrapped(std::string_view text) {
         joined += line;
         text = end == std::string_view::npos ? "" : text.substr(end + 1);
         if (end == std::string_view::npos) break;
-        const bool endsHere = line.size() < shortest || endings.find(line.back()) != std::string_view::npos;
+        const bool listed = TellsValue(line) && TellsValue(text.substr(0, text.find('\n')));
+        const bool endsHere = listed || line.size() < shortest || endings.find(line.back()) != std::string_view::npos;
         joined += endsHere || text.starts_with('\n') ? "\n" : " ";
     }
     return joined;

@@ -118,7 +118,7 @@ std::string NameText(std::string_view name);
 std::string ReplaceAll(std::string_view text, std::string_view what, std::string_view with);
 
 /// A text whose lines were broken by hand for a certain width, with each paragraph in one line. A line that ends a
-/// sentence or was short by itself stays one.
+/// sentence or was short by itself stays one, and so do those that tell a value each.
 std::string Unwrapped(std::string_view text);
 
 /// What is said of an entry that is not what it should be: "abc is not a day number".

@@ -17,7 +17,7 @@
 namespace horvanta {
 namespace {
 
-constexpr const char* hint = "e.g. 2024-02-29, 2024-W09-4, JD 2460000.5, 15 March 44 BC";
+constexpr const char* hint = "e.g. 2024-02-29, 2024-W09-4, JD 2460000.5, 15 March 44 BC, 15 Nisan 5784";
 
 /// The way from each time scale of the list to Universal Time.
 constexpr Moment (*toUniversal[])(Moment) = {
@@ -72,7 +72,7 @@ DateBox::DateBox(HorvantaMDI& frame) : frame_(frame) {
         return code == KeyEscape || code == KeyEnter || code == KeyPageUp || code == KeyPageDown;
     };
     OK.Click = [this] { OK_Click(); };
-    Cancel.Click = [this] { Cancel_Click(); };
+    CancelDate.Click = [this] { Cancel_Click(); };
     for (Label* value : {&Gregorian, &Universal, &DayNumber}) frame_.CopyOnClick(*value);
     HangFields();
 }

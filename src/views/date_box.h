@@ -69,7 +69,7 @@ class DateBox {
     Label DayNumber{form, "DayNumber", Tip("Fixed day number"), Widest("-2533804.123456")};
     Label Why{form, "Why", Tip("Why this is no date"), Widest("Seventh month 10000 has 30 days")};
     Button OK{form, "OK", Caption("OK"), Tip("Go to this date (Enter)")};
-    Button Cancel{form, "Cancel", Caption("Cancel"), Tip("Close without going anywhere (Esc)")};
+    Button CancelDate{form, "CancelDate", Caption("Cancel"), Tip("Close without going anywhere (Esc)")};
     // clang-format on
 
   private:

@@ -54,6 +54,30 @@ TEST_F(TimeFieldsTest, SwitchDeltaTOffAndOnAtTheSameInstant) {
     }
 }
 
+/// The other scale may leave no room for a moment at an end of the range; the saved one is kept all the same.
+TEST_F(TimeFieldsTest, SwitchDeltaTAtTheEndsOfTheRange) {
+    for (const Moment end : {Moment{MinFixedDay}, Moment{MaxFixedDay}}) {
+        for (const bool savedWithout : {false, true}) {
+            Desk first;
+            if (savedWithout) first.Obey("click TimeAstro.UseDeltaT");
+            first.Obey("type TimeAstro.FixedDayNum " + std::string(end < 0 ? "-9e9" : "9e9"));
+            first.Obey("menu SaveThisMoment");
+            const Moment shown = DisplayedMoment;
+            first.Obey("click TimeAstro.UseDeltaT");
+            const Moment saved = SavedMoment;
+            EXPECT_NEAR(saved, shown, 5);
+            first.Obey("menu MenuExit");
+            Desk second(first.desktop.settings.flushed);
+            EXPECT_EQ(SavedMoment, saved);
+            second.Obey("click TimeAstro.UseDeltaT");
+            EXPECT_NEAR(SavedMoment, shown, 1e-4);
+        }
+        Show(end);
+        for (int times = 0; times < 2; ++times) desk.Obey("click TimeAstro.UseDeltaT");
+        EXPECT_EQ(DisplayedMoment, end);
+    }
+}
+
 TEST_F(TimeFieldsTest, TellDaylightSavingTime) {
     constexpr std::tuple<const char*, Moment, bool, int, const char*> rows[] = {
         {"SetJerusalem", 738900, true, 16711680, "Standard Time applied for the displayed moment"},
