@@ -81,4 +81,18 @@ struct CalendarContract {
 /// For calendars that never have a year 0.
 constexpr bool HasNoYear0() { return false; }
 
+/// What a calendar is called at present.
+inline std::string NameOf(const CalendarContract& calendar) {
+    return calendar.PresentName ? calendar.PresentName() : std::string(calendar.name);
+}
+
+inline bool HasYear0(const CalendarContract& calendar) { return !calendar.HasYear0 || calendar.HasYear0(); }
+
+/// The year so many years after one, or before it, over a year 0 that there is not.
+inline std::int32_t YearAfter(const CalendarContract& calendar, std::int32_t year, std::int32_t count) {
+    if (HasYear0(calendar)) return year + count;
+    const std::int32_t counted = (year < 0 ? year + 1 : year) + count;
+    return counted <= 0 ? counted - 1 : counted;
+}
+
 }  // namespace horvanta

@@ -212,10 +212,6 @@ TypedDate ReadWords(const WordedDate& date, std::span<const CalendarContract* co
 
 }  // namespace
 
-std::string NameOf(const CalendarContract& calendar) {
-    return calendar.PresentName ? calendar.PresentName() : std::string(calendar.name);
-}
-
 std::string YearText(const CalendarContract& calendar, std::int32_t year) {
     return calendar.YearText ? calendar.YearText(year) : std::to_string(year);
 }
@@ -233,7 +229,7 @@ std::optional<std::int32_t> ReadYear(const CalendarContract& calendar, std::stri
 
 std::string WhyNoYear(const CalendarContract& calendar, std::int32_t year) {
     constexpr std::int32_t farthest = 20'000;  // the range ends before in every calendar
-    if (year == 0 && calendar.HasYear0 && !calendar.HasYear0()) {
+    if (year == 0 && !HasYear0(calendar)) {
         return "the " + NameOf(calendar) + " calendar has no year 0";
     }
     return std::abs(year) <= farthest ? "" : std::string(WhyBeyondRange(year < 0 ? MinFixedDay - 1 : MaxFixedDay + 1));

@@ -27,9 +27,6 @@ TypedDate DayOf(const CalendarContract& calendar, std::int32_t year, std::int32_
 /// ahead of the Gregorian one.
 TypedDate ReadDate(std::string_view text, std::span<const CalendarContract* const> calendars);
 
-/// What a calendar is called at present.
-std::string NameOf(const CalendarContract& calendar);
-
 /// A year as the calendar writes it, and the way back, which takes its number too.
 std::string YearText(const CalendarContract& calendar, std::int32_t year);
 std::optional<std::int32_t> ReadYear(const CalendarContract& calendar, std::string_view text);

@@ -135,9 +135,7 @@ void Frame::Draw() {
         child->form->resizable ? DrawChosenSize(*child) : DrawSize(*child);
     }
     PlaceAll();
-    for (const Child* child : OpenChildren()) {
-        if (child->form->floats) PlaceFloating(*child);
-    }
+    PlaceFloating();
     for (Child& child : children_) {
         const bool isShown = child.window->isVisibleTo(child.window->parentWidget());
         if (isShown != child.form->visible) child.window->setVisible(child.form->visible);
@@ -253,16 +251,19 @@ void Frame::PlaceAll() {
     panes_ = std::move(panes);
 }
 
-/// Where it was put, or in the middle, but within the frame.
-void Frame::PlaceFloating(const Child& child) {
-    QMdiSubWindow& window = *child.window;
+/// Where they were put, or in the middle, but within the frame.
+void Frame::PlaceFloating() {
+    const bool before = std::exchange(drawing_, true);
     const QSize room = area_->viewport()->size();
-    const QSize left = room - window.size();
-    const Position& place = child.form->position;
-    const QPoint wish = child.form->positioned ? QPoint(Rounded(place.left), Rounded(place.top))
-                                               : QPoint(left.width() / 2, left.height() / 3);
-    window.move(std::clamp(wish.x(), 0, std::max(0, left.width())),
-                std::clamp(wish.y(), 0, std::max(0, left.height())));
+    for (const Child* child : OpenChildren()) {
+        if (!child->form->floats) continue;
+        const QSize free = (room - child->window->size()).expandedTo(QSize(0, 0));
+        const Position& place = child->form->position;
+        const QPoint put(Rounded(place.left), Rounded(place.top));
+        const QPoint wish = child->form->positioned ? put : QPoint(free.width() / 2, free.height() / 3);
+        child->window->move(std::clamp(wish.x(), 0, free.width()), std::clamp(wish.y(), 0, free.height()));
+    }
+    drawing_ = before;
 }
 
 void Frame::Arrange() {
@@ -342,7 +343,10 @@ Frame::Child* Frame::ChildOf(const QObject* window) {
 }
 
 bool Frame::eventFilter(QObject* watched, QEvent* event) {
-    if (watched == area_->viewport() && event->type() == QEvent::Resize) PlaceAll();
+    if (watched == area_->viewport() && event->type() == QEvent::Resize) {
+        PlaceAll();
+        PlaceFloating();
+    }
     Child* child = ChildOf(watched);
     if (!child) return QMainWindow::eventFilter(watched, event);
     switch (event->type()) {

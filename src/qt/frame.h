@@ -82,7 +82,7 @@ class Frame final : public QMainWindow, public Acts {
     bool isCovered(const QMdiSubWindow* window) const;
     std::vector<Child*> OpenChildren();
     std::vector<Child*> StandingChildren();
-    void PlaceFloating(const Child& child);
+    void PlaceFloating();
     Pane PaneOf(const Child& child) const;
     void PlaceAll();
     void GrantFocus(Child& child);

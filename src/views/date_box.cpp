@@ -43,14 +43,6 @@ std::size_t PlaceInYear(const CalendarContract& calendar, const std::vector<std:
     return std::min(moves ? place + months.size() - before.size() : place, months.size() - 1);
 }
 
-/// The year so many years on, over a year 0 that there is not.
-std::int32_t YearAfter(const CalendarContract& calendar, std::int32_t year, std::int32_t count) {
-    const bool hasYear0 = !calendar.HasYear0 || calendar.HasYear0();
-    if (hasYear0) return year + count;
-    const std::int32_t fromYear0 = (year < 0 ? year + 1 : year) + count;
-    return fromYear0 <= 0 ? fromYear0 - 1 : fromYear0;
-}
-
 /// The steps that a key asks for.
 std::int32_t StepsOfKey(int code) {
     switch (code) {
@@ -234,18 +226,20 @@ void DateBox::StepTo(FixedDay day) {
     Accept(day);
 }
 
-/// The month and the day stay as far as that year has them.
+/// The month and the day stay as far as that year has them. From a day that the calendar does not reach it goes to the
+/// first of a year.
 void DateBox::StepYears(std::int32_t count) {
     const CalendarContract& calendar = Current();
     const std::int32_t year = YearAfter(calendar, date_.year, count);
     if (const std::string why = WhyNoYear(calendar, year); !why.empty()) return Refuse(why);
-    const std::vector<std::string> before = calendar.MonthNames(date_.year);
-    const std::size_t place = static_cast<std::size_t>(date_.month - 1);
-    const auto month = static_cast<std::int32_t>(PlaceInYear(calendar, before, place, calendar.MonthNames(year)) + 1);
-    const FixedDay first = calendar.ToFixed(year, month, 1);
-    const std::int16_t length = isNever(first) ? 0 : calendar.DateOf(first).monthLength;
-    const TypedDate date = DayOf(calendar, year, month, std::min(date_.day, length));
-    isNever(date.moment) ? Refuse(date.told) : StepTo(date.moment);
+    const auto place = static_cast<std::size_t>(date_.month - 1);
+    const std::vector<std::string> months = calendar.MonthNames(year);
+    const auto month =
+        static_cast<std::int32_t>(PlaceInYear(calendar, calendar.MonthNames(date_.year), place, months)) + 1;
+    const TypedDate first = DayOf(calendar, year, month, 1);
+    if (isNever(first.moment)) return Refuse(first.told);
+    const std::int16_t length = calendar.DateOf(first.moment).monthLength;
+    StepTo(first.moment + std::clamp<std::int16_t>(date_.day, 1, length) - 1);
 }
 
 void DateBox::Accept(FixedDay day) {

@@ -53,7 +53,7 @@ class DateBox {
     TextField Year{form, "Year", Tip("Change using up/down arrow or up/down page keys"), Widest("10000 PUC"), Named("Year")};
     UpDown YearUpDown{form, "YearUpDown", Tip("Change the year"), Named("Year")};
     Label MonthLabel{form, "MonthLabel", Caption("&Month")};
-    ChoiceList Month{form, "Month", Widest("Yerm 17, month 17"), Named("Month")};
+    ChoiceList Month{form, "Month", Widest("Yerm 52, month 17"), Named("Month")};
     Label DayLabel{form, "DayLabel", Caption("&Day")};
     TextField Day{form, "Day", Tip("Change using up/down arrow or up/down page keys"), Widest("W53-7"), Named("Day")};
     UpDown DayUpDown{form, "DayUpDown", Tip("Change the day"), Named("Day")};

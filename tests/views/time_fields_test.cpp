@@ -11,7 +11,9 @@
 
 #include <gtest/gtest.h>
 
+#include <optional>
 #include <tuple>
+#include <utility>
 
 namespace horvanta {
 namespace {
@@ -55,26 +57,27 @@ TEST_F(TimeFieldsTest, SwitchDeltaTOffAndOnAtTheSameInstant) {
 }
 
 /// The other scale may leave no room for a moment at an end of the range; the saved one is kept all the same.
-TEST_F(TimeFieldsTest, SwitchDeltaTAtTheEndsOfTheRange) {
-    for (const Moment end : {Moment{MinFixedDay}, Moment{MaxFixedDay}}) {
+TEST(TimeFields, SwitchDeltaTAtTheEndsOfTheRange) {
+    for (const char* end : {"-9e9", "9e9"}) {
         for (const bool savedWithout : {false, true}) {
-            Desk first;
-            if (savedWithout) first.Obey("click TimeAstro.UseDeltaT");
-            first.Obey("type TimeAstro.FixedDayNum " + std::string(end < 0 ? "-9e9" : "9e9"));
-            first.Obey("menu SaveThisMoment");
+            std::optional<Desk> desk(std::in_place);
+            if (savedWithout) desk->Obey("click TimeAstro.UseDeltaT");
+            desk->Obey(std::string("type TimeAstro.FixedDayNum ") + end);
+            desk->Obey("menu SaveThisMoment");
             const Moment shown = DisplayedMoment;
-            first.Obey("click TimeAstro.UseDeltaT");
+            for (int times = 0; times < 2; ++times) desk->Obey("click TimeAstro.UseDeltaT");
+            EXPECT_TRUE(savedWithout || DisplayedMoment == shown) << ExactText(DisplayedMoment);
+            desk->Obey("click TimeAstro.UseDeltaT");
             const Moment saved = SavedMoment;
             EXPECT_NEAR(saved, shown, 5);
-            first.Obey("menu MenuExit");
-            Desk second(first.desktop.settings.flushed);
+            desk->Obey("menu MenuExit");
+            const StoredSettings left = desk->desktop.settings.flushed;
+            desk.reset();
+            desk.emplace(left);
             EXPECT_EQ(SavedMoment, saved);
-            second.Obey("click TimeAstro.UseDeltaT");
+            desk->Obey("click TimeAstro.UseDeltaT");
             EXPECT_NEAR(SavedMoment, shown, 1e-4);
         }
-        Show(end);
-        for (int times = 0; times < 2; ++times) desk.Obey("click TimeAstro.UseDeltaT");
-        EXPECT_EQ(DisplayedMoment, end);
     }
 }
 
