@@ -37,10 +37,8 @@ TEST(TypedDates, AreReadAndToldHow) {
         {"2024-02-29", 2024, 2, 29, "Gregorian calendar, 29 February 2024"},
         {" -0043-3-13 ", -43, 3, 13, "Gregorian calendar, 13 March -43"},
         {"2024-W09-4", 2024, 2, 29, "ISO calendar, 2024-W09-4"},
-        {"2020-w53-7", 2021, 1, 3, "ISO calendar, 2020-W53-7"},
         {"JD 2460000.5", 2023, 2, 25, "Julian Day 2460000.5, in Universal Time"},
         {"mjd60000", 2023, 2, 25, "Modified Julian Day 60000, in Universal Time"},
-        {"15 March 44 BC", -43, 3, 13, "Julian calendar, 15 March 44 BC"},
         {"March 15, 44 B.C.", -43, 3, 13, "Julian calendar, 15 March 44 BC"},
         {"14 oct 1066 AD", 1066, 10, 14, "Gregorian calendar, 14 October 1066"},
         {"2024 Sept. 5", 2024, 9, 5, "Gregorian calendar, 5 September 2024"},
@@ -48,7 +46,6 @@ TEST(TypedDates, AreReadAndToldHow) {
         {"15 Nisan 5784", 2024, 4, 23, "Hebrew calendar, 15 Nisan 5784"},
         {"14 adar sheini 5784", 2024, 3, 24, "Hebrew calendar, 14 Adar Sheini 5784"},
         {"1 Khordad 1403", 2024, 5, 21, "Persian calendar, 1 Khordâd 1403"},
-        {"5 ianuarius 2024", 2024, 1, 18, "Roman calendar, 5 Ianuarius 2024 AD"},
     };
     for (const Row& row : rows) ExpectRead(row, calendars);
     EXPECT_EQ(ReadDate("JD 2460000.25", calendars).moment, GregorianToFixed(2023, 2, 24) + 0.75);
@@ -57,13 +54,11 @@ TEST(TypedDates, AreReadAndToldHow) {
 TEST(TypedDates, AreMeantInTheFirstCalendarThatKnowsThem) {
     const Row rows[] = {
         {"14 October 1066", 1066, 10, 20, "Julian calendar, 14 October 1066 AD"},
-        {"14 October 1066 CE", 1066, 10, 20, "Julian calendar, 14 October 1066 AD"},
         {"1066-10-20", 1066, 10, 20, "Gregorian calendar, 20 October 1066"},
     };
     for (const Row& row : rows) ExpectRead(row, julianFirst);
     const Row rowsSinceRome[] = {
         {"15 March 710", -43, 3, 13, "Julian calendar, 15 March 710 AUC"},
-        {"15 March 710 AUC", -43, 3, 13, "Julian calendar, 15 March 710 AUC"},
         {"15 March 44 BC", -43, 3, 13, "Julian calendar, 15 March 710 AUC"},
         {"14 October 1066 AD", 1066, 10, 20, "Julian calendar, 14 October 1819 AUC"},
     };
@@ -77,23 +72,16 @@ TEST(TypedDates, TellWhyTheyAreNone) {
         {"", "an empty text is not a date"},
         {"abc", "abc is not a date"},
         {"2024", "2024 is not a date"},
-        {"2024-02", "2024-02 is not a date"},
-        {"JD", "JD is not a date"},
         {"JD 9e9", "the range ends at year 12000"},
-        {"JD -9e9", "the range begins at year -6937"},
         {"1 March 12001", "the range ends at year 12000"},
-        {"1 March 999999", "the range ends at year 12000"},
         {"1 March 1e300", "1 March 1e300 is not a date"},
         {"2023-02-29", "February 2023 has 28 days"},
         {"0 March 44 BC", "March 44 BC has 31 days"},
         {"2024-13-01", "a year has months 1 to 12"},
         {"2023-W53-1", "the ISO year 2023 has weeks 1 to 52"},
-        {"2024-W09-8", "a week has days 1 to 7"},
-        {"31 Nisan 5784", "Nisan 5784 has 30 days"},
         {"1 Adar Rishon 5785", "no calendar has a month \"adar rishon\" in year 5785"},
         {"1 Nisan 44 BC", "the Julian calendar has no month \"nisan\" in year 44"},
         {"1 Farvardin 0", "the Persian calendar has no year 0"},
-        {"1 March 0 BC", "1 March 0 BC is not a date"},
         {"1.5 March 2024", "1.5 March 2024 is not a date"},
     };
     for (const auto& [text, why] : rows) {
