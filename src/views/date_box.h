@@ -46,7 +46,7 @@ class DateBox {
     Form form{"DateBox", "Go to Date"};
     Label DateTextLabel{form, "DateTextLabel", Caption("Te&xt")};
     TextField DateText{form, "DateText", Named("Date as text")};
-    Label HowRead{form, "HowRead", Tip("How the text is read")};
+    Label HowRead{form, "HowRead"};
     Label CalendarLabel{form, "CalendarLabel", Caption("&Calendar")};
     ChoiceList Calendar{form, "Calendar", Named("Calendar")};
     Label YearLabel{form, "YearLabel", Caption("&Year")};
@@ -67,7 +67,7 @@ class DateBox {
     Label Universal{form, "Universal", Widest("00:00:00")};
     Label DayNumberLabel{form, "DayNumberLabel", Caption("Fixed day number")};
     Label DayNumber{form, "DayNumber", Tip("Fixed day number"), Widest("-2533804.123456")};
-    Label Why{form, "Why", Tip("Why this is no date"), Widest("Seventh month 10000 has 30 days")};
+    Label Why{form, "Why", Widest("Seventh month 10000 has 30 days")};
     Button OK{form, "OK", Caption("OK"), Tip("Go to this date (Enter)")};
     Button CancelDate{form, "CancelDate", Caption("Cancel"), Tip("Close without going anywhere (Esc)")};
     // clang-format on
