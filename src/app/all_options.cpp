@@ -14,6 +14,7 @@
 #include "locale/locale_text.h"
 #include "lunar/lunar_options.h"
 #include "lunar/yerm_eras.h"
+#include "views/date_box.h"
 #include "views/monthly_window.h"
 #include "views/time_fields.h"
 
@@ -22,6 +23,7 @@ namespace horvanta {
 void ResetAllOptions() {
     SetFixedDayEpoch(GregorianEpoch, 1, "rata die");  // January 1 of year 1 is day 1
     SetDeltaTDisabled(false);
+    date_box::options = {};
     day_numbering::options = {};
     easter::options = {};
     hebrew::options = {};

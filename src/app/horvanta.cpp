@@ -83,14 +83,17 @@ void Horvanta::HangTimeWindow() {
 /// The item of a window is ticked while the window is shown.
 void Horvanta::HangWindow(WindowRow& row) {
     if (row.item) {
-        row.item->Shows(row.form.visible);
-        row.item->Click = [this, &row] { ShowOrHide(row); };
+        if (!row.form.modal) row.item->Shows(row.form.visible);
+        row.item->Click = [this, &row] { row.form.modal ? Raise(row) : ShowOrHide(row); };
         row.form.Close = [this, &row] { Hide(row); };
     }
     row.form.OpenMenu = [this, &row] { frame.OpenMenu(row.form, row.colors); };
     if (row.colors) frame.OfferColors(*row.colors);
     if (!row.form.KeyDown) row.form.KeyDown = frame.Form_KeyDown;
-    for (const GridCalendar& calendar : row.calendars) monthly.Offer(calendar);
+    for (const GridCalendar& calendar : row.calendars) {
+        monthly.Offer(calendar);
+        dateBox.Offer(calendar);
+    }
 }
 
 void Horvanta::Start() {
@@ -252,6 +255,7 @@ void Horvanta::ShowOrHide(WindowRow& row) {
 void Horvanta::Raise(WindowRow& row) {
     if (!row.form.visible) {
         if (row.mayToggle && !row.mayToggle()) return;
+        if (row.prepare) row.prepare();
         row.form.visible = true;
         EnableNeeding(row);
         UpdateStatus();
@@ -271,7 +275,7 @@ void Horvanta::Hide(WindowRow& row) {
 std::vector<Form*> Horvanta::Forms() const {
     std::vector<Form*> forms;
     for (const WindowRow& row : windows) {
-        if (row.isThere()) forms.push_back(&row.form);
+        if (row.isThere() && !row.form.modal) forms.push_back(&row.form);
     }
     return forms;
 }

@@ -7,6 +7,7 @@
 #include "app/report_menu.h"
 #include "app/windows.h"
 #include "core/shell.h"
+#include "views/date_box.h"
 #include "views/events_window.h"
 #include "views/gregorian_window.h"
 #include "views/hebrew_window.h"
@@ -69,6 +70,7 @@ class Horvanta {
     WorldWindow world;
     EventsWindow events{frame};
     MonthlyWindow monthly{frame};
+    DateBox dateBox{frame};
     Places places{frame, timeAstro.fields};
     Jumps jumps{frame, timeAstro};
     Options options{frame};
@@ -89,13 +91,14 @@ class Horvanta {
         Below(monthly.form, events.Row()),
         Beside(monthly.form, userLocales.Row()),
         {world.form, world.Dummy},
+        dateBox.Row(),
     };
 
-    /// The same, as far as they are there.
+    /// The same, as far as they are there and keep the user from none.
     std::vector<Form*> Forms() const;
 
     /// The windows that keep the user from all others while they are shown.
-    std::vector<Form*> Dialogs() { return {&reports.progress.form, &reports.finished.form}; }
+    std::vector<Form*> Dialogs() { return {&dateBox.form, &reports.progress.form, &reports.finished.form}; }
 
   private:
     void HangHandlers();

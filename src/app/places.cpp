@@ -109,7 +109,7 @@ void Places::Return(const Choice& choice) {
 
 void Places::ReportMove(const LocaleRecord& place) {
     const std::string report = LocaleChangeReport(Locale, place);
-    if (CurrentDesktop->AskYesNo(report + "\n\nCopy this information to the Clipboard?", "New Locale")) {
+    if (CurrentDesktop->ShowInformation(report, "New Locale")) {
         frame_.SetClipboardText("New Locale:\n\n" + report);
     }
 }

@@ -48,7 +48,7 @@ Settings FirstRows(Horvanta& program) {
 Settings OtherRows(Horvanta& program) {
     Settings rows;
     for (WindowRow& row : program.windows) {
-        if (row.isThere()) Append(rows, PositionRows(row));
+        if (row.isThere() && !row.form.modal) Append(rows, PositionRows(row));
     }
     Append(rows, program.places.StoredRows());
     for (const WindowRow& row : program.windows) {

@@ -68,6 +68,9 @@ struct CalendarContract {
     /// What it is called at present; null for one that always goes by its name.
     std::string (*PresentName)() = nullptr;
 
+    /// A year as it is written, where that is not its number: "44 BC".
+    std::string (*YearText)(std::int32_t year) = nullptr;
+
     /// The month behind which a leap month moves those that follow; 0 where no month moves.
     std::int16_t leapMonthAfter = 0;
 
@@ -77,5 +80,19 @@ struct CalendarContract {
 
 /// For calendars that never have a year 0.
 constexpr bool HasNoYear0() { return false; }
+
+/// What a calendar is called at present.
+inline std::string NameOf(const CalendarContract& calendar) {
+    return calendar.PresentName ? calendar.PresentName() : std::string(calendar.name);
+}
+
+inline bool HasYear0(const CalendarContract& calendar) { return !calendar.HasYear0 || calendar.HasYear0(); }
+
+/// The year so many years after one, or before it, over a year 0 that there is not.
+inline std::int32_t YearAfter(const CalendarContract& calendar, std::int32_t year, std::int32_t count) {
+    if (HasYear0(calendar)) return year + count;
+    const std::int32_t counted = (year < 0 ? year + 1 : year) + count;
+    return counted <= 0 ? counted - 1 : counted;
+}
 
 }  // namespace horvanta

@@ -236,6 +236,10 @@ GridDate WrittenDate(Moment x) {
             static_cast<std::int16_t>(DayOfWeek(date.fixed - date.day + 1))};
 }
 
+std::string WrittenYear(std::int32_t year) {
+    return JulianYearString(julian::options.UseAUC ? AUCToJulian(year) : year, false);
+}
+
 std::vector<std::string> LatinMonths(std::int32_t) {
     constexpr std::ptrdiff_t monthsOfYear = 12;
     return {std::begin(RomanMonthNames), std::begin(RomanMonthNames) + monthsOfYear};
@@ -255,13 +259,15 @@ constinit const CalendarContract JulianCalendar{.name = "Julian",
                                                 .MonthNames = [](std::int32_t) { return Texts(GregorianMonthNames); },
                                                 .DayNames = [] { return GregorianCalendar.DayNames(); },
                                                 .HasYear0 = HasNoYear0,
-                                                .PresentName = JulianCalendarName};
+                                                .PresentName = JulianCalendarName,
+                                                .YearText = WrittenYear};
 
 constinit const CalendarContract RomanCalendar{.name = "Roman",
                                                .ToFixed = WrittenToFixed<false>,
                                                .DateOf = WrittenDate<false>,
                                                .MonthNames = LatinMonths,
                                                .DayNames = LatinDays,
-                                               .HasYear0 = HasNoYear0};
+                                               .HasYear0 = HasNoYear0,
+                                               .YearText = WrittenYear};
 
 }  // namespace horvanta

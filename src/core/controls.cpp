@@ -75,6 +75,11 @@ TextField::~TextField() {
 }
 
 void TextField::Edit(const std::string& typed) {
+    if (Typed) {
+        text = typed;
+        Typed();
+        return;
+    }
     edit_ = {isEdited() ? edit_->before : text, typed};
     text = typed;
     editedField = this;
@@ -83,6 +88,11 @@ void TextField::Edit(const std::string& typed) {
 void TextField::Leave() {
     edit_.reset();
     if (LostFocus) LostFocus();
+}
+
+void TextField::Enter() {
+    Leave();
+    if (Entered) Entered();
 }
 
 bool TextField::Restore() {

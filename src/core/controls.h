@@ -131,6 +131,11 @@ struct TextField final : Control {
 
     bool readOnly = false;            ///< It can be read and copied, not written.
     std::function<void()> LostFocus;  ///< The user left the field or pressed Enter in it.
+    std::function<void()> Entered;    ///< He pressed Enter; called after `LostFocus`.
+
+    /// Called at each change by the user, where it is there. What stands in such a field counts at once: there is
+    /// nothing to take later or to give up.
+    std::function<void()> Typed;
 
     /// The user changed the text into this one, and is still at it.
     void Edit(const std::string& typed);
@@ -138,8 +143,9 @@ struct TextField final : Control {
     /// True from the first change until the user leaves the field, or the program writes another text into it.
     bool isEdited() const { return edit_ && text == edit_->typed; }
 
-    /// The user leaves the field.
+    /// The user leaves the field, or presses Enter in it.
     void Leave();
+    void Enter();
 
     /// Puts back the text from before the editing; false if there was none.
     bool Restore();

@@ -109,11 +109,7 @@ inline void Refuse(std::string_view why) {
     CurrentDesktop->ShowStatus(why);
 }
 
-/// The same for an entry that can't be read: "abc is not a day number".
-inline void RefuseEntry(std::string_view entry, std::string_view wanted) {
-    constexpr std::size_t longest = 40;  // characters
-    const std::string shown = Elided(Trimmed(entry), longest);
-    Refuse((shown.empty() ? "an empty text" : shown) + " is not " + std::string(wanted));
-}
+/// The same for an entry that can't be read.
+inline void RefuseEntry(std::string_view entry, std::string_view wanted) { Refuse(NotText(entry, wanted)); }
 
 }  // namespace horvanta

@@ -13,11 +13,16 @@ Moment Renumbered(Moment x, double shift) {
 
 }  // namespace
 
+std::string_view WhyBeyondRange(Moment x) {
+    if (x > MaxFixedDay) return "the range ends at year 12000";
+    return x >= MinFixedDay ? "" : "the range begins at year -6937";
+}
+
 Moment ClampToRange(Moment x) {
-    if (x >= MinFixedDay && x <= MaxFixedDay) return x;
-    const bool isPast = !(x > MaxFixedDay);
-    Refuse(isPast ? "the range begins at year -6937" : "the range ends at year 12000");
-    return isPast ? MinFixedDay : MaxFixedDay;
+    const std::string_view why = WhyBeyondRange(x);
+    if (why.empty()) return x;
+    Refuse(why);
+    return x > MaxFixedDay ? MaxFixedDay : MinFixedDay;
 }
 
 void UpdateStatus() {

@@ -4,6 +4,8 @@
 
 #include <cstdint>
 #include <functional>
+#include <string>
+#include <string_view>
 
 /// The one moment that every window shows, and the update cycle that shows it.
 namespace horvanta {
@@ -28,6 +30,9 @@ inline Options options;
 
 /// Recomputes every open window from `DisplayedMoment`; one pass of `UpdateStatus`. The program hangs it here.
 inline std::function<void()> UpdatePass;
+
+/// Why a moment can't be displayed: "the range ends at year 12000"; nothing for one that can.
+std::string_view WhyBeyondRange(Moment x);
 
 /// A moment that can be displayed: x itself, or with a beep the nearer end of the range (the first for NaN).
 Moment ClampToRange(Moment x);

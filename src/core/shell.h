@@ -152,6 +152,7 @@ class HorvantaMDI {
       MenuItem SavePreferences{FileMenu, "SavePreferences", "Save &Preferences", "Ctrl+S"};
       MenuItem SaveThisMoment{FileMenu, "SaveThisMoment", "Save This &Moment"};
       MenuItem JumpTo{FileMenu, "JumpTo", "&Jump To..."};
+        MenuItem JumpToDate{JumpTo, "JumpToDate", "&Date...", "Ctrl+G"};
         MenuItem JumpToSaved{JumpTo, "JumpToSaved", "&Saved Moment"};
         MenuItem MenuJumpToToday{JumpTo, "MenuJumpToToday", "&Today (at midnight)"};
         MenuItem MenuJumpToNow{JumpTo, "MenuJumpToNow", "&Now (date and time)"};
@@ -273,7 +274,7 @@ class HorvantaMDI {
       MenuItem PickBackColor{WindowS, "PickBackColor", "Change Background Color"};
       MenuItem PickForeColor{WindowS, "PickForeColor", "Change Foreground Color"};
       MenuItem ArrangeSep{WindowS, "ArrangeSep", "-"};
-      MenuItem Arrange{WindowS, "Arrange", "Arran&ge"};
+      MenuItem Arrange{WindowS, "Arrange", "&Arrange"};
 
     MenuItem Links{menuBar, "Links", "Lin&ks"};
       MenuItem MenuAbout{Links, "MenuAbout", "&About Horvanta...", "F1"};

@@ -233,6 +233,23 @@ std::string FormatTime(Moment x, int style, bool longForm) {
     return TimeText(units >= chosen.unitsPerDay ? 0 : units, chosen, longForm);
 }
 
+std::optional<double> ParseTimeOfDay(std::string_view text) {
+    constexpr double limits[] = {24, 60, 60};
+    constexpr double secondsIn[] = {3600, 60, 1};
+    double seconds = 0;
+    std::size_t field = 0;
+    for (bool more = true; more; ++field) {
+        const std::size_t colon = text.find(':');
+        more = colon != std::string_view::npos;
+        const auto number = field < std::size(limits) ? ParseNumber(text.substr(0, colon)) : std::nullopt;
+        const bool fits = number && *number >= 0 && *number < limits[field];
+        if (!fits || (field < 2 && *number != Floor(*number))) return std::nullopt;
+        seconds += *number * secondsIn[field];
+        text.remove_prefix(more ? colon + 1 : 0);
+    }
+    return field < 2 ? std::nullopt : std::optional(seconds / 86400);
+}
+
 std::string DurationString(double days, int style, bool longForm) {
     if (isNever(days)) return "never";
     const TimeStyle& chosen = StyleOf(style);
@@ -374,6 +391,12 @@ std::string ReplaceAll(std::string_view text, std::string_view what, std::string
     return result.append(text);
 }
 
+namespace {
+
+bool TellsValue(std::string_view line) { return line.find(" = ") != std::string_view::npos; }
+
+}  // namespace
+
 std::string Unwrapped(std::string_view text) {
     constexpr std::size_t shortest = 45;  // bytes of a line that has been broken for its width
     constexpr std::string_view endings = ".:!?";
@@ -384,10 +407,17 @@ std::string Unwrapped(std::string_view text) {
         joined += line;
         text = end == std::string_view::npos ? "" : text.substr(end + 1);
         if (end == std::string_view::npos) break;
-        const bool endsHere = line.size() < shortest || endings.find(line.back()) != std::string_view::npos;
+        const bool listed = TellsValue(line) && TellsValue(text.substr(0, text.find('\n')));
+        const bool endsHere = listed || line.size() < shortest || endings.find(line.back()) != std::string_view::npos;
         joined += endsHere || text.starts_with('\n') ? "\n" : " ";
     }
     return joined;
+}
+
+std::string NotText(std::string_view entry, std::string_view wanted) {
+    constexpr std::size_t longest = 40;  // characters
+    const std::string shown = Elided(Trimmed(entry), longest);
+    return (shown.empty() ? "an empty text" : shown) + " is not " + std::string(wanted);
 }
 
 std::string RemoveAmpersands(std::string_view caption) { return ReplaceAll(caption, "&", ""); }

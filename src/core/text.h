@@ -66,6 +66,9 @@ std::string OrdinalDiff(std::int32_t a, std::int32_t b);
 /// The worded styles leave out leading fields that are zero. Any other style is 0.
 std::string FormatTime(Moment x, int style, bool longForm = false);
 
+/// The part of the day that a time tells as "5:11" or "05:11:20.5"; nothing for any other text.
+std::optional<double> ParseTimeOfDay(std::string_view text);
+
 /// A length of time in days: its whole days, if any, and the rest through `FormatTime`, rounded together.
 std::string DurationString(double days, int style = 1, bool longForm = false);
 
@@ -124,8 +127,11 @@ std::string NameText(std::string_view name);
 std::string ReplaceAll(std::string_view text, std::string_view what, std::string_view with);
 
 /// A text whose lines were broken by hand for a certain width, with each paragraph in one line. A line that ends a
-/// sentence or was short by itself stays one.
+/// sentence or was short by itself stays one, and so do those that tell a value each.
 std::string Unwrapped(std::string_view text);
+
+/// What is said of an entry that is not what it should be: "abc is not a day number".
+std::string NotText(std::string_view entry, std::string_view wanted);
 
 /// A caption without the marks of its access key.
 std::string RemoveAmpersands(std::string_view caption);

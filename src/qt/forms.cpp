@@ -1,5 +1,6 @@
 #include "qt/forms.h"
 
+#include "forms/ui_date_box.h"
 #include "forms/ui_events.h"
 #include "forms/ui_gregorian.h"
 #include "forms/ui_hebrew.h"
@@ -36,6 +37,7 @@ constexpr DesignerForm designerForms[] = {
     {"Lunar", SetUp<Ui::Lunar>},         {"Events", SetUp<Ui::Events>},
     {"Hebrew", SetUp<Ui::Hebrew>},       {"Chinese", SetUp<Ui::Chinese>},
     {"Progress", SetUp<Ui::Progress>},   {"ReportFinished", SetUp<Ui::ReportFinished>},
+    {"DateBox", SetUp<Ui::DateBox>},
 };
 
 }  // namespace

@@ -85,6 +85,8 @@ class Frame final : public QMainWindow, public Acts {
     void ReportFront();
     bool isCovered(const QMdiSubWindow* window) const;
     std::vector<Child*> OpenChildren();
+    std::vector<Child*> StandingChildren();
+    void PlaceFloating();
     Pane PaneOf(const Child& child) const;
     void PlaceAll();
     void Stack(const std::vector<Child*>& open, const std::vector<QPoint>& places);

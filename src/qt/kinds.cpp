@@ -133,8 +133,19 @@ struct TextFieldFace final : FaceOf<TextField, QLineEdit> {
     void Connect(Acts& acts) override {
         by.setReadOnly(shown.readOnly);
         QObject::connect(&by, &QLineEdit::textEdited, &by,
-                         [this](const QString& typed) { shown.Edit(typed.toStdString()); });
-        QObject::connect(&by, &QLineEdit::returnPressed, &by, [this, &acts] { Leave(acts); });
+                         [this, &acts](const QString& typed) { Edit(typed.toStdString(), acts); });
+        QObject::connect(&by, &QLineEdit::returnPressed, &by, [this, &acts] {
+            acts.Run([this] { shown.Enter(); }, {.whileBusy = shown.whileBusy, .editing = true});
+        });
+    }
+
+    /// What counts at once is an act of its own.
+    void Edit(const std::string& typed, Acts& acts) {
+        if (shown.Typed) {
+            acts.Run([&] { shown.Edit(typed); }, {.whileBusy = shown.whileBusy, .editing = true});
+        } else {
+            shown.Edit(typed);
+        }
     }
 
     /// What is typed behind the untouched text of a window's main field takes its place. There Home is the window's, as

@@ -146,14 +146,8 @@ void MonthlyWindow::Update() {
 /// A calendar may change its name with its rule.
 void MonthlyWindow::ShowNames() {
     for (std::size_t i = 0; i < Calendars.items.size(); ++i) {
-        const CalendarContract& calendar = *calendars_[listed_[i]].contract;
-        Calendars.items[i] = calendar.PresentName ? calendar.PresentName() : std::string(calendar.name);
+        Calendars.items[i] = NameOf(*calendars_[listed_[i]].contract);
     }
-}
-
-bool MonthlyWindow::HasYear0() const {
-    const auto hasYear0 = Current().contract->HasYear0;
-    return !hasYear0 || hasYear0();
 }
 
 void MonthlyWindow::WearColors() {
@@ -224,7 +218,7 @@ void MonthlyWindow::PrevMonth_Click() {
     if (shown_.month > 1) {
         ShowMonth(shown_.year, shown_.month - 1, true);
     } else {
-        const std::int32_t year = YearBeside(shown_.year, -1);
+        const std::int32_t year = YearAfter(*Current().contract, shown_.year, -1);
         ShowMonth(year, MonthsIn(year), true);
     }
 }
@@ -233,7 +227,7 @@ void MonthlyWindow::NextMonth_Click() {
     if (shown_.month < MonthsIn(shown_.year)) {
         ShowMonth(shown_.year, shown_.month + 1, true);
     } else {
-        ShowMonth(YearBeside(shown_.year, 1), 1, true);
+        ShowMonth(YearAfter(*Current().contract, shown_.year, 1), 1, true);
     }
 }
 
@@ -241,15 +235,10 @@ std::int32_t MonthlyWindow::MonthsIn(std::int32_t year) const {
     return static_cast<std::int32_t>(Current().contract->MonthNames(year).size());
 }
 
-std::int32_t MonthlyWindow::YearBeside(std::int32_t year, std::int32_t direction) const {
-    const std::int32_t beside = year + direction;
-    return beside == 0 && !HasYear0() ? direction : beside;
-}
-
 /// The day stays, and where the calendar's months move by a leap month, so does the month.
 void MonthlyWindow::ChangeYear(std::int32_t year) {
     const CalendarContract& calendar = *Current().contract;
-    if (year == 0 && !HasYear0()) year = shown_.year < 1 ? 1 : -1;
+    if (year == 0 && !HasYear0(calendar)) year = shown_.year < 1 ? 1 : -1;
     if (year == shown_.year) return;
     std::int32_t month = shown_.month;
     if (calendar.leapMonthAfter > 0 && month > calendar.leapMonthAfter) month += MonthsIn(year) - MonthsIn(shown_.year);

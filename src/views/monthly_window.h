@@ -22,7 +22,7 @@ inline Options options;
 class MonthlyWindow {
   public:
     /// The calendars in the order of the list; a place whose calendar is not there yet is left out of what is shown.
-    static constexpr std::size_t CalendarCount = 9;
+    static constexpr std::size_t CalendarCount = GridCalendarCount;
 
     explicit MonthlyWindow(HorvantaMDI& frame);
 
@@ -67,7 +67,6 @@ class MonthlyWindow {
     void KeepFocusInList();
     void ShowHeadings();
     void ShowNames();
-    bool HasYear0() const;
     void ShowCells(const GridDate& date);
     void ShowToday(const GridDate& date);
     std::string SpokenDay() const;
@@ -75,7 +74,6 @@ class MonthlyWindow {
     void MoveTo(std::int32_t year, std::int32_t month, std::int32_t day, bool keepTime);
     void ShowMonth(std::int32_t year, std::int32_t month, bool keepTime);
     void ChangeYear(std::int32_t year);
-    std::int32_t YearBeside(std::int32_t year, std::int32_t direction) const;
     std::int32_t MonthsIn(std::int32_t year) const;
     void ShowLayout();
     bool ObeyCellKey(int code, int shift);

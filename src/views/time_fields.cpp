@@ -351,12 +351,13 @@ void TimeFields::UseDeltaT_Click() {
             moment = moment == terrestrial ? universal : TerrestrialToUniversal(moment);
         } else {
             universal = std::exchange(moment, UniversalToTerrestrial(moment));
-            terrestrial = moment;
         }
     }
     if (!use) SetDeltaTDisabled(true);
     UpdateStatus();
-    if (!use) CurrentDesktop->Tell(deltaTWarning, "Delta T Disabled");
+    if (use) return;
+    for (auto& switched : switchedOff_) switched.terrestrial = switched.moment;  // as it fits into the range
+    CurrentDesktop->Tell(deltaTWarning, "Delta T Disabled");
 }
 
 void TimeFields::UseElevation_Click() {

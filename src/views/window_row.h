@@ -20,6 +20,9 @@ struct GridCalendar {
     MenuItem* window = nullptr;
 };
 
+/// How many places the list of calendars has.
+inline constexpr std::size_t GridCalendarCount = 9;
+
 /// When a window is open at a start that no settings tell otherwise, or whatever they tell.
 enum class OpenAt { NoStart, FirstStart, EveryStart };
 
@@ -38,6 +41,7 @@ struct WindowRow {
     Settings settings{};                ///< What it keeps beside its position and colours.
     bool* check = &form.visible;        ///< What is kept along with its position.
     std::function<bool()> mayToggle{};  ///< Asked before it is shown or hidden, if there.
+    std::function<void()> prepare{};    ///< Called before it is shown, if there.
 
     std::function<Position()> standardPosition{};  ///< Where it stands if no one has moved it; the program sets it.
 

@@ -137,6 +137,8 @@ TEST(Text, JoinsTheLinesOfAParagraph) {
         {broken + "\n\nA paragraph.", broken + "\n\nA paragraph."},
         {"Saturday = Shanbeh\nSunday = Yek-shanbeh\n", "Saturday = Shanbeh\nSunday = Yek-shanbeh\n"},
         {broken + "\n" + broken + "\nend.", broken + " " + broken + " end."},
+        {"Distance over the sphere of the Earth = 337.347 km\nOver the spheroid = 337.9 km",
+         "Distance over the sphere of the Earth = 337.347 km\nOver the spheroid = 337.9 km"},
         {"", ""},
         {"\n\n", "\n\n"},
     };

@@ -121,7 +121,7 @@ class ControlsTest final : public QObject {
             {"AdjustDST", [] { return zone_time::options.AdjustDST == Checked; }, Qt::PartiallyChecked},
         };
         zone_time::options.AdjustDST = Undecided;
-        AnswerNextBox(QMessageBox::No);
+        CloseNextInformation();
         session.program.frame.Presets[1].Click();  // a place with an elevation and daylight saving time
         session.frame().Draw();
         for (const Row& row : rows) {
@@ -145,7 +145,7 @@ class ControlsTest final : public QObject {
         const auto corner = [box] { return box->grab().toImage().pixelColor(box->width() - 1, 0); };
         const QPalette own = box->palette();
         const QColor background = corner();
-        AnswerNextBox(QMessageBox::No);
+        CloseNextInformation();
         session.program.frame.Presets[1].Click();
         session.frame().Draw();
         const QColor text = box->palette().color(QPalette::WindowText);

@@ -1,3 +1,4 @@
+#include "calendars/gregorian.h"
 #include "core/moment.h"
 #include "session.h"
 
@@ -69,6 +70,45 @@ class KeysTest final : public QObject {
 
   private Q_SLOTS:
     void init() { settings_.emplace(); }
+
+    /// Every label leads to its field, and what stands there counts as it is typed.
+    void theDateBoxIsAnsweredByKeys() {
+        Session session;
+        DisplayedMoment = 8415.25;
+        UpdateStatus();
+        session.Press(Qt::Key_G, Qt::ControlModifier);
+        const QWidget* box = session.Dialog(session.program.dateBox.form);
+        const auto* ok = box->findChild<QPushButton*>(QStringLiteral("OK"));
+        QCOMPARE(session.frame().focusWidget()->objectName(), QStringLiteral("DateText"));
+        for (const auto& [key, field] :
+             {std::pair(Qt::Key_C, "Calendar"), std::pair(Qt::Key_Y, "Year"), std::pair(Qt::Key_M, "Month"),
+              std::pair(Qt::Key_D, "Day"), std::pair(Qt::Key_T, "Time"), std::pair(Qt::Key_A, "Scale"),
+              std::pair(Qt::Key_X, "DateText")}) {
+            session.Press(key, Qt::AltModifier);
+            QCOMPARE(session.frame().focusWidget()->objectName(), QString::fromLatin1(field));
+        }
+        QTest::keyClicks(session.frame().focusWidget(), QStringLiteral("15 Nisan 578"));
+        QCOMPARE(box->findChild<QLabel*>(QStringLiteral("HowRead"))->text(),
+                 QStringLiteral("Hebrew calendar, 15 Nisan 578"));
+        session.Press(Qt::Key_X);
+        QVERIFY(!ok->isEnabled());
+        session.Press(Qt::Key_Return);
+        QVERIFY(box->isVisible());
+        session.Press(Qt::Key_Backspace);
+        session.Press(Qt::Key_4);
+        QVERIFY(ok->isEnabled());
+        session.Press(Qt::Key_M, Qt::AltModifier);
+        session.Press(Qt::Key_Return);
+        QVERIFY(!box->isVisible());
+        QCOMPARE(DisplayedMoment, GregorianToFixed(2024, 4, 23) + 0.25);
+        QCOMPARE(session.frame().focusWidget()->objectName(), QStringLiteral("FixedDayNum"));
+        session.Press(Qt::Key_G, Qt::ControlModifier);
+        session.Press(Qt::Key_D, Qt::AltModifier);
+        session.Press(Qt::Key_PageUp);
+        session.Press(Qt::Key_Escape);
+        QVERIFY(!box->isVisible());
+        QCOMPARE(DisplayedMoment, GregorianToFixed(2024, 4, 23) + 0.25);
+    }
 
     void keysStepAndEditingKeysEdit() {
         Session session;

@@ -136,7 +136,7 @@ class LooksTest final : public QObject {
         for (const QPalette& palette : {standard, DarkPalette()}) {
             QApplication::setPalette(palette);
             Session session;
-            AnswerNextBox(QMessageBox::No);
+            CloseNextInformation();
             session.program.frame.Presets[1].Click();
             session.frame().Draw();
             auto* box = session.Find<QCheckBox>("AdjustDST");

@@ -34,7 +34,7 @@ class NamesTest final : public QObject {
         const LocaleRecord place = MakeLocale(name.toStdString(), "", 10, 20, 0);
         session.program.places.SetUserLocale(1, place);
         session.program.userLocales.form.visible = true;
-        AnswerNextBox(QMessageBox::No);
+        CloseNextInformation();
         session.program.places.UserLoc_Click(1);
         session.frame().Draw();
         const auto* copy = session.Find<QPushButton>("CopyLoc");

@@ -33,7 +33,7 @@ class ProgramTest final : public QObject {
     void aMapOpensWithItsAddressAsItIs() {
         Session session;
         Browser browser;
-        AnswerNextBox(QMessageBox::No);
+        CloseNextInformation();
         session.program.frame.Presets[20].Click();  // a place with a space in its name
         session.program.frame.MapLocale.Click();
         const QString address = QString::fromLatin1(browser.opened.toEncoded());

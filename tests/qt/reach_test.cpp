@@ -1,5 +1,4 @@
 #include "core/text.h"
-#include "qt/information_box.h"
 #include "qt/window_layout.h"
 #include "session.h"
 

@@ -2,6 +2,7 @@
 
 #include "app/horvanta.h"
 #include "core/moment.h"
+#include "qt/information_box.h"
 #include "qt/qt_desktop.h"
 
 #include <QApplication>
@@ -104,6 +105,10 @@ void DealWithNext(const std::function<void(Dialog&)>& deal) {
         deal(*dialog);
     });
     timer->start(1);
+}
+
+inline void CloseNextInformation() {
+    DealWithNext<horvanta::InformationBox>([](horvanta::InformationBox& box) { box.reject(); });
 }
 
 inline void AnswerNextBox(QMessageBox::StandardButton button) {

@@ -51,45 +51,18 @@ void AddMenuLines(const MenuItem& menu, std::vector<std::string>& lines) {
     }
 }
 
-/// What nobody would type, or only by mistake.
+/// What is typed, but mostly by nobody or by mistake.
 std::vector<std::string> OddTexts() {
-    constexpr const char* odd[] = {"",
-                                   "-",
-                                   "nan",
-                                   "inf",
-                                   "1e400",
-                                   "—5",
-                                   "9999999",
-                                   "-9999999",
-                                   "1e-300",
-                                   "0x1",
-                                   "٣",
-                                   "90",
-                                   "-90",
-                                   "180",
-                                   "59.9999",
-                                   "24",
-                                   "30",
-                                   "1e308",
-                                   "&",
-                                   "&&a&",
-                                   "[*]",
-                                   "<b>a</b><img src='/dev/zero'>",
-                                   "\x01\x02\x7F",
-                                   "a\tb\nc",
-                                   "%n%s%1",
-                                   "\"\\",
-                                   "ירושלים\u202E",
-                                   "\xFF\xC0\xAF",
-                                   "a;b,c=d]",
-                                   "@@"};
-    std::vector<std::string> texts(std::begin(odd), std::end(odd));
-    texts.insert(texts.end(), {std::string(3, '\0'), std::string(5000, 'x')});
-    return texts;
+    // clang-format off
+    return {"", "-", "nan", "inf", "1e400", "—5", "9999999", "-9999999", "1e-300", "0x1", "٣", "90", "-90", "180",
+            "59.9999", "24", "30", "1e308", "&", "&&a&", "[*]", "<b>a</b><img src='/dev/zero'>", "\x01\x02\x7F",
+            "a\tb\nc", "%n%s%1", "\"\\", "ירושלים\u202E", "\xFF\xC0\xAF", "a;b,c=d]", "@@", "2024-02-29",
+            "12 March 44 BC", "15 Nisan 5784", "JD 2460000.25", std::string(3, '\0'), std::string(5000, 'x')};
+    // clang-format on
 }
 
 /// A line for everything the user can do but quit.
-std::vector<std::string> LinesOf(const Horvanta& program) {
+std::vector<std::string> LinesOf(Horvanta& program) {
     std::vector<std::string> lines{"answer yes", "answer no", "answer color 8421504", "events", "status"};
     for (const std::string& text : OddTexts()) lines.push_back("answer text " + text);
     for (const char* key : {"Space", "Space shift", "PageUp", "PageDown", "Up", "Down", "Plus", "Minus", "Home",
@@ -97,7 +70,9 @@ std::vector<std::string> LinesOf(const Horvanta& program) {
         lines.push_back(std::string("press ") + key);
     }
     for (int slot = 1; slot <= 30; ++slot) lines.push_back("menu UserLoc " + std::to_string(slot));
-    for (const Form* form : program.Forms()) {
+    std::vector<Form*> forms = program.Forms();
+    forms.push_back(&program.dateBox.form);
+    for (const Form* form : forms) {
         lines.push_back("close " + form->name);
         for (const Control* control : form->controls) {
             const std::string name = form->name + "." + control->name;

@@ -11,7 +11,9 @@
 
 #include <gtest/gtest.h>
 
+#include <optional>
 #include <tuple>
+#include <utility>
 
 namespace horvanta {
 namespace {
@@ -51,6 +53,31 @@ TEST_F(TimeFieldsTest, SwitchDeltaTOffAndOnAtTheSameInstant) {
         desk.Obey("call JumpDate 1 false");
         desk.Obey("click TimeAstro.UseDeltaT");
         EXPECT_NEAR(DisplayedMoment, moment + 1, 1e-4) << moment;
+    }
+}
+
+/// The other scale may leave no room for a moment at an end of the range; the saved one is kept all the same.
+TEST(TimeFields, SwitchDeltaTAtTheEndsOfTheRange) {
+    for (const char* end : {"-9e9", "9e9"}) {
+        for (const bool savedWithout : {false, true}) {
+            std::optional<Desk> desk(std::in_place);
+            if (savedWithout) desk->Obey("click TimeAstro.UseDeltaT");
+            desk->Obey(std::string("type TimeAstro.FixedDayNum ") + end);
+            desk->Obey("menu SaveThisMoment");
+            const Moment shown = DisplayedMoment;
+            for (int times = 0; times < 2; ++times) desk->Obey("click TimeAstro.UseDeltaT");
+            EXPECT_TRUE(savedWithout || DisplayedMoment == shown) << ExactText(DisplayedMoment);
+            desk->Obey("click TimeAstro.UseDeltaT");
+            const Moment saved = SavedMoment;
+            EXPECT_NEAR(saved, shown, 5);
+            desk->Obey("menu MenuExit");
+            const StoredSettings left = desk->desktop.settings.flushed;
+            desk.reset();
+            desk.emplace(left);
+            EXPECT_EQ(SavedMoment, saved);
+            desk->Obey("click TimeAstro.UseDeltaT");
+            EXPECT_NEAR(SavedMoment, shown, 1e-4);
+        }
     }
 }
 

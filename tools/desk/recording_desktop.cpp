@@ -161,7 +161,7 @@ bool RecordingDesktop::Press(int code, int shift) {
     if (reached && TakesClicks(*focused) && (code == KeySpace || code == KeyEnter)) {
         if (focused->Click) focused->Click();
     } else if (reached && field && code == KeyEnter) {
-        LeaveField();
+        field->Enter();
     } else if (reached && focused->KeyDown && focused->KeyDown(code, shift)) {
         return true;
     } else if (focused->form.KeyDown) {
