@@ -10,13 +10,13 @@
 /// Reports as data: a title, columns, and a walk that yields one row after another. The forms in which they are written
 /// stand in `report_forms`. All texts are UTF-8.
 ///
-/// Where a text is said to be marked up, it has the tags and entities of web pages, and no sign of its own that would
-/// be one; tables have it without them.
+/// A text that is said to be marked up has the tags and entities of web pages, which tables leave out; its own "<" and
+/// "&" are entities.
 namespace horvanta {
 
 /// What a column holds, and so how its cells stand on a page and in a table.
 enum class ColumnKind {
-    Group,   ///< The first column: a page has a table of its own, headed by it, for all rows of one value.
+    Group,   ///< The first column, marked up: a page has a table of its own, headed by it, for all rows of one value.
     Number,  ///< To the right, in a line; no text to a spreadsheet.
     Text,    ///< To the left, in a line.
     Prose,   ///< The same, marked up and broken into lines.

@@ -59,8 +59,6 @@ void Add(std::string& page, std::string_view text) {
 void AddMarkedUp(std::string& page, std::string_view text) { Add<isPlainMarkup>(page, text); }
 void AddEscaped(std::string& page, std::string_view text) { Add<isPlain>(page, text); }
 
-constexpr std::string_view lineEnd = "\r\n";
-
 constexpr std::string_view styleSheet =
     "<style type=\"text/css\">\r\n"
     "body { font-family: sans-serif; color: black; background-color: white }\r\n"
@@ -136,7 +134,7 @@ class PageWriter final : public ReportWriter {
             if (tag == "li" && !std::exchange(inList, true)) page += "<ul>\r\n";
             page.append("<").append(tag).append(">");
             AddMarkedUp(page, text);
-            page.append("</").append(tag).append(">").append(lineEnd);
+            page.append("</").append(tag).append(">\r\n");
         }
         endList();
         page += "</div>\r\n";

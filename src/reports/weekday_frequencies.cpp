@@ -68,11 +68,14 @@ Fraction Reduced(std::int32_t count, std::int32_t total) {
     return {count / divisor, total / divisor};
 }
 
+/// Of all tables; there are 17.
 std::set<Fraction> AllFractions() {
     std::set<Fraction> fractions;
     for (std::int32_t index = 0; index < allDays; ++index) {
         const WeekdayCounts counts = DayAt(index).Counts();
-        for (const std::int32_t years : counts.years) fractions.insert(Reduced(years, counts.total));
+        for (const std::int32_t years : counts.years) {
+            if (years != 0) fractions.insert(Reduced(years, counts.total));
+        }
     }
     return fractions;
 }

@@ -27,10 +27,10 @@ class ReportFinishedWindow {
 
     // clang-format off
     Form form{"ReportFinished", "Report Finished"};
-    Label ReportTitle{form, "ReportTitle", Named("Report")};
-    Label PathInfo{form, "PathInfo", Named("What the path is of")};
+    Label ReportTitle{form, "ReportTitle"};
+    Label PathInfo{form, "PathInfo"};
     TextField FilePath{form, "FilePath", Named("Path"), Tip("Read-only, use arrow keys or Home or End  to examine entire path"), Widest("/home/somebody/Documents/Postponements-5784-5802-(19-years).htm")};
-    Label LaunchHint{form, "LaunchHint", Named("Hint")};
+    Label LaunchHint{form, "LaunchHint"};
     Button LaunchButton{form, "LaunchButton", Caption("&Launch"), Tip("Launches the application that you have configured to open this file type, if any")};
     Button CopyPathButton{form, "CopyPathButton", Caption("Copy &Path to Clipboard"), Tip("Copies the path of the file")};
     Button SelectButton{form, "SelectButton", Caption("&Select File in Location"), Tip("Shows the file in the file manager")};

@@ -101,6 +101,13 @@ TEST_F(ReportRoadTest, CanBeGivenUpAllAlong) {
     EXPECT_TRUE(Text(file).starts_with("\"Evening\","));
 }
 
+TEST_F(ReportRoadTest, EndsWithTheProgram) {
+    desk.desktop.duringEvents = [this] { desk.program.EndSession(); };
+    Make(file);
+    EXPECT_TRUE(desk.desktop.ended);
+    ExpectNothingHappened();
+}
+
 TEST_F(ReportRoadTest, TellsWhereNoFileCanBe) {
     const fs::path link = folder / "link.csv";
     const std::pair<fs::path, const char*> rows[] = {

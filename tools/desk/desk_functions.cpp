@@ -56,7 +56,7 @@ std::string NumberAnswer(double x) { return x == NeverMoment ? "never" : ExactTe
 const DeskFunction* FindDeskFunction(std::string_view name) {
     static const auto functions =
         Joined({CoreFunctions, AstroFunctions, LocaleFunctions, CalendarFunctions, ContractFunctions, HebrewFunctions,
-                LunarFunctions, ClockFunctions, ViewFunctions});
+                LunarFunctions, ClockFunctions, ReportFunctions, ViewFunctions});
     return FindByName(functions, name);
 }
 

@@ -49,6 +49,7 @@ std::vector<DeskFunction> ContractFunctions();
 std::vector<DeskFunction> HebrewFunctions();
 std::vector<DeskFunction> LunarFunctions();
 std::vector<DeskFunction> ClockFunctions();
+std::vector<DeskFunction> ReportFunctions();
 std::vector<DeskFunction> ViewFunctions();
 
 std::vector<DeskVariable> CoreVariables();
