@@ -79,15 +79,16 @@ class KeysTest final : public QObject {
         session.Press(Qt::Key_G, Qt::ControlModifier);
         const QWidget* box = session.Dialog(session.program.dateBox.form);
         const auto* ok = box->findChild<QPushButton*>(QStringLiteral("OK"));
-        QCOMPARE(session.frame().focusWidget()->objectName(), QStringLiteral("DateText"));
+        session.AwaitActive();
+        QCOMPARE(box->focusWidget()->objectName(), QStringLiteral("DateText"));
         for (const auto& [key, field] :
              {std::pair(Qt::Key_C, "Calendar"), std::pair(Qt::Key_Y, "Year"), std::pair(Qt::Key_M, "Month"),
               std::pair(Qt::Key_D, "Day"), std::pair(Qt::Key_T, "Time"), std::pair(Qt::Key_A, "Scale"),
               std::pair(Qt::Key_X, "DateText")}) {
             session.Press(key, Qt::AltModifier);
-            QCOMPARE(session.frame().focusWidget()->objectName(), QString::fromLatin1(field));
+            QCOMPARE(box->focusWidget()->objectName(), QString::fromLatin1(field));
         }
-        QTest::keyClicks(session.frame().focusWidget(), QStringLiteral("15 Nisan 578"));
+        QTest::keyClicks(box->focusWidget(), QStringLiteral("15 Nisan 578"));
         QCOMPARE(box->findChild<QLabel*>(QStringLiteral("HowRead"))->text(),
                  QStringLiteral("Hebrew calendar, 15 Nisan 578"));
         session.Press(Qt::Key_X);

@@ -74,14 +74,15 @@ struct Session {
         return frame().findChild<QDialog*>(QString::fromStdString(form.name));
     }
 
-    /// A box that was closed leaves no window active for a while, and a window manager that has just been started
-    /// forgets what it is asked.
+    /// The frame, or the dialog before it. A box that was closed leaves no window active for a while, and a window
+    /// manager that has just been started forgets what it is asked.
     void AwaitActive() {
         constexpr int patience = 100;  // milliseconds
-        for (int tries = 0; tries < 50 && !QTest::qWaitForWindowActive(&frame(), patience); ++tries) {
-            frame().activateWindow();
-        }
-        if (!frame().isActiveWindow()) qWarning("the frame did not become active");
+        QWidget* dialog = QApplication::activeModalWidget();
+        QWidget& window = dialog ? *dialog : frame();
+        const auto isActive = [&window] { return window.isActiveWindow(); };
+        for (int tries = 0; tries < 50 && !QTest::qWaitFor(isActive, patience); ++tries) window.activateWindow();
+        if (!window.isActiveWindow()) qWarning("the window did not become active");
     }
 
     void Press(Qt::Key key, Qt::KeyboardModifiers held = Qt::NoModifier) {

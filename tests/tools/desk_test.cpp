@@ -99,6 +99,7 @@ int Wanted(const char* name, int otherwise) {
 /// Ends the program in one of two ways and starts it anew on what it saved. The saved moment keeps its date.
 void Restart(std::optional<Desk>& desk, bool bySession) {
     desk->desktop.answers.assign(1, {BoxAnswer::no, Color(), ""});
+    desk->Obey("click DateBox.CancelDate");
     if (bySession) {
         desk->program.EndSession();
     } else {

@@ -91,6 +91,7 @@ TEST_F(DateBoxTest, ShowsDatesInTheFormOfTheirCalendar) {
         Obey(lines);
         EXPECT_EQ(Fields(), fields) << text;
         EXPECT_TRUE(box.OK.enabled) << box.Why.text;
+        Obey({"press Escape"});
     }
 }
 
@@ -145,8 +146,7 @@ TEST_F(DateBoxTest, TakesTheTimeByTheChosenScale) {
 }
 
 TEST_F(DateBoxTest, GoesThereByOneStepAndKeepsItsCalendar) {
-    Obey({"menu JumpToDate", "choose DateBox.Calendar 7", "edit DateBox.DateText 15 Nisan 5784",
-          "menu SetEpochOptMenu 2", "menu JumpToDate", "press Enter"});
+    Obey({"menu JumpToDate", "choose DateBox.Calendar 7", "edit DateBox.DateText 15 Nisan 5784", "press Enter"});
     EXPECT_EQ(FixedToGregorianString(DisplayedMoment), "Tuesday, April 23, 2024");
     Obey({"menu Back"});
     EXPECT_EQ(FixedToGregorianString(DisplayedMoment), "Monday, January 15, 2024");
