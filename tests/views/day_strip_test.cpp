@@ -6,6 +6,7 @@
 #include "locale/presets.h"
 
 #include <algorithm>
+#include <tuple>
 
 namespace horvanta {
 namespace {
