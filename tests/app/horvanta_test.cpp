@@ -147,12 +147,8 @@ TEST(End, OfTheSessionSavesWithoutAQuestion) {
 }
 
 TEST(Keys, MoveTheMoment) {
-    struct Row {
-        const char *step, *line;
-        double from, to;
-    };
     // clang-format off
-    constexpr Row rows[] = {
+    constexpr std::tuple<const char*, const char*, double, double> rows[] = {
         {"1", "press Space", 1000.25, 1001},  {"1", "press Space shift", 1000.25, 999},  {"1", "press Space ctrl", 1000, 999},
         {"1", "press Plus", 1000.25, 1001},   {"1", "press Minus", 1000, 999},           {"2", "press Plus", 1000, 1001},
         {"1", "press Up", 1000, 1001},        {"1", "press Down", 1000, 999},            {"2", "press Up", 1000, 1007},
@@ -165,15 +161,15 @@ TEST(Keys, MoveTheMoment) {
     };
     // clang-format on
     Desk desk;
-    for (const Row& row : rows) {
-        desk.Obey(std::string("menu StepMenu ") + row.step);
+    for (const auto& [step, line, from, to] : rows) {
+        desk.Obey(std::string("menu StepMenu ") + step);
         desk.program.timeAstro.TakeFocus();
         desk.desktop.Settle();
-        desk.Obey("set DisplayedMoment " + std::to_string(row.from));
-        EXPECT_EQ(desk.Obey(row.line), "ok") << row.line;
-        EXPECT_EQ(DisplayedMoment, row.to) << row.line;
-        EXPECT_EQ(stepping::options.StepIndex == 2 ? 7 : 1, Increment) << row.line;
-        EXPECT_EQ(desk.program.timeAstro.FixedDayNum.text, GeneralText(row.to)) << row.line;
+        desk.Obey("set DisplayedMoment " + std::to_string(from));
+        EXPECT_EQ(desk.Obey(line), "ok") << line;
+        EXPECT_EQ(DisplayedMoment, to) << line;
+        EXPECT_EQ(stepping::options.StepIndex == 2 ? 7 : 1, Increment) << line;
+        EXPECT_EQ(desk.program.timeAstro.FixedDayNum.text, GeneralText(to)) << line;
     }
     EXPECT_EQ(desk.Obey("asked"), "none");
 }

@@ -61,28 +61,25 @@ TEST(Moon, KeepsToAnEphemerisOverMillennia) {
 /// Julian day of Universal Time, latitude and longitude of a place at sea level; right ascension, declination, altitude
 /// seen from the Earth's centre and from the place, azimuth, lit part and breadth, by the same program.
 TEST(Moon, StandsWhereAnEphemerisSeesIt) {
-    struct Row {
-        double julianDay, latitude, longitude;
-        double rightAscension, declination, altitude, topocentric, azimuth, lit, diameter;
-    };
-    constexpr Row rows[] = {
+    constexpr double rows[][10] = {
         {2452716.5004, -37.8, 144.95, 173.486, 8.015, -47.715, -48.382, 233.797, 0.9954, 0.5491},
         {2453887.8774, 64.15, -21.95, 135.993, 20.770, 2.545, 1.634, 43.749, 0.2640, 0.4982},
         {2457402.0084, 64.15, -21.95, 352.015, -3.241, 2.469, 1.483, 102.638, 0.2332, 0.5385},
         {2458573.3854, 31.778, 35.2354, 312.420, -19.182, -43.964, -44.606, 86.532, 0.2533, 0.4918},
         {2460916.1394, 64.15, -21.95, 213.199, -17.551, 5.517, 4.618, 153.404, 0.2616, 0.4929},
     };
-    for (const Row& row : rows) {
-        const LocaleRecord place = MakeLocale("test", "", row.latitude, row.longitude, 0);
-        const Moment x = JDToMoment(row.julianDay);
-        SCOPED_TRACE(row.julianDay);
-        EXPECT_NEAR(lunar::RightAscension(x), row.rightAscension, 0.01);
-        EXPECT_NEAR(lunar::Declination(x), row.declination, 0.01);
-        EXPECT_NEAR(lunar::Altitude(x, place), row.altitude, 0.02);
-        EXPECT_NEAR(lunar::TopocentricAltitude(x, place), row.topocentric, 0.04);
-        EXPECT_NEAR(lunar::Bearing(x, place), row.azimuth, 0.05);
-        EXPECT_NEAR(lunar::LitFraction(x), row.lit, 0.005);
-        EXPECT_NEAR(lunar::Diameter(x), row.diameter, 0.01);
+    for (const auto& [julianDay, latitude, longitude, rightAscension, declination, altitude, topocentric, azimuth, lit,
+                      diameter] : rows) {
+        const LocaleRecord place = MakeLocale("test", "", latitude, longitude, 0);
+        const Moment x = JDToMoment(julianDay);
+        SCOPED_TRACE(julianDay);
+        EXPECT_NEAR(lunar::RightAscension(x), rightAscension, 0.01);
+        EXPECT_NEAR(lunar::Declination(x), declination, 0.01);
+        EXPECT_NEAR(lunar::Altitude(x, place), altitude, 0.02);
+        EXPECT_NEAR(lunar::TopocentricAltitude(x, place), topocentric, 0.04);
+        EXPECT_NEAR(lunar::Bearing(x, place), azimuth, 0.05);
+        EXPECT_NEAR(lunar::LitFraction(x), lit, 0.005);
+        EXPECT_NEAR(lunar::Diameter(x), diameter, 0.01);
     }
 }
 

@@ -8,6 +8,7 @@
 #include "locale/presets.h"
 
 #include <algorithm>
+#include <tuple>
 
 namespace horvanta {
 namespace {
@@ -48,11 +49,7 @@ using PersianWindowTest = DeskTest;
 
 /// The equinoxes as Iran's almanacs give them.
 TEST_F(PersianWindowTest, ShowsTheDateAndPostsTheEventsOfItsDay) {
-    struct Row {
-        int year, month, day;
-        const char *date, *events;
-    };
-    constexpr Row rows[] = {
+    constexpr std::tuple<int, int, int, const char*, const char*> rows[] = {
         {2024, 3, 12, " Se-shanbeh, 22 Esfand 1402 PE", "Eve of Charshanbe Suri; "},
         {2024, 3, 20, " Char-shanbeh, 1 Farvardin 1403 PE",
          "Norouz (new year); Tahvil-e sâl (spring equinox) at 06:36 Iran Standard Time; "},
@@ -68,10 +65,10 @@ TEST_F(PersianWindowTest, ShowsTheDateAndPostsTheEventsOfItsDay) {
          "Tahvil-e sâl (spring equinox) at 12:31 Iran Standard Time; "},
     };
     desk.Obey("menu PersianCal");
-    for (const Row& row : rows) {
-        Show(row.year, row.month, row.day);
-        EXPECT_EQ(desk.program.persian.ThePersianDate.text, row.date);
-        EXPECT_EQ(Events("Persian"), row.events) << row.date;
+    for (const auto& [year, month, day, date, events] : rows) {
+        Show(year, month, day);
+        EXPECT_EQ(desk.program.persian.ThePersianDate.text, date);
+        EXPECT_EQ(Events("Persian"), events) << date;
     }
     EXPECT_EQ(desk.program.persian.LeapCheckbox.text, "Leap year");
 }

@@ -30,6 +30,9 @@ TEST(Molad, FamiliesAgree) {
             ASSERT_NEAR(one(n), other(n), minutes * minute + 1e-9) << name << ' ' << n;
         }
     }
+    for (double n = 60000; n <= 72000; n += 10) {
+        ASSERT_NEAR(UTmeanNewMoon(n), MeanNewMoonUT(n - HebrewLunationOfJ2000), 10 * minute) << n;
+    }
 }
 
 TEST(Molad, AdjustmentsHaveTheirLeastValueInTheFourthCentury) {

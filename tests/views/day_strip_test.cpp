@@ -1,18 +1,17 @@
 #include "views/day_strip.h"
 
 #include "astro/sun_events.h"
-#include "calendars/gregorian.h"
 #include "clock/zone_time.h"
-#include "core/moment.h"
-#include "desk.h"
+#include "desk_fixture.h"
 #include "locale/presets.h"
 
-#include <gtest/gtest.h>
-
 #include <algorithm>
+#include <tuple>
 
 namespace horvanta {
 namespace {
+
+using DayStripTest = DeskTest;
 
 using Light = DayStrip::Light;
 
@@ -51,17 +50,14 @@ TEST(DayStrip, MeetsTheTimesOfTheBar) {
     EXPECT_NEAR(DayOfLight(day, place).noon, StandardToDaylight(SolarMidday(day, place), place) - day, 1e-9);
 }
 
-TEST(DayStrip, TellsWhereTheSunIs) {
-    Desk desk;
+TEST_F(DayStripTest, TellsWhereTheSunIs) {
     desk.Obey("menu SetCFSalert");
-    DisplayedMoment = GregorianToFixed(2024, 6, 21) + 0.5;
-    UpdateStatus();
+    Show(2024, 6, 21);
     const TimeFields& fields = desk.program.timeAstro.fields;
     EXPECT_EQ(fields.DawnDusk.panels[0].tooltip, "Sun up all day");
     EXPECT_TRUE(fields.DayLight.text.starts_with("From midnight daylight. At 08:00, Sun ")) << fields.DayLight.text;
     EXPECT_EQ(fields.ClockLabel.text, "Clock time, UT-04:00");
-    DisplayedMoment = GregorianToFixed(2024, 12, 21) + 0.5;
-    UpdateStatus();
+    Show(2024, 12, 21);
     EXPECT_EQ(fields.DawnDusk.panels[8].tooltip, "Sun down all day");
     EXPECT_EQ(fields.ClockLabel.text, "Clock time, UT-05:00");
     EXPECT_EQ(desk.program.timeAstro.DayOne.text, "1 = Jan 1, 2001");

@@ -3,6 +3,7 @@
 #include "desk_fixture.h"
 
 #include <algorithm>
+#include <tuple>
 
 namespace horvanta {
 namespace {
@@ -13,30 +14,27 @@ class GregorianWindowTest : public DeskTest {
 };
 
 TEST_F(GregorianWindowTest, ShowsTheDateInBothCalendars) {
-    struct Row {
-        int year, month, day;
-        const char *date, *yearDay, *letters, *cycle, *iso, *isoDay;
-    };
-    constexpr Row rows[] = {
-        {2024, 1, 15, "Monday, January 15, 2024 ", "Gregorian day 15+351=366", "GF", "24th year of 6th cycle AD",
-         "2024-W03-1 ", "ISO day 15+349=364"},
-        {2000, 12, 31, "Sunday, December 31, 2000 ", "Gregorian day 366+0=366", "BA", "400th year of 5th cycle AD",
-         "2000-W52-7 ", "ISO day 364+0=364"},
-        {2021, 1, 3, "Sunday, January 3, 2021 ", "Gregorian day 3+362=365", "C", "21st year of 6th cycle AD",
-         "2020-W53-7 ", "ISO day 371+0=371"},
-        {-400, 1, 1, "Saturday, January 1, -400 ", "Gregorian day 1+365=366", "BA", "400th year of 2nd cycle BC",
-         "-401-W52-6 ", "ISO day 363+1=364"},
-        {112, 1, 1, "Friday, January 1, 112 ", "Gregorian day 1+365=366", "CB", "112nd year of 1st cycle AD",
-         "111-W53-5 ", "ISO day 369+2=371"},
-    };
-    for (const Row& row : rows) {
-        Show(row.year, row.month, row.day);
-        EXPECT_EQ(window_.GregorianDate.text, row.date);
-        EXPECT_EQ(window_.DayNumInGregYear.text, row.yearDay) << row.date;
-        EXPECT_EQ(window_.Dominical.text, row.letters) << row.date;
-        EXPECT_EQ(window_.GregCycleInfo.text, row.cycle) << row.date;
-        EXPECT_EQ(window_.TheISOdate.text, row.iso) << row.date;
-        EXPECT_EQ(window_.isoOrdinalDay.text, row.isoDay) << row.date;
+    constexpr std::tuple<int, int, int, const char*, const char*, const char*, const char*, const char*, const char*>
+        rows[] = {
+            {2024, 1, 15, "Monday, January 15, 2024 ", "Gregorian day 15+351=366", "GF", "24th year of 6th cycle AD",
+             "2024-W03-1 ", "ISO day 15+349=364"},
+            {2000, 12, 31, "Sunday, December 31, 2000 ", "Gregorian day 366+0=366", "BA", "400th year of 5th cycle AD",
+             "2000-W52-7 ", "ISO day 364+0=364"},
+            {2021, 1, 3, "Sunday, January 3, 2021 ", "Gregorian day 3+362=365", "C", "21st year of 6th cycle AD",
+             "2020-W53-7 ", "ISO day 371+0=371"},
+            {-400, 1, 1, "Saturday, January 1, -400 ", "Gregorian day 1+365=366", "BA", "400th year of 2nd cycle BC",
+             "-401-W52-6 ", "ISO day 363+1=364"},
+            {112, 1, 1, "Friday, January 1, 112 ", "Gregorian day 1+365=366", "CB", "112nd year of 1st cycle AD",
+             "111-W53-5 ", "ISO day 369+2=371"},
+        };
+    for (const auto& [year, month, day, date, yearDay, letters, cycle, iso, isoDay] : rows) {
+        Show(year, month, day);
+        EXPECT_EQ(window_.GregorianDate.text, date);
+        EXPECT_EQ(window_.DayNumInGregYear.text, yearDay) << date;
+        EXPECT_EQ(window_.Dominical.text, letters) << date;
+        EXPECT_EQ(window_.GregCycleInfo.text, cycle) << date;
+        EXPECT_EQ(window_.TheISOdate.text, iso) << date;
+        EXPECT_EQ(window_.isoOrdinalDay.text, isoDay) << date;
     }
 }
 

@@ -1,10 +1,6 @@
 #include "views/monthly_window.h"
 
-#include "core/moment.h"
-#include "core/text.h"
-#include "desk.h"
-
-#include <gtest/gtest.h>
+#include "desk_fixture.h"
 
 #include <algorithm>
 #include <tuple>
@@ -12,10 +8,11 @@
 namespace horvanta {
 namespace {
 
+using Monthly = DeskTest;
+
 /// Whatever the calendar and the day: each day of the month stands in one cell, under its weekday, and a click on a
 /// cell goes there at the same time of day.
-TEST(Monthly, ShowsEachDayOnceUnderItsWeekday) {
-    Desk desk;
+TEST_F(Monthly, ShowsEachDayOnceUnderItsWeekday) {
     MonthlyWindow& month = desk.program.monthly;
     for (std::size_t calendar = 0; calendar < month.Calendars.items.size(); ++calendar) {
         desk.Obey("choose Monthly.Calendars " + std::to_string(calendar));
@@ -40,7 +37,7 @@ TEST(Monthly, ShowsEachDayOnceUnderItsWeekday) {
     }
 }
 
-TEST(Monthly, MovesByMonthsAndYears) {
+TEST_F(Monthly, MovesByMonthsAndYears) {
     constexpr std::tuple<const char*, const char*, const char*> rows[] = {
         {"click Monthly.NextMonth", "2024-01-31", "Thursday, February 29, 2024"},
         {"click Monthly.PrevMonth", "2024-01-31", "Sunday, December 31, 2023"},
@@ -55,7 +52,6 @@ TEST(Monthly, MovesByMonthsAndYears) {
         {"press Home", "2024-07-05", "Friday, July 5, 2024"},
         {"press Home", "2024-09-05", "Sunday, September 1, 2024"},
     };
-    Desk desk;
     desk.Obey("choose Monthly.Calendars 1");
     for (const auto& [line, from, to] : rows) {
         const auto number = [&](std::size_t at, std::size_t digits) {
@@ -77,7 +73,7 @@ TEST(Monthly, MovesByMonthsAndYears) {
     EXPECT_EQ(desk.desktop.focused, &desk.program.timeAstro.FixedDayNum);
 }
 
-TEST(Monthly, StepsAsItsLayoutLies) {
+TEST_F(Monthly, StepsAsItsLayoutLies) {
     struct Row {
         const char* key;
         int down, across;  // days, with the weekdays as columns and as rows
@@ -87,7 +83,6 @@ TEST(Monthly, StepsAsItsLayoutLies) {
         {"Numeric8", -7, -1}, {"Down", 7, 1},       {"Numeric2", 7, 1},      {"Backspace", -1, -1}, {"Minus", -1, -1},
         {"Plus", 1, 1},       {"Space", 1, 1},      {"Space shift", -1, -1},
     };
-    Desk desk;
     MonthlyWindow& month = desk.program.monthly;
     for (const bool across : {false, true}) {
         EXPECT_EQ(month.Layout.text, across ? "&Across" : "&Down");
@@ -106,7 +101,7 @@ TEST(Monthly, StepsAsItsLayoutLies) {
 }
 
 /// The keys of the year keep the month and the day and drop the time; what else moves the day does not move it here.
-TEST(Monthly, EditsTheYear) {
+TEST_F(Monthly, EditsTheYear) {
     constexpr std::pair<const char*, int> rows[] = {
         {"Up", 2025},
         {"Plus", 2025},
@@ -120,7 +115,6 @@ TEST(Monthly, EditsTheYear) {
         {"PageUp ctrl", 2124},
         {"PageDown shift ctrl", 1024},
     };
-    Desk desk;
     desk.Obey("choose Monthly.Calendars 1");
     const Moment start = GregorianToFixed(2024, 7, 4) + 0.25;
     const auto press = [&](const std::string& key) {
@@ -146,14 +140,13 @@ TEST(Monthly, EditsTheYear) {
 }
 
 /// What a screen reader says of the grid, and where it marks today.
-TEST(Monthly, SpeaksTheDay) {
+TEST_F(Monthly, SpeaksTheDay) {
     struct Row {
         const char* calendar;
         Moment moment;
         const char* spoken;
         int today;  // as a cell, -1 for none
     };
-    Desk desk;
     const FixedDay today = Today();
     ASSERT_EQ(FixedToGregorianString(today), "Monday, January 15, 2024");
     const Row rows[] = {
@@ -178,8 +171,7 @@ TEST(Monthly, SpeaksTheDay) {
 }
 
 /// A day that four weeks don't have keeps its weekday; the thirteenth month follows the twelfth.
-TEST(Monthly, WalksTheMonthsOfWeeks) {
-    Desk desk;
+TEST_F(Monthly, WalksTheMonthsOfWeeks) {
     desk.Obey("choose Monthly.Calendars 2");
     desk.Obey("set DisplayedMoment " + GeneralText(ISOToFixed(2020, 53, 3)));
     EXPECT_EQ(desk.program.monthly.Days.cells[desk.program.monthly.Days.active].text, "W53-3");
@@ -191,8 +183,7 @@ TEST(Monthly, WalksTheMonthsOfWeeks) {
     EXPECT_EQ(ISODateString(FixedToISODate(DisplayedMoment)), "2019-W48-3");
 }
 
-TEST(Monthly, StepsOverAYearThatThereIsNot) {
-    Desk desk;
+TEST_F(Monthly, StepsOverAYearThatThereIsNot) {
     for (const char* calendar : {"3", "4", "5"}) {  // Julian, Roman, Persian
         desk.Obey(std::string("choose Monthly.Calendars ") + calendar);
         desk.Obey("type Monthly.ThisYear 1");
@@ -209,8 +200,7 @@ TEST(Monthly, StepsOverAYearThatThereIsNot) {
     }
 }
 
-TEST(Monthly, BringsTheWindowOfItsCalendar) {
-    Desk desk;
+TEST_F(Monthly, BringsTheWindowOfItsCalendar) {
     desk.Obey("close Gregorian");
     desk.Obey("choose Monthly.Calendars 2");
     EXPECT_TRUE(desk.program.gregorian.form.visible);

@@ -3,6 +3,8 @@
 #include "calendars/easter.h"
 #include "desk_fixture.h"
 
+#include <tuple>
+
 namespace horvanta {
 namespace {
 
@@ -14,10 +16,7 @@ class OrientalWindowTest : public DeskTest {
 };
 
 TEST_F(OrientalWindowTest, ShowsTheDateInEachCalendarAndLanguage) {
-    struct Row {
-        const char *choice, *english, *national, *year, *midnight;
-    };
-    constexpr Row rows[] = {
+    constexpr std::tuple<const char*, const char*, const char*, const char*, const char*> rows[] = {
         {"0", " Year 4720, Leap 2nd Month, Day 15 ", " Year 4720, rùnyuè èryuè 15 ", "40/60 = 10-4 gui-mao, cycle 79",
          "Midnight Solar Longitude at Time Zone UT+8 = 14.6218°"},
         {"1", " Year 2683, Leap 2nd Month, Day 15 ", " Year 2683, + nigatsu 15 ",
@@ -28,13 +27,13 @@ TEST_F(OrientalWindowTest, ShowsTheDateInEachCalendarAndLanguage) {
          "Midnight Solar Longitude at Time Zone UT+7 = 14.6628°"},
     };
     Show(2023, 4, 5);
-    for (const Row& row : rows) {
-        desk.Obey("choose Chinese.CalChoice " + std::string(row.choice));
-        EXPECT_EQ(window_.TheOrientDate.text, row.english);
-        EXPECT_EQ(window_.SLatMidnight.text, row.midnight);
+    for (const auto& [choice, english, national, year, midnight] : rows) {
+        desk.Obey("choose Chinese.CalChoice " + std::string(choice));
+        EXPECT_EQ(window_.TheOrientDate.text, english);
+        EXPECT_EQ(window_.SLatMidnight.text, midnight);
         desk.Obey("click Chinese.UseEnglish");
-        EXPECT_EQ(window_.TheOrientDate.text, row.national);
-        EXPECT_EQ(window_.SexYear.text, row.year);
+        EXPECT_EQ(window_.TheOrientDate.text, national);
+        EXPECT_EQ(window_.SexYear.text, year);
         desk.Obey("click Chinese.UseEnglish");
     }
     EXPECT_EQ(window_.LeapCheckbox.text, "Leap year");
