@@ -233,7 +233,18 @@ Pane Frame::PaneOf(const Child& child) const {
     return pane;
 }
 
-/// Nothing moves as long as no window changes and the frame keeps its size.
+/// Where windows would stand if nothing had changed.
+std::vector<QPoint> Frame::StandingPlaces(const std::vector<Child*>& open, const std::vector<Pane>& panes) {
+    std::vector<QPoint> places;
+    for (std::size_t i = 0; i < open.size(); ++i) {
+        const bool isNew = panes[i].fixed || !open[i]->form->standing;
+        places.push_back(isNew ? panes[i].wish.topLeft() : open[i]->window->pos());
+    }
+    return places;
+}
+
+/// Windows stay where they stand as long as that is no worse than it was when they were placed. So nothing moves back
+/// and forth with the length of months, nor when a window goes.
 void Frame::PlaceAll() {
     const std::vector<Child*> open = OpenChildren();
     std::vector<Pane> panes;
@@ -241,7 +252,11 @@ void Frame::PlaceAll() {
     const QSize room = area_->viewport()->size();
     if (room == room_ && panes == panes_) return;
     const bool before = std::exchange(drawing_, true);
-    const std::vector<QPoint> places = LayOut(room, panes);
+    std::vector<QPoint> places = StandingPlaces(open, panes);
+    if (room != room_ || CostOf(room, panes, places) > cost_) {
+        places = LayOut(room, panes);
+        cost_ = CostOf(room, panes, places);
+    }
     for (std::size_t i = 0; i < open.size(); ++i) {
         if (open[i]->window->pos() != places[i]) open[i]->window->move(places[i]);
         NoteStanding(*open[i]->form, *open[i]->window);

@@ -85,9 +85,8 @@ class Frame final : public QMainWindow, public Acts {
     void ReportFront();
     bool isCovered(const QMdiSubWindow* window) const;
     std::vector<Child*> OpenChildren();
-    std::vector<Child*> StandingChildren();
-    void PlaceFloating();
     Pane PaneOf(const Child& child) const;
+    static std::vector<QPoint> StandingPlaces(const std::vector<Child*>& open, const std::vector<Pane>& panes);
     void PlaceAll();
     void Stack(const std::vector<Child*>& open, const std::vector<QPoint>& places);
     void GrantFocus(Child& child);
@@ -103,6 +102,7 @@ class Frame final : public QMainWindow, public Acts {
     ElidingLabel* status_;
     bool toldStatus_ = false;  ///< During the present act.
     QPoint menuPlace_;
+    LayoutCost cost_;
     QSize room_;  ///< In which the windows were placed last, and as what.
     std::vector<Pane> panes_;
     int depth_ = 0;

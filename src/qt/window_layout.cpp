@@ -1,7 +1,6 @@
 #include "qt/window_layout.h"
 
 #include <algorithm>
-#include <compare>
 #include <cstddef>
 #include <numeric>
 #include <random>
@@ -13,30 +12,6 @@ namespace {
 
 constexpr int gap = 1;  // pixels between windows
 
-/// What a place costs; the first that differs decides.
-struct Cost {
-    int handlesHidden = 0;    ///< As the windows lie above one another (`LiesUnder`).
-    int partsHidden = 0;      ///< The same of other parts that have to be seen.
-    qint64 outside = 0;       ///< Square pixels beyond the frame: no raising brings them back.
-    int handlesHideable = 0;  ///< If another window came to the top.
-    int partsHideable = 0;
-    qint64 covered = 0;  ///< Square pixels of windows under others.
-
-    auto operator<=>(const Cost&) const = default;
-    bool isNone() const { return *this == Cost(); }
-    bool hidesNothingNeeded() const { return handlesHidden == 0 && partsHidden == 0 && outside == 0; }
-
-    Cost& operator+=(const Cost& other) {
-        handlesHidden += other.handlesHidden;
-        partsHidden += other.partsHidden;
-        handlesHideable += other.handlesHideable;
-        partsHideable += other.partsHideable;
-        outside += other.outside;
-        covered += other.covered;
-        return *this;
-    }
-};
-
 qint64 AreaOf(const QRect& rect) { return rect.isEmpty() ? 0 : qint64(rect.width()) * rect.height(); }
 
 struct Placed {
@@ -46,7 +21,7 @@ struct Placed {
 };
 
 /// Adds what a cover hides of a window.
-void AddHidden(Cost& cost, const Placed& window, const Placed& cover) {
+void AddHidden(LayoutCost& cost, const Placed& window, const Placed& cover) {
     const bool isUnder = LiesUnder(window.number, window.rect.topLeft(), cover.number, cover.rect.topLeft());
     for (std::size_t i = 0; i < window.pane->needed.size(); ++i) {
         if (!window.pane->needed[i].translated(window.rect.topLeft()).intersects(cover.rect)) continue;
@@ -55,7 +30,7 @@ void AddHidden(Cost& cost, const Placed& window, const Placed& cover) {
     }
 }
 
-void AddOutside(Cost& cost, const Placed& window, const QRect& room) {
+void AddOutside(LayoutCost& cost, const Placed& window, const QRect& room) {
     for (std::size_t i = 0; i < window.pane->needed.size(); ++i) {
         if (room.contains(window.pane->needed[i].translated(window.rect.topLeft()))) continue;
         ++(i == 0 ? cost.handlesHidden : cost.partsHidden);
@@ -63,8 +38,8 @@ void AddOutside(Cost& cost, const Placed& window, const QRect& room) {
     cost.outside += AreaOf(window.rect) - AreaOf(window.rect & room);
 }
 
-Cost CostOf(const Placed& window, const std::vector<Placed>& others, const QRect& room) {
-    Cost cost;
+LayoutCost CostOf(const Placed& window, const std::vector<Placed>& others, const QRect& room) {
+    LayoutCost cost;
     AddOutside(cost, window, room);
     for (const Placed& other : others) {
         if (!other.rect.intersects(window.rect)) continue;
@@ -110,12 +85,12 @@ class Layout {
         }
     }
 
-    const Cost& cost() const { return cost_; }
+    const LayoutCost& cost() const { return cost_; }
     const std::vector<QPoint>& places() const { return places_; }
 
   private:
-    Cost Settle(Placed& window, const std::vector<Placed>& placed) const {
-        Cost best = CostOf(window, placed, room_);
+    LayoutCost Settle(Placed& window, const std::vector<Placed>& placed) const {
+        LayoutCost best = CostOf(window, placed, room_);
         if (best.isNone()) return best;
         Edges edges;
         edges.tops.insert(std::max(0, room_.height() - window.rect.height()));
@@ -125,7 +100,7 @@ class Layout {
         for (const int top : edges.tops) {
             for (const int left : edges.lefts) {
                 const Placed there{window.pane, QRect(QPoint(left, top), wish.size()), window.number};
-                const Cost cost = CostOf(there, placed, room_);
+                const LayoutCost cost = CostOf(there, placed, room_);
                 if (cost < best) best = cost, window.rect = there.rect;
             }
         }
@@ -134,7 +109,7 @@ class Layout {
 
     QRect room_;
     const std::vector<Pane>& panes_;
-    Cost cost_;
+    LayoutCost cost_;
     std::vector<QPoint> places_;
 };
 
@@ -163,15 +138,37 @@ std::vector<Order> OrdersOf(const std::vector<Pane>& panes) {
 
 }  // namespace
 
+LayoutCost& LayoutCost::operator+=(const LayoutCost& other) {
+    handlesHidden += other.handlesHidden;
+    partsHidden += other.partsHidden;
+    handlesHideable += other.handlesHideable;
+    partsHideable += other.partsHideable;
+    outside += other.outside;
+    covered += other.covered;
+    return *this;
+}
+
 bool LiesUnder(std::size_t window, const QPoint& place, std::size_t other, const QPoint& otherPlace) {
     if (window == 0 || other == 0) return other == 0;
     return std::pair(place.y(), window) < std::pair(otherPlace.y(), other);
 }
 
+LayoutCost CostOf(const QSize& room, std::vector<Pane> panes, const std::vector<QPoint>& places) {
+    for (std::size_t i = 0; i < panes.size(); ++i) panes[i].wish.moveTo(places[i]);
+    std::vector<Placed> placed;
+    LayoutCost cost;
+    for (std::size_t i = 0; i < panes.size(); ++i) {
+        const Placed window{&panes[i], panes[i].wish, i};
+        if (!window.pane->fixed) cost += CostOf(window, placed, QRect(QPoint(), room));
+        placed.push_back(window);
+    }
+    return cost;
+}
+
 std::vector<QPoint> LayOut(const QSize& room, const std::vector<Pane>& panes) {
     std::vector<QPoint> places;
     if (panes.empty()) return places;
-    Cost best;
+    LayoutCost best;
     int tried = 0;
     for (const Order& order : OrdersOf(panes)) {
         if (tried++ >= sortedOrders && best.hidesNothingNeeded()) break;

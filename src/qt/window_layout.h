@@ -3,7 +3,9 @@
 #include <QPoint>
 #include <QRect>
 #include <QSize>
+#include <QtGlobal>
 
+#include <compare>
 #include <cstddef>
 #include <vector>
 
@@ -17,6 +19,24 @@ struct Pane {
 
     bool operator==(const Pane&) const = default;
 };
+
+/// What it costs to have the windows stand so; the first that differs decides.
+struct LayoutCost {
+    int handlesHidden = 0;    ///< As the windows lie above one another (`LiesUnder`).
+    int partsHidden = 0;      ///< The same of other parts that have to be seen.
+    qint64 outside = 0;       ///< Square pixels beyond the frame: no raising brings them back.
+    int handlesHideable = 0;  ///< If another window came to the top.
+    int partsHideable = 0;
+    qint64 covered = 0;  ///< Square pixels of windows under others.
+
+    auto operator<=>(const LayoutCost&) const = default;
+    bool isNone() const { return *this == LayoutCost(); }
+    bool hidesNothingNeeded() const { return handlesHidden == 0 && partsHidden == 0 && outside == 0; }
+    LayoutCost& operator+=(const LayoutCost& other);
+};
+
+/// Of windows at places; what the fixed ones do to each other is the user's choice and costs nothing.
+LayoutCost CostOf(const QSize& room, std::vector<Pane> panes, const std::vector<QPoint>& places);
 
 /// True if a window lies under another once they have been laid out: the first lies above all, of others the one that
 /// stands lower, as in a cascade. They are told by their numbers in the list and their upper left corners.

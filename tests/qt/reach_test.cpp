@@ -127,6 +127,23 @@ class ReachTest final : public QObject {
         QVERIFY(session.frame().findChild<QMdiArea*>()->viewport()->rect().contains(together.boundingRect()));
     }
 
+    /// A month of fewer weeks makes its window lower, and one of more weeks higher again.
+    void steppingMovesNoWindow() {
+        Session session;
+        std::map<const Form*, QPoint> places;
+        for (const Form* form : session.program.Forms()) places[form] = session.Window(*form)->pos();
+        const int height = session.Window(session.program.monthly.form)->height();
+        int heights = 0;
+        for (int month = 0; month < 12; ++month) {
+            DisplayedMoment += 30;
+            UpdateStatus();
+            session.frame().Draw();
+            heights += session.Window(session.program.monthly.form)->height() != height;
+            for (const auto& [form, place] : places) QCOMPARE(session.Window(*form)->pos(), place);
+        }
+        QVERIFY(heights > 0);
+    }
+
     /// Windows that had to give way come back when the frame grows again; what is kept is where they stood.
     void aSmallFrameKeepsEveryTitleInReach() {
         Session session;
