@@ -249,7 +249,13 @@ struct StatusBar final : Control {
         std::string tooltip;
     };
 
+    /// What a panel is called.
+    const std::string& NameOf(std::size_t index) const {
+        return legends ? legends->panels[index].text : panels[index].key;
+    }
+
     std::vector<Panel> panels;
+    const StatusBar* legends = nullptr;  ///< The bar that names the panels of this one; a bar of names names itself.
     std::function<void(std::size_t index)> PanelClick;
 };
 

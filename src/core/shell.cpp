@@ -29,17 +29,37 @@ void AddValue(std::vector<NamedValue>& values, const std::string& name, const st
     if (!shown.empty() && shown != name) values.push_back({name, shown, &from});
 }
 
+void AddPanels(std::vector<NamedValue>& values, const StatusBar& bar) {
+    if (bar.legends == &bar) return;
+    for (std::size_t i = 0; i < bar.panels.size(); ++i) AddValue(values, bar.NameOf(i), bar.panels[i].text, bar);
+}
+
+void AddCells(std::vector<NamedValue>& values, const Grid& grid) {
+    for (std::size_t row = 1; row < grid.rows.size(); ++row) {
+        for (std::size_t column = 1; column < grid.rows[row].size(); ++column) {
+            const std::string name = grid.rows[row][0] + ", " + grid.rows[0][column];
+            AddValue(values, name, grid.rows[row][column], grid);
+        }
+    }
+}
+
+/// The last cell of a row is its value, and the others name it.
+void AddRows(std::vector<NamedValue>& values, const RowTable& table) {
+    for (const auto& [cells, colors] : table.rows) {
+        std::string name = cells.front();
+        for (std::size_t i = 1; i + 1 < cells.size(); ++i) name += ", " + cells[i];
+        AddValue(values, name, cells.back(), table);
+    }
+}
+
 /// The values of a control: those of its parts, if it has any. A label that neither copies nor has a name is a caption.
 void AddValues(std::vector<NamedValue>& values, const Control& control) {
     if (const auto* bar = dynamic_cast<const StatusBar*>(&control)) {
-        for (const StatusBar::Panel& panel : bar->panels) AddValue(values, panel.key, panel.text, control);
+        AddPanels(values, *bar);
     } else if (const auto* grid = dynamic_cast<const Grid*>(&control)) {
-        for (std::size_t row = 1; row < grid->rows.size(); ++row) {
-            for (std::size_t column = 1; column < grid->rows[row].size(); ++column) {
-                const std::string name = grid->rows[row][0] + ", " + grid->rows[0][column];
-                AddValue(values, name, grid->rows[row][column], control);
-            }
-        }
+        AddCells(values, *grid);
+    } else if (const auto* table = dynamic_cast<const RowTable*>(&control)) {
+        AddRows(values, *table);
     } else if (dynamic_cast<const TextField*>(&control)) {
         AddValue(values, NameOf(control), control.text, control);
     } else if (dynamic_cast<const Label*>(&control) && (control.copies || !NameOf(control).empty())) {
@@ -102,7 +122,7 @@ void HorvantaMDI::OpenMenu(const Form& form, WindowColors* colors) {
         const auto copyLine = [this, line = value.Line()] { SetClipboardText(line); };
         commands.push_back({CopyCaption(value), value.control->copies ? value.control->Click : copyLine});
     }
-    commands.push_back({"-", nullptr});
+    if (!commands.empty()) commands.push_back({"-", nullptr});
     commands.push_back({"Copy &All", [this, &form] { SetClipboardText(AllValues(form)); }});
     if (colors) std::ranges::move(ColorCommands(*colors), std::back_inserter(commands));
     Offer(commands);

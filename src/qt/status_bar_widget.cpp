@@ -8,9 +8,10 @@
 namespace horvanta {
 namespace {
 
-QString AccessibleText(const StatusBar::Panel& panel) {
-    const QString key = QString::fromStdString(panel.key);
-    return panel.text == panel.key ? key : key + QStringLiteral(": ") + QString::fromStdString(panel.text);
+QString AccessibleText(const StatusBar& bar, std::size_t index) {
+    const std::string& name = bar.NameOf(index);
+    const std::string& text = bar.panels[index].text;
+    return QString::fromStdString(text == name ? name : name + ": " + text);
 }
 
 }  // namespace
@@ -40,7 +41,7 @@ void StatusBarWidget::Draw(const StatusBar& bar) {
         const StatusBar::Panel& panel = bar.panels[i];
         parts_[i]->setText(QString::fromStdString(panel.text));
         ShowTip(*parts_[i], panel.tooltip.empty() ? bar.tooltip : panel.tooltip);
-        ShowName(*parts_[i], AccessibleText(panel));
+        ShowName(*parts_[i], AccessibleText(bar, i));
     }
 }
 

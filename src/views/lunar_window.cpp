@@ -96,13 +96,13 @@ void LunarWindow::HangHandlers() {
         {MoonDistance, [](Moment m) { return GeneralText(lunar::Distance(m)) + " km"; }},
     };
     for (const auto& [label, exact] : numbers) {
-        label.Click = [this, &label = label, exact = exact] {
+        frame_.CopyOnClick(label, [this, &label = label, exact = exact] {
             frame_.SetClipboardText(label.tooltip + ": " + exact(DisplayedMoment));
-        };
+        });
     }
-    LunationNumber.Click = [this] {
+    frame_.CopyOnClick(LunationNumber, [this] {
         frame_.SetClipboardText(LunationConvention.text + " " + GeneralText(ShownLunation(DisplayedMoment)));
-    };
+    });
     InfoYLC.Click = [this] { InfoYLC_Click(); };
     frame_.OpenYermEras.Click = [this] { OpenYermEraList_Click(); };
     frame_.RevertYerm52.Click = [this] { RevertYerm52_Click(); };

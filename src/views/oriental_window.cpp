@@ -81,7 +81,7 @@ OrientalWindow::OrientalWindow(HorvantaMDI& frame) : frame_(frame) {
 
 void OrientalWindow::HangHandlers() {
     for (Label* label : {&TheOrientDate, &SexYear, &SexMonth, &SexDay}) frame_.CopyOnClick(*label);
-    SLatMidnight.Click = [this] { SLatMidnight_Click(); };
+    frame_.CopyOnClick(SLatMidnight, [this] { SLatMidnight_Click(); });
     CalChoice.Chosen = [this] { CalChoice_Click(CalChoice.selected); };
     UseEnglish.Click = [this] { UseEnglish_Click(); };
     Info.Click = [this] { Info_Click(); };

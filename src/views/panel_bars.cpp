@@ -13,6 +13,7 @@ void AddPanel(StatusBar& legends, StatusBar& times, std::string_view key, std::s
 }
 
 void HangPanels(StatusBar& legends, StatusBar& times, const std::function<void(std::size_t index)>& click) {
+    legends.legends = times.legends = &legends;
     legends.PanelClick = times.PanelClick = click;
 }
 

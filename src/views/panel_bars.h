@@ -17,7 +17,7 @@ std::string ClockText(Moment standardTime);
 /// Adds a panel to both bars, known by its key.
 void AddPanel(StatusBar& legends, StatusBar& times, std::string_view key, std::string_view legend);
 
-/// Makes a click on a panel of either bar one command.
+/// Makes a click on a panel of either bar one command, and has the one bar name the other's panels.
 void HangPanels(StatusBar& legends, StatusBar& times, const std::function<void(std::size_t index)>& click);
 
 }  // namespace horvanta

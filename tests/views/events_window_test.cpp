@@ -51,6 +51,24 @@ TEST_F(EventsWindowTest, TellsOfClockChanges) {
     }
 }
 
+/// The menu of a window has its values by their names and copies them with all digits.
+TEST_F(EventsWindowTest, ComesWithAMenuAsOtherWindowsDo) {
+    Show(2024, 3, 24);
+    desk.Obey("menu OrientCal");
+    const std::pair<const char*, const char*> rows[] = {
+        {"Events", "Copy Hebrew, 14 Adar Sheini: Purim"},
+        {"Hebrew", "Copy Dusk VG: 18:45:22"},
+        {"Lunar", "Copy Lunar longitude: 175.8°"},
+        {"Chinese", "Copy Midnight Solar Longitude at Time Zone UT+8 = 3.51…"},
+    };
+    for (const auto& [window, item] : rows) {
+        desk.Obey("answer text " + std::string(item));
+        const std::string asked = AskedBy("rightclick " + std::string(window));
+        EXPECT_NE(asked.find("clipboard"), std::string::npos) << asked;
+        EXPECT_EQ(asked.find("Dusk VG: Dusk"), std::string::npos);
+    }
+}
+
 TEST_F(EventsWindowTest, BeepsWhereNothingHappens) {
     for (const char* window : {"Lunar", "Gregorian", "Hebrew"}) desk.Obey(std::string("close ") + window);
     Show(2024, 1, 2);
