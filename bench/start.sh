@@ -29,6 +29,9 @@ QGroupBox 1 0 0
 horvanta::StatusBarWidget 9 0 0
 horvanta::CellGridWidget 49 0 0
 horvanta::GridWidget 16 0 0
+horvanta::RowTableWidget 3 0 0
+horvanta::DayStripWidget 1 0 0
+horvanta::MoonPictureWidget 1 0 0
 horvanta::UpDownWidget 1 2 0
 QToolButton 0 1 0
 QPushButton 0 1 0
@@ -46,8 +49,12 @@ widgets() {
         END { printf "%d,%d,%d", labels, buttons, checks }'
 }
 
+# Dialogs have no widgets before they are shown.
 counts=()
-for form in src/qt/forms/*.ui; do counts+=("$(widgets "$form")"); done
+for form in src/qt/forms/*.ui; do
+    case $form in *date_box.ui | *progress.ui | *report_finished.ui) continue ;; esac
+    counts+=("$(widgets "$form")")
+done
 
 # Microseconds that a command takes; no number if it fails.
 time_of() {

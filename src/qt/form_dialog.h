@@ -4,15 +4,16 @@
 
 #include <QDialog>
 
-#include <memory>
+#include <optional>
 
 namespace horvanta {
 
-/// The window of a modal form, outside of the frame.
+/// The window of a modal form, outside of the frame. It has its widgets from the first time it is shown, because a
+/// start needs none of them.
 class FormDialog final : public QDialog {
     Q_OBJECT
   public:
-    FormDialog(Form& form, std::unique_ptr<QWidget> content, Acts& acts, QWidget* parent);
+    FormDialog(Form& form, Acts& acts, QWidget* parent);
 
     /// Draws what has changed, shown or hidden as its form is.
     void Draw();
@@ -21,9 +22,11 @@ class FormDialog final : public QDialog {
     void reject() override;
 
   private:
+    void Fill();
+
     Form& form_;
     Acts& acts_;
-    Binder binder_;
+    std::optional<Binder> binder_;
 };
 
 }  // namespace horvanta

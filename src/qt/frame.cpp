@@ -108,9 +108,7 @@ void Frame::Load(Form& form, std::unique_ptr<QWidget> content) {
     NoteSize(form, window->size());
 }
 
-void Frame::LoadDialog(Form& form, std::unique_ptr<QWidget> content) {
-    dialogs_.push_back(new FormDialog(form, std::move(content), *this, this));
-}
+void Frame::LoadDialog(Form& form) { dialogs_.push_back(new FormDialog(form, *this, this)); }
 
 /// The line in the status bar is of the act before, unless this one tells something.
 void Frame::Run(const std::function<void()>& act, ActKind kind) {

@@ -34,7 +34,7 @@ class Frame final : public QMainWindow, public Acts {
     void Load(Form& form, std::unique_ptr<QWidget> content);
 
     /// Makes the window of a modal form, hidden.
-    void LoadDialog(Form& form, std::unique_ptr<QWidget> content);
+    void LoadDialog(Form& form);
 
     /// Draws what has changed, and shows the frame if it was not.
     void Draw();

@@ -58,7 +58,7 @@ int ShowBox(Frame& frame, QMessageBox::Icon icon, std::string_view message, std:
 void QtDesktop::LoadFrame(HorvantaMDI& shell) { frame_ = std::make_unique<Frame>(shell); }
 
 void QtDesktop::LoadForm(Form& form) {
-    form.modal ? frame_->LoadDialog(form, MakeForm(form.name)) : frame_->Load(form, MakeForm(form.name));
+    form.modal ? frame_->LoadDialog(form) : frame_->Load(form, MakeForm(form.name));
 }
 
 /// Nothing runs before the frame is shown: the start shows it once it holds everything, and paints it only once.

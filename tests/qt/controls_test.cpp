@@ -26,7 +26,11 @@ class ControlsTest final : public QObject {
     void everyControlHasItsWidgetAndEveryWidgetItsControl() {
         Session session;
         std::vector<Form*> forms = session.program.Forms();
-        for (Form* dialog : session.program.Dialogs()) forms.push_back(dialog);
+        for (Form* dialog : session.program.Dialogs()) {
+            dialog->visible = true;
+            forms.push_back(dialog);
+        }
+        session.frame().Draw();
         for (Form* form : forms) {
             QWidget* content = form->modal ? session.Dialog(*form) : session.Window(*form)->widget();
             std::set<QString> controls;

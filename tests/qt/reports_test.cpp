@@ -121,6 +121,7 @@ class ReportsTest final : public QObject {
             std::string(300, 'W'), "Exact Hebrew Calendar Full Cycle Weekday Frequencies",
             "Comma-Separated Values (.csv)",
             "Use web browser to fit report to page by adjusting text size, margins, and page layout.");
+        session.program.frame.JumpToDate.Click();
         session.program.reports.progress.Setup("/" + std::string(300, 'W'), 10);
         session.frame().Draw();
         for (const Form* form : session.program.Dialogs()) {
