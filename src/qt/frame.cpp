@@ -37,9 +37,13 @@ int Pixels(double twips, double least, double greatest) {
     return static_cast<int>(std::lround(std::max(least, std::min(twips / TwipsPerPixel, greatest))));
 }
 
+/// A place of a form, to which pixels add nothing as long as they are its own.
+double PlaceAt(double twips, int pixels) { return Rounded(twips) == pixels ? twips : Twips(pixels); }
+
 /// Where a window stands, whoever put it there.
 void NoteStanding(Form& form, const QWidget& window) {
-    form.standing = {Twips(window.x()), Twips(window.y()), Twips(window.width()), Twips(window.height())};
+    form.standing = {PlaceAt(form.position.left, window.x()), PlaceAt(form.position.top, window.y()),
+                     Twips(window.width()), Twips(window.height())};
 }
 
 void NoteSize(Form& form, const QSize& size) {
