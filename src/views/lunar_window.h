@@ -53,7 +53,7 @@ class LunarWindow {
     Label YermLabel{form, "YermLabel", Caption("Yerm date")};
     Label YLCdate{form, "YLCdate", Tip("Yerm Lunar Calendar date"), Widest("-100+52(17(30")};
     Label YLCera{form, "YLCera", Tip("Yerms of the era, or of the cycle of the fixed calendar"), Widest("Cycle -100 = 52 yerms")};
-    Button InfoYLC{form, "InfoYLC", Caption("Yerm info"), Tip("Click here for Yerm Lunar Calendar information")};
+    Button InfoYLC{form, "InfoYLC", Caption("Info"), Named("Yerm info"), Tip("Click here for Yerm Lunar Calendar information")};
     // clang-format on
     WindowColors colors{"L", {Color::FromNumber(6250335), Color::FromNumber(16777215)}, MoonName};
 
