@@ -145,6 +145,7 @@ void Frame::Draw() {
     for (Child& child : children_) {
         const bool isShown = child.window->isVisibleTo(child.window->parentWidget());
         if (isShown != child.form->visible) child.window->setVisible(child.form->visible);
+        child.stands = child.stands && child.form->visible;
     }
     for (Child& child : children_) GrantFocus(child);
     PlaceAll();
@@ -235,18 +236,27 @@ Pane Frame::PaneOf(const Child& child) const {
     return pane;
 }
 
-/// Where windows would stand if nothing had changed.
-std::vector<QPoint> Frame::StandingPlaces(const std::vector<Child*>& open, const std::vector<Pane>& panes) {
+/// Windows stay where they stand as long as that is no worse than it was when they were placed. So nothing moves back
+/// and forth with the length of months, nor when a window goes. One that comes finds its place among the others, where
+/// it stood before if it can.
+std::vector<QPoint> Frame::PlacesOf(const QSize& room, const std::vector<Child*>& open,
+                                    const std::vector<Pane>& panes) {
     std::vector<QPoint> places;
+    std::vector<bool> isNew;
     for (std::size_t i = 0; i < open.size(); ++i) {
-        const bool isNew = panes[i].fixed || !open[i]->form->standing;
-        places.push_back(isNew ? panes[i].wish.topLeft() : open[i]->window->pos());
+        const bool hasStood = !panes[i].fixed && open[i]->form->standing;
+        places.push_back(hasStood ? open[i]->window->pos() : panes[i].wish.topLeft());
+        isNew.push_back(!open[i]->stands);
     }
+    const bool isResized = room != room_;
+    const bool hasNew = std::ranges::count(isNew, true) > 0;
+    if (!isResized && !hasNew && CostOf(room, panes, places) <= cost_) return places;
+    const auto fitting = isResized || !hasNew ? std::nullopt : FitIn(room, panes, places, isNew);
+    places = fitting ? *fitting : LayOut(room, panes);
+    cost_ = CostOf(room, panes, places);
     return places;
 }
 
-/// Windows stay where they stand as long as that is no worse than it was when they were placed. So nothing moves back
-/// and forth with the length of months, nor when a window goes.
 void Frame::PlaceAll() {
     const std::vector<Child*> open = OpenChildren();
     std::vector<Pane> panes;
@@ -254,13 +264,10 @@ void Frame::PlaceAll() {
     const QSize room = area_->viewport()->size();
     if (room == room_ && panes == panes_) return;
     const bool before = std::exchange(drawing_, true);
-    std::vector<QPoint> places = StandingPlaces(open, panes);
-    if (room != room_ || CostOf(room, panes, places) > cost_) {
-        places = LayOut(room, panes);
-        cost_ = CostOf(room, panes, places);
-    }
+    const std::vector<QPoint> places = PlacesOf(room, open, panes);
     for (std::size_t i = 0; i < open.size(); ++i) {
         if (open[i]->window->pos() != places[i]) open[i]->window->move(places[i]);
+        open[i]->stands = true;
         NoteStanding(*open[i]->form, *open[i]->window);
     }
     if (room != room_) Stack(open, places);

@@ -69,6 +69,7 @@ class Frame final : public QMainWindow, public Acts {
         std::unique_ptr<Binder> binder;
         std::vector<QWidget*> mains;  ///< The widgets that show the main date.
         int wanted = 0;               ///< The height that its controls asked for when it was drawn last, in pixels.
+        bool stands = false;          ///< It has been placed since it was shown.
     };
 
     void Run(const std::function<void()>& act, ActKind kind = {}) override;
@@ -86,7 +87,7 @@ class Frame final : public QMainWindow, public Acts {
     bool isCovered(const QMdiSubWindow* window) const;
     std::vector<Child*> OpenChildren();
     Pane PaneOf(const Child& child) const;
-    static std::vector<QPoint> StandingPlaces(const std::vector<Child*>& open, const std::vector<Pane>& panes);
+    std::vector<QPoint> PlacesOf(const QSize& room, const std::vector<Child*>& open, const std::vector<Pane>& panes);
     void PlaceAll();
     void Stack(const std::vector<Child*>& open, const std::vector<QPoint>& places);
     void GrantFocus(Child& child);

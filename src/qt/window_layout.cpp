@@ -183,4 +183,22 @@ std::vector<QPoint> LayOut(const QSize& room, const std::vector<Pane>& panes) {
     return places;
 }
 
+std::optional<std::vector<QPoint>> FitIn(const QSize& room, const std::vector<Pane>& panes,
+                                         const std::vector<QPoint>& places, const std::vector<bool>& isNew) {
+    Order order(panes.size());
+    std::iota(order.begin(), order.end(), std::size_t{0});
+    std::ranges::stable_partition(order, [&](std::size_t number) { return isNew[number]; });
+    std::vector<Pane> fromTop;
+    for (const std::size_t number : order) {
+        fromTop.push_back(panes[number]);
+        fromTop.back().wish.moveTo(places[number]);
+        fromTop.back().fixed = panes[number].fixed || !isNew[number];
+    }
+    const std::vector<QPoint> found = LayOut(room, fromTop);
+    if (!CostOf(room, fromTop, found).hidesNothingNeeded()) return std::nullopt;
+    std::vector<QPoint> fitting(panes.size());
+    for (std::size_t i = 0; i < order.size(); ++i) fitting[order[i]] = found[i];
+    return fitting;
+}
+
 }  // namespace horvanta

@@ -7,6 +7,7 @@
 
 #include <compare>
 #include <cstddef>
+#include <optional>
 #include <vector>
 
 namespace horvanta {
@@ -46,5 +47,10 @@ bool LiesUnder(std::size_t window, const QPoint& place, std::size_t other, const
 /// the highest place, to the left, at which it covers none; where there is none, so that it hides as little as can be
 /// of what has to be seen, least of all what a window is moved by.
 std::vector<QPoint> LayOut(const QSize& room, const std::vector<Pane>& panes);
+
+/// Places new windows above those that stand, which don't move; they wish for the places that are given as well.
+/// Nothing if that hides anything that has to be seen.
+std::optional<std::vector<QPoint>> FitIn(const QSize& room, const std::vector<Pane>& panes,
+                                         const std::vector<QPoint>& places, const std::vector<bool>& isNew);
 
 }  // namespace horvanta

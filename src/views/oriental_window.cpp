@@ -113,7 +113,7 @@ void OrientalWindow::Update() {
     CalChoice.selected = options.OrientVariant;
     TheOrientDate.text = " " + dateText + " ";
     TheOrientDate.tooltip = name + " date";
-    Info.text = name + " info";
+    Info.spoken = name + " info";
     Info.tooltip = "Click here for " + name + " Calendar information";
     LeapCheckbox.text = YearKind(date.isLongYear);
     ShowNames(date);

@@ -42,7 +42,7 @@ class OrientalWindow {
     ChoiceList CalChoice{form, "CalChoice", Tip("Choose the national calendar"), Named("National calendar")};
     CheckBox UseEnglish{form, "UseEnglish", Caption("English"), Tip("Check for English names, clear for those of the calendar's own language")};
     Label LeapCheckbox{form, "LeapCheckbox", Tip("A leap year has 13 months, a common year 12"), Widest("Common year")};
-    Button Info{form, "Info", Widest("Vietnamese info")};
+    Button Info{form, "Info", Caption("Info")};
     // clang-format on
 
     /// Those of the calendar that is shown; the window keeps the others'.

@@ -127,9 +127,11 @@ class ReachTest final : public QObject {
         QVERIFY(session.frame().findChild<QMdiArea*>()->viewport()->rect().contains(together.boundingRect()));
     }
 
-    /// A month of fewer weeks makes its window lower, and one of more weeks higher again.
-    void steppingMovesNoWindow() {
+    /// A month of fewer weeks makes its window lower, and one of more weeks higher again. A window that is opened fits
+    /// in.
+    void steppingAndOpeningMoveNoWindow() {
         Session session;
+        const auto& area = *session.frame().findChild<QMdiArea*>();
         std::map<const Form*, QPoint> places;
         for (const Form* form : session.program.Forms()) places[form] = session.Window(*form)->pos();
         const int height = session.Window(session.program.monthly.form)->height();
@@ -142,6 +144,14 @@ class ReachTest final : public QObject {
             for (const auto& [form, place] : places) QCOMPARE(session.Window(*form)->pos(), place);
         }
         QVERIFY(heights > 0);
+        session.program.frame.OrientCal.Click();
+        session.frame().Draw();
+        for (const auto& [form, place] : places) {
+            const QMdiSubWindow& window = *session.Window(*form);
+            if (!form->visible) continue;
+            if (form != &session.program.oriental.form) QCOMPARE(window.pos(), place);
+            QVERIFY2((Needed(window) - Seen(window, area)).isEmpty(), form->name.c_str());
+        }
     }
 
     /// Windows that had to give way come back when the frame grows again; what is kept is where they stood.
