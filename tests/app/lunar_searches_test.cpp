@@ -37,35 +37,6 @@ TEST(LunarSearches, WalkLeadsThroughTheEventsAndBack) {
     }
 }
 
-/// Every search moves in its direction, from anywhere and from the event itself, and finds the event next to it.
-TEST(LunarSearches, FindTheNeighbour) {
-    constexpr double anomalistic = 27.55455;
-    const std::tuple<MenuEvent, double, double> rows[] = {
-        {MenuEvent::NewMoon, MeanSynodicMonth, 0.4},
-        {MenuEvent::FirstQuarterMoon, MeanSynodicMonth, 0.7},
-        {MenuEvent::FullMoon, MeanSynodicMonth, 0.4},
-        {MenuEvent::LastQuarterMoon, MeanSynodicMonth, 0.7},
-        {MenuEvent::FirstNewCrescent, MeanSynodicMonth, 2.2},
-        {MenuEvent::LastOldCrescent, MeanSynodicMonth, 2.2},
-        {MenuEvent::MeanNewMoon, MeanSynodicMonth, 1e-4},
-        {MenuEvent::MeanPerigee, anomalistic, 1e-3},
-        {MenuEvent::MeanApogee, anomalistic, 1e-3},
-        {MenuEvent::VedicTithi, 0.98, 0.2},
-        {MenuEvent::MoladMoment, 29.530594, 1e-6},
-    };
-    Locale = PresetLocale("Jerusalem");
-    for (const auto& [event, period, play] : rows) {
-        for (double from = GregorianToFixed(1700, 1, 1) + 0.3; from < GregorianToFixed(2300, 1, 1); from += 9777.7) {
-            const Moment next = Jump(event, from, 1);
-            const Moment afterIt = Jump(event, next, 1);
-            ASSERT_GT(next, from) << static_cast<int>(event);
-            ASSERT_NEAR(afterIt - next, period, play) << static_cast<int>(event) << ' ' << from;
-            ASSERT_NEAR(Jump(event, afterIt, -1), next, 2e-4) << static_cast<int>(event) << ' ' << from;
-            ASSERT_NEAR(Jump(event, next + 0.4, -1), next, 2e-4) << static_cast<int>(event);
-        }
-    }
-}
-
 /// In a northern summer there are months without a crescent: the searches pass over them, and beep where none is left.
 TEST(LunarSearches, PassOverMonthsWithoutACrescent) {
     Desk desk;

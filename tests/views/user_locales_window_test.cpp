@@ -1,35 +1,25 @@
 #include "views/user_locales_window.h"
 
-#include "core/text.h"
-#include "desk.h"
+#include "desk_fixture.h"
 #include "locale/distances.h"
 #include "locale/presets.h"
 
-#include <gtest/gtest.h>
-
-#include <initializer_list>
 #include <tuple>
 
 namespace horvanta {
 namespace {
 
 /// A desk with the window open on slot 1, and nothing asked so far.
-class UserLocalesWindowTest : public testing::Test {
+class UserLocalesWindowTest : public DeskTest {
   protected:
     UserLocalesWindowTest() { Obey({"menu SetUserLoc", "asked"}); }
 
-    void Obey(std::initializer_list<std::string> lines) {
-        for (const std::string& line : lines) answer = desk.Obey(line);
-    }
     void Enter(const std::string& field, const std::string& text) { Obey({"type User." + field + " " + text}); }
     bool hasAsked(const std::string& title) {
         return desk.Obey("asked").find("\"" + title + "\"") != std::string::npos;
     }
 
-    StoredSettings settings{{"Horvanta", {{"Events", {{"Top", "0"}}}}}};
-    Desk desk{settings};
     UserLocalesWindow& window = desk.program.userLocales;
-    std::string answer;
 };
 
 TEST_F(UserLocalesWindowTest, KeepAnAppliedPlaceInTheMenuAndOverARestart) {
@@ -67,8 +57,9 @@ TEST_F(UserLocalesWindowTest, DoubtAZoneFarFromItsLongitude) {
         desk.desktop.answers.clear();
     }
     Enter("TimeZone", "6.25");
-    Obey({"answer yes", "click User.ApplyLoc", "asked"});
-    EXPECT_NE(answer.find("differs by 3.25 hours from ideal 3 based on Longitude.\\n"), std::string::npos);
+    Obey({"answer yes", "asked"});
+    EXPECT_NE(AskedBy("click User.ApplyLoc").find("differs by 3.25 hours from ideal 3 based on Longitude.\\n"),
+              std::string::npos);
     EXPECT_EQ(Locale.Zone, 6.25);
     Obey({"click User.LongHemi", "click User.GuessZone"});
     EXPECT_EQ(window.TimeZone.text, "-3");
@@ -150,8 +141,7 @@ TEST_F(UserLocalesWindowTest, ClearASlotForGood) {
     EXPECT_EQ(Locale.Name, "Ur");  // the current place stays
     EXPECT_FALSE(desk.program.frame.UserLoc[1].isShown());
     EXPECT_EQ(desk.Obey("asked"), "none");
-    Obey({"menu MenuExit"});
-    Desk again(desk.desktop.settings.flushed);
+    Desk again(LeftBy(desk));
     EXPECT_EQ(again.program.userLocales.LocName.text + again.program.userLocales.LatDeg.text, "");
     EXPECT_FALSE(again.program.frame.UserLoc[1].isShown());
 }
