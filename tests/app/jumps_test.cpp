@@ -113,15 +113,13 @@ TEST(Numbering, KeepsEveryDate) {
 }
 
 TEST(JumpBy, TakesNumbersAndNothingElse) {
+    // clang-format off
     constexpr std::tuple<const char*, const char*, double, const char*> rows[] = {
-        {"1", "answer text 2.5", 1002.5, ""},
-        {"2", "answer text —3", 979, ""},
-        {"1", "answer text 1e9", 3652060, "beep"},
-        {"1", "answer text two", 1000, ""},
-        {"1", "answer text", 1000, ""},
-        {"1", "answer cancel", 1000, ""},
-        {"1", "answer text 0", 1000, ""},
-        {"5", "answer text 0.1", 1365.2, ""}};
+        {"1", "answer text 2.5", 1002.5, ""}, {"2", "answer text —3", 979, ""},
+        {"1", "answer text 1e9", 3652060, "beep"}, {"1", "answer text two", 1000, ""}, {"1", "answer text", 1000, ""},
+        {"1", "answer cancel", 1000, ""}, {"1", "answer text 0", 1000, ""}, {"5", "answer text 0.1", 1365.2, ""},
+    };
+    // clang-format on
     Desk desk;
     for (const auto& [step, answer, moment, beep] : rows) {
         ObeyAll(desk, {std::string("menu StepMenu ") + step, "set DisplayedMoment 1000", answer,

@@ -10,22 +10,19 @@
 
 #include <gtest/gtest.h>
 
-#include <cmath>
 #include <tuple>
 #include <vector>
 
 namespace horvanta {
 namespace {
 
-Moment Jump(MenuEvent event, Moment from, int direction) { return FindEventSearch(event)->jump(from, direction); }
-
 /// Six events a lunation, each after the one before; the way back meets the same moments.
 TEST(LunarSearches, WalkLeadsThroughTheEventsAndBack) {
-    const std::tuple<const char*, std::size_t, int> walks[] = {
+    constexpr std::tuple<const char*, std::int32_t, int> walks[] = {
         {"Jerusalem", 2024, 74}, {"Melbourne", 1850, 74}, {"Greenwich", 3500, 74}, {"Yellowknife", 2024, 68}};
     for (const auto& [place, year, eventsOfYear] : walks) {
         Locale = PresetLocale(place);
-        const Moment first = JumpLunarEvent(GregorianToFixed(static_cast<std::int32_t>(year), 1, 1), 1);
+        const Moment first = JumpLunarEvent(GregorianToFixed(year, 1, 1), 1);
         std::vector<Moment> events{first};
         while (events.back() < first + 365) events.push_back(JumpLunarEvent(events.back(), 1));
         for (std::size_t i = 1; i < events.size(); ++i) {
@@ -42,15 +39,13 @@ TEST(LunarSearches, PassOverMonthsWithoutACrescent) {
     Desk desk;
     Locale = MakeLocale("Far north", "", 71, 25, 0);
     const Moment june = GregorianToFixed(2024, 6, 1);
-    const Moment found = Jump(MenuEvent::FirstNewCrescent, june, 1);
-    EXPECT_GT(found, june + 40);
-    EXPECT_LT(found, june + 300);
+    const Moment found = FindEventSearch(MenuEvent::FirstNewCrescent)->jump(june, 1);
+    EXPECT_NEAR(found, june + 170, 130);
     Locale = MakeLocale("Pole", "", 90, 0, 0);
     for (const Moment from : {june, june + 180}) {
         for (const int direction : {-1, 1}) {
             const Moment event = JumpLunarEvent(from, direction);
-            EXPECT_GT((event - from) * direction, 0);
-            EXPECT_LT(std::fabs(event - from), 16);
+            EXPECT_NEAR((event - from) * direction, 8, 8);
         }
     }
 }

@@ -238,6 +238,14 @@ TEST_F(Quartane, KeepsTheRuleAtSeparators) {
     EXPECT_EQ(LeapChoices()[9], "ISOalt = Start on Wednesday after ISO new year 71/400");
 }
 
+TEST_F(Quartane, TakesAnyTextForItsRule) {
+    for (const char* key : {"100000/100000", "1/2/3", "/", "", "?"}) {
+        options.LeapRuleKey = key;
+        EXPECT_EQ(FixedToQuaDate(QuaNewYear(2024)).year, 2024) << key;
+        EXPECT_FALSE(LeapRuleExplanation().empty() || LeapRuleMethod(true).empty()) << key;
+    }
+}
+
 TEST_F(Quartane, JumpsToItsEvents) {
     EXPECT_EQ(Calendar.ToFixed(2008, 13, 1), QuaNewYear(2009) - 7);  // no leap week: falls back by one
     const FixedDay leapWeek = QuaNewYear(2010) - 7;

@@ -89,25 +89,5 @@ TEST(TypedDates, TellWhyTheyAreNone) {
     }
 }
 
-/// Whatever stands there, a date that is accepted has its day, and that day the date.
-TEST(TypedDates, AreTheDatesOfTheirDaysInEveryCalendar) {
-    for (const CalendarContract* calendar : calendars) {
-        int accepted = 0;
-        for (std::int32_t year = -20'100; year <= 20'100; year += 67) {
-            const std::int32_t month = 1 + (year & 15);
-            for (const std::int32_t day : {1, 28, 29, 30, 31, 35, 36}) {
-                const TypedDate date = DayOf(*calendar, year, month, day);
-                EXPECT_TRUE(isNever(date.moment) || date.told.empty());
-                if (isNever(date.moment)) continue;
-                const GridDate back = calendar->DateOf(date.moment);
-                EXPECT_TRUE(back.year == year && back.month == month && back.day == day)
-                    << calendar->name << " " << year << " " << month << " " << day;
-                ++accepted;
-            }
-        }
-        EXPECT_GT(accepted, 300) << calendar->name;
-    }
-}
-
 }  // namespace
 }  // namespace horvanta

@@ -39,21 +39,14 @@ QRegion Seen(const QMdiSubWindow& window, const QMdiArea& area) {
 }
 
 void TakeContextMenu(const QString& caption) {
-    auto* timer = new QTimer(qApp);
-    QObject::connect(timer, &QTimer::timeout, timer, [timer, caption] {
-        auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
-        if (!menu) return;
-        timer->deleteLater();
-        timer->stop();
-        for (QAction* action : menu->actions()) {
+    DealWithNext<QMenu>([caption](QMenu& menu) {
+        for (QAction* action : menu.actions()) {
             if (action->text().remove(u'&') != caption) continue;
-            menu->setActiveAction(action);
-            QTest::keyClick(menu, Qt::Key_Return);
-            return;
+            menu.setActiveAction(action);
+            return QTest::keyClick(&menu, Qt::Key_Return);
         }
-        menu->close();
+        menu.close();
     });
-    timer->start(1);
 }
 
 }  // namespace

@@ -135,7 +135,8 @@ template <class Dialog>
 void DealWithNext(const std::function<void(Dialog&)>& deal) {
     auto* timer = new QTimer(qApp);
     QObject::connect(timer, &QTimer::timeout, timer, [timer, deal] {
-        auto* dialog = qobject_cast<Dialog*>(QApplication::activeModalWidget());
+        QWidget* popup = QApplication::activePopupWidget();
+        auto* dialog = qobject_cast<Dialog*>(popup ? popup : QApplication::activeModalWidget());
         if (!dialog) return;
         timer->stop();
         timer->deleteLater();

@@ -115,13 +115,6 @@ TEST_F(Monthly, EditsTheYear) {
         press(key);
         EXPECT_EQ(DisplayedMoment, start) << key;
     }
-    TextField& field = desk.program.monthly.ThisYear;
-    field.text = "19";
-    desk.Obey("press Escape");
-    EXPECT_EQ(field.text, "2024");
-    EXPECT_EQ(DisplayedMoment, start);
-    desk.Obey("press Escape");
-    EXPECT_EQ(DisplayedMoment, Today());
 }
 
 /// What a screen reader says of the grid, and where it marks today.

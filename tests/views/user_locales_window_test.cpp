@@ -81,12 +81,13 @@ TEST_F(UserLocalesWindowTest, TakeNumbersWithinTheirEndsAndGiveGarbageBack) {
 }
 
 TEST_F(UserLocalesWindowTest, StepByKeysAndArrows) {
+    // clang-format off
     constexpr std::tuple<const char*, const char*, const char*, const char*> rows[] = {
-        {"LatDeg", "89", "press PageUp", "90 0 0"},
-        {"LatDeg", "0", "press Minus", "0 0 0"},
-        {"LatMin", "59", "press Plus", "1 0 0"},
-        {"LatSec", "0", "press Up shift", "0 0 0.1"},
-        {"LatSec", "5", "click User.LatSecUpDown down", "0 0 4"}};
+        {"LatDeg", "89", "press PageUp", "90 0 0"}, {"LatDeg", "0", "press Minus", "0 0 0"},
+        {"LatMin", "59", "press Plus", "1 0 0"}, {"LatSec", "0", "press Up shift", "0 0 0.1"},
+        {"LatSec", "5", "click User.LatSecUpDown down", "0 0 4"},
+    };
+    // clang-format on
     for (const auto& [field, typed, act, shown] : rows) {
         for (const char* other : {"LatDeg", "LatMin", "LatSec"}) Enter(other, "");
         Enter(field, typed);
@@ -162,11 +163,10 @@ TEST_F(UserLocalesWindowTest, CopyPlacesAsTheyAre) {
 }
 
 TEST_F(UserLocalesWindowTest, TakeDegreesWithADecimalPoint) {
-    constexpr std::tuple<const char*, const char*> rows[] = {{"-33.8583", "33 51 29.88 South"},
-                                                             {"90.1", "33 51 29.88 South"},
-                                                             {"59.99999999", "60 0 0 North"},
-                                                             {"x", "60 0 0 North"}};
-    for (const auto& [typed, shown] : rows) {
+    const char* const south = "33 51 29.88 South";
+    const char* const north = "60 0 0 North";
+    for (const auto& [typed, shown] :
+         {std::pair("-33.8583", south), {"90.1", south}, {"59.99999999", north}, {"x", north}}) {
         Obey({std::string("answer text ") + typed, "click User.LatLabel"});
         EXPECT_EQ(window.LatDeg.text + " " + window.LatMin.text + " " + window.LatSec.text + " " + window.LatHemi.text,
                   shown);
