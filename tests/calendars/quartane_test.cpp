@@ -242,6 +242,7 @@ TEST_F(Quartane, TakesAnyTextForItsRule) {
     for (const char* key : {"100000/100000", "1/2/3", "/", "", "?"}) {
         options.LeapRuleKey = key;
         EXPECT_EQ(FixedToQuaDate(QuaNewYear(2024)).year, 2024) << key;
+        EXPECT_EQ(Rule().CycleLength, key == std::string("100000/100000") ? 100'000 : 293) << key;
         EXPECT_FALSE(LeapRuleExplanation().empty() || LeapRuleMethod(true).empty()) << key;
     }
 }
