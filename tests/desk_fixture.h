@@ -15,9 +15,9 @@
 
 namespace horvanta {
 
-/// Does what the lines say.
+/// Does what the lines say, all of which have to be possible.
 inline void ObeyAll(Desk& desk, const std::vector<std::string>& lines) {
-    for (const std::string& line : lines) desk.Obey(line);
+    for (const std::string& line : lines) EXPECT_FALSE(desk.Obey(line).starts_with("error")) << line;
 }
 
 /// What the program leaves when it is ended.
