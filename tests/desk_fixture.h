@@ -11,8 +11,20 @@
 #include <cstdint>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace horvanta {
+
+/// Does what the lines say, all of which have to be possible.
+inline void ObeyAll(Desk& desk, const std::vector<std::string>& lines) {
+    for (const std::string& line : lines) EXPECT_FALSE(desk.Obey(line).starts_with("error")) << line;
+}
+
+/// What the program leaves when it is ended.
+inline StoredSettings LeftBy(Desk& desk) {
+    desk.Obey("menu MenuExit");
+    return desk.desktop.settings.flushed;
+}
 
 /// The program on the recording desktop, at whatever moment a test wants to see.
 class DeskTest : public testing::Test {
@@ -35,6 +47,8 @@ class DeskTest : public testing::Test {
         }
         return texts;
     }
+
+    void Obey(const std::vector<std::string>& lines) { ObeyAll(desk, lines); }
 
     /// What the desktop was asked by one line.
     std::string AskedBy(const std::string& line) {

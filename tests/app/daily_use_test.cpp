@@ -1,26 +1,12 @@
-#include "core/moment.h"
-#include "core/text.h"
-#include "desk.h"
+#include "desk_fixture.h"
 
-#include <gtest/gtest.h>
-
-#include <set>
-#include <string>
-#include <vector>
+#include <tuple>
 
 namespace horvanta {
 namespace {
 
-void ObeyAll(Desk& desk, const std::vector<std::string>& lines) {
-    for (const std::string& line : lines) ASSERT_EQ(desk.Obey(line), "ok") << line;
-}
-
 TEST(DailyUse, AnItemRaisesItsWindowAndHidesItOnlyInFront) {
-    struct {
-        const char* line;
-        bool visible;
-        const char* focused;
-    } const rows[] = {
+    const std::tuple<const char*, bool, const char*> rows[] = {
         {"menu GregCal", true, "Dummy"},           {"menu CalendarMonth", true, "Days"},
         {"menu GregCal", true, "Dummy"},           {"menu GregCal", false, "FixedDayNum"},
         {"menu GregCal", true, "Dummy"},           {"menu ShowTime", true, "FixedDayNum"},
@@ -35,21 +21,13 @@ TEST(DailyUse, AnItemRaisesItsWindowAndHidesItOnlyInFront) {
 }
 
 TEST(DailyUse, ACommandTakesWhatWasTypedBefore) {
-    struct {
-        const char* line;
-        double moment;
-    } const rows[] = {
-        {"press Up", 1001},
-        {"press Space", 1001},
-        {"press PageUp", 1007},
-        {"press Enter", 1000},
-        {"press Numeric5", 500},
-        {"click TimeAstro.NextUp", 1001},
-        {"menu SaveThisMoment", 1000},
-        {"focus Monthly.Days", 1000},
-        {"press Home", 8415},
-        {"rightclick Monthly", 1000},
+    // clang-format off
+    const std::tuple<const char*, double> rows[] = {
+        {"press Up", 1001}, {"press Space", 1001}, {"press PageUp", 1007}, {"press Enter", 1000},
+        {"press Numeric5", 500}, {"click TimeAstro.NextUp", 1001}, {"menu SaveThisMoment", 1000},
+        {"focus Monthly.Days", 1000}, {"press Home", 8415}, {"rightclick Monthly", 1000},
     };
+    // clang-format on
     for (const auto& [line, moment] : rows) {
         Desk desk;
         ObeyAll(desk,
@@ -64,30 +42,14 @@ TEST(DailyUse, ACommandTakesWhatWasTypedBefore) {
     EXPECT_EQ(desk.program.monthly.ThisYear.text, "2000");
 }
 
-TEST(DailyUse, EscapePutsTheOldTextBackAndThenGoesToday) {
-    Desk desk;
-    TextField& number = desk.program.timeAstro.FixedDayNum;
-    ObeyAll(desk, {"set DisplayedMoment 500", "edit TimeAstro.FixedDayNum 10", "edit TimeAstro.FixedDayNum abc",
-                   "press Esc"});
-    EXPECT_EQ(number.text, "500");
-    EXPECT_EQ(DisplayedMoment, 500);
-    ObeyAll(desk, {"press Esc"});
-    EXPECT_EQ(DisplayedMoment, Today());
-    EXPECT_EQ(desk.Obey("asked"), "none");
-}
-
 /// What the program wrote into a field since is no text of the user's.
-TEST(DailyUse, ATextOfTheProgramEndsTheEditing) {
-    Desk desk;
-    ObeyAll(desk, {"edit TimeAstro.FixedDayNum 10", "set DisplayedMoment 500", "press Up"});
+TEST_F(DeskTest, ATextOfTheProgramEndsTheEditing) {
+    Obey({"edit TimeAstro.FixedDayNum 10", "set DisplayedMoment 500", "press Up"});
     EXPECT_EQ(DisplayedMoment, 501);
 }
 
 TEST(DailyUse, ABeepTellsWhy) {
-    struct {
-        std::vector<std::string> lines;
-        const char* told;
-    } const rows[] = {
+    const std::tuple<std::vector<std::string>, const char*> rows[] = {
         {{"type Monthly.ThisYear abc"}, "abc is not a year"},
         {{"type Monthly.ThisYear"}, "an empty text is not a year"},
         {{"type TimeAstro.FixedDayNum 9e9"}, "the range ends at year 12000"},
@@ -107,29 +69,23 @@ TEST(DailyUse, ABeepTellsWhy) {
     }
 }
 
-TEST(DailyUse, TheMainDateOffersCopiesAndColours) {
-    Desk desk;
-    const std::string date = "Gregorian.GregorianDate";
+TEST_F(DeskTest, TheMainDateOffersCopiesAndColours) {
     const std::string offer = R"(menu "Copy" "Copy All" "Text Colour..." "Background Colour..." )";
-    ObeyAll(desk, {"rightclick " + date});
-    EXPECT_EQ(desk.Obey("asked"), offer + "cancel");
-    ObeyAll(desk, {"answer text Copy", "rightclick " + date});
-    EXPECT_EQ(desk.Obey("asked"), offer + R"("Copy"; clipboard "Monday, January 15, 2024 ")");
-    ObeyAll(desk, {"answer text Text Colour...", "answer color 255", "rightclick " + date});
-    EXPECT_EQ(desk.program.gregorian.GregorianDate.colors->foreground.Number(), 255);
-    ObeyAll(desk, {"answer text Background Colour...", "answer color 65280", "rightclick " + date});
-    EXPECT_EQ(desk.program.gregorian.GregorianDate.colors->background.Number(), 65280);
+    EXPECT_EQ(AskedBy("rightclick Gregorian.GregorianDate"), offer + "cancel");
+    desk.Obey("answer text Copy");
+    EXPECT_EQ(AskedBy("rightclick Gregorian.GregorianDate"),
+              offer + R"("Copy"; clipboard "Monday, January 15, 2024 ")");
+    Obey({"answer text Background Colour...", "answer color 65280", "rightclick Gregorian.GregorianDate"});
+    const ColorPair green{{0, 255, 0}, {0, 0, 0}};
+    EXPECT_EQ(desk.program.gregorian.GregorianDate.colors, green);
+    EXPECT_EQ(desk.program.gregorian.GregCycleInfo.colors, green);
+    EXPECT_EQ(desk.program.gregorian.TheISOdate.colors, (ColorPair{{48, 207, 48}, {48, 48, 48}}));
 }
 
 /// Each value that a window shows stands in its menu, and what an item copies has all digits.
-TEST(DailyUse, TheMenuOfAWindowReachesEveryValue) {
-    Desk desk;
+TEST_F(DeskTest, TheMenuOfAWindowReachesEveryValue) {
     desk.Obey("set DisplayedMoment 8415.123456789");
-    struct {
-        const char* form;
-        const char* item;
-        const char* copied;
-    } const rows[] = {
+    const std::tuple<const char*, const char*, const char*> rows[] = {
         {"Gregorian", "Copy Dominical Letter(s) for this Gregorian Year: GF", "GF"},
         {"Gregorian", "Copy 24th year of 6th cycle AD",
          "Gregorian year 2024 (leap) = 24th year of 6th 400-year cycle AD"},
@@ -137,47 +93,20 @@ TEST(DailyUse, TheMenuOfAWindowReachesEveryValue) {
         {"TimeAstro", "Copy Solar declination: 21.2° S", "Solar declination: 21.2"},
         {"Quartane", "Copy in Quarter, Month: 1", "in Quarter, Month: 1"},
         {"Monthly", "Copy Year: 2024", "Year: 2024"},
+        {"Hebrew", "Copy Dusk VG: 16:48:30", "Dusk VG"},
+        {"Lunar", "Copy Lunar longitude: 344.4°", "Lunar longitude: 344.4"},
     };
     for (const auto& [form, item, copied] : rows) {
         desk.Obey("asked");
-        ObeyAll(desk, {std::string("answer text ") + item, std::string("rightclick ") + form});
+        Obey({std::string("answer text ") + item, std::string("rightclick ") + form});
         const std::string asked = desk.Obey("asked");
         EXPECT_NE(asked.find(std::string("clipboard \"") + copied), std::string::npos) << asked;
     }
-    ObeyAll(desk, {"answer text Copy All", "rightclick TimeAstro"});
+    Obey({"answer text Copy All", "rightclick TimeAstro"});
     const std::string all = desk.Obey("asked");
     for (const char* value : {"Sunset: 16:21:", "Equation of Time", ": 8415.123457\\n"}) {
         EXPECT_NE(all.find(value, all.find("clipboard")), std::string::npos) << value;
     }
-}
-
-TEST(DailyUse, PlacesStandByNameEachWithAnAccessKey) {
-    Desk desk;
-    std::set<char> keys;
-    std::string before;
-    for (const MenuItem* item : desk.program.frame.LocaleMenu.items) {
-        if (item->isSeparator()) continue;
-        const std::size_t mark = item->caption.find('&');
-        ASSERT_NE(mark, std::string::npos) << item->caption;
-        EXPECT_TRUE(keys.insert(static_cast<char>(item->caption[mark + 1] | 0x20)).second) << item->caption;
-        if (item->name == "UDLs") continue;
-        EXPECT_LT(before, RemoveAmpersands(item->caption));
-        before = RemoveAmpersands(item->caption);
-    }
-    EXPECT_EQ(keys.size(), 26u);
-}
-
-/// What merely holds the focus speaks for its window.
-TEST(DailyUse, NothingIsSpokenByItsInnerName) {
-    Desk desk;
-    for (const Form* form : desk.program.Forms()) {
-        for (const Control* control : form->controls) {
-            EXPECT_NE(AccessibleName(*control), "Dummy") << form->name;
-        }
-    }
-    EXPECT_EQ(AccessibleName(desk.program.gregorian.Dummy), desk.program.gregorian.form.text);
-    const DayStrip& light = desk.program.timeAstro.fields.DayLight;
-    EXPECT_EQ(AccessibleName(light), light.text);
 }
 
 }  // namespace

@@ -1,31 +1,25 @@
 #include "app/history.h"
 
-#include "core/moment.h"
-#include "desk.h"
+#include "desk_fixture.h"
 
-#include <gtest/gtest.h>
+#include <tuple>
 
 namespace horvanta {
 namespace {
 
-TEST(History, WalksBackAndForwardThroughWhatWasDisplayed) {
-    Desk desk;
+TEST_F(DeskTest, WalksBackAndForwardThroughWhatWasDisplayed) {
     EXPECT_EQ(desk.Obey("menu Back"), "error: not enabled: Back");
     const Moment start = DisplayedMoment;
     for (const char* line : {"type TimeAstro.FixedDayNum 1000", "menu SetParis", "press Up", "press Up held",
                              "press Up held", "menu SetEpochOptMenu 2", "press PageUp"}) {
         EXPECT_EQ(desk.Obey(line), "ok");
     }
-    struct Step {
-        const char* item;
-        double fromStart2001;  ///< Days from January 1, 2001, which was day 1.
-        const char* place;
-    };
-    constexpr Step steps[] = {{"Back", 1003, "Paris"},
-                              {"Back", 1000, "Paris"},
-                              {"Back", 1000, "Greenwich"},
-                              {"Forward", 1000, "Paris"},
-                              {"Forward", 1003, "Paris"}};
+    // The days are those from January 1, 2001, which was day 1.
+    constexpr std::tuple<const char*, double, const char*> steps[] = {{"Back", 1003, "Paris"},
+                                                                      {"Back", 1000, "Paris"},
+                                                                      {"Back", 1000, "Greenwich"},
+                                                                      {"Forward", 1000, "Paris"},
+                                                                      {"Forward", 1003, "Paris"}};
     for (const auto& [item, day, place] : steps) {
         EXPECT_EQ(desk.Obey(std::string("menu ") + item), "ok");
         EXPECT_EQ(DisplayedMoment - Epoch2001 + 1, day) << item;

@@ -1,26 +1,14 @@
 #include "app/horvanta.h"
 
-#include "core/moment.h"
 #include "core/preferences.h"
-#include "core/text.h"
-#include "desk.h"
+#include "desk_fixture.h"
 
-#include <gtest/gtest.h>
-
-#include <array>
 #include <tuple>
 
 namespace horvanta {
 namespace {
 
-StoredSettings SettingsOf(std::initializer_list<std::array<const char*, 3>> rows) {
-    StoredSettings settings;
-    for (const auto& [section, key, text] : rows) settings["Horvanta"][section][key] = text;
-    return settings;
-}
-
-TEST(Start, ChoosesAndSavesTodayInAFirstRun) {
-    Desk desk;
+TEST_F(DeskTest, ChoosesAndSavesTodayInAFirstRun) {
     EXPECT_EQ(DisplayedMoment, 8415);
     EXPECT_EQ(SavedMoment, 8415);
     EXPECT_EQ(BusyCount, 0);
@@ -32,31 +20,23 @@ TEST(Start, ChoosesAndSavesTodayInAFirstRun) {
 }
 
 TEST(Start, FindsWhatTheLastRunSaved) {
-    StoredSettings left;
-    {
-        Desk desk;
-        desk.Obey("menu AlwaysToday");
-        desk.Obey("menu StepMenu 2");
-        desk.Obey("answer text Text Colour...");
-        desk.Obey("answer color 255");
-        desk.Obey("rightclick TimeAstro.TimeOfDay");
-        desk.Obey("type TimeAstro.FixedDayNum 1000.123456789");
-        desk.program.timeAstro.form.position.left = 1500;
-        desk.Obey("close Gregorian");
-        desk.Obey("menu MenuExit");
-        EXPECT_TRUE(desk.desktop.ended);
-        EXPECT_EQ(desk.Obey("press Up"), "error: the program has ended");
-        left = desk.desktop.settings.flushed;
+    for (const double moment : {1000.123456789, 0.0}) {  // day 0 is a day like others
+        StoredSettings left;
+        {
+            Desk desk;
+            ObeyAll(desk, {"menu AlwaysToday", "type TimeAstro.FixedDayNum 2000", "menu SaveThisMoment",
+                           "type TimeAstro.FixedDayNum " + ExactText(moment), "close Gregorian", "menu MenuExit"});
+            EXPECT_TRUE(desk.desktop.ended);
+            EXPECT_EQ(desk.Obey("press Up"), "error: the program has ended");
+            left = desk.desktop.settings.flushed;
+        }
+        const Desk desk(left);
+        EXPECT_EQ(DisplayedMoment, moment);
+        EXPECT_EQ(SavedMoment, 2000);
+        EXPECT_FALSE(stepping::options.AlwaysToday);
+        EXPECT_FALSE(desk.program.gregorian.form.visible);
+        EXPECT_TRUE(desk.program.timeAstro.form.visible);
     }
-    Desk desk(left);
-    EXPECT_EQ(DisplayedMoment, 1000.123456789);
-    EXPECT_EQ(SavedMoment, 8415);
-    EXPECT_FALSE(stepping::options.AlwaysToday);
-    EXPECT_EQ(Increment, 7);
-    EXPECT_EQ(desk.program.timeAstro.TimeOfDay.colors->foreground, (Color{255, 0, 0}));
-    EXPECT_EQ(desk.program.timeAstro.form.position.left, 1500);
-    EXPECT_FALSE(desk.program.gregorian.form.visible);
-    EXPECT_TRUE(desk.program.timeAstro.form.visible);
 }
 
 /// A start that is killed leaves the mark empty, and whatever it choked on is gone at the next.
@@ -64,8 +44,8 @@ TEST(Start, ClearsTheSettingsAfterAStartThatDidNotFinish) {
     struct KilledDesktop : RecordingDesktop {
         void LetEventsRun() override { throw 1; }
     } killed;
-    killed.settings.values = SettingsOf({{"Item", "RD", "1000"}, {"TimeAstro", "Chk", "False"}});
-    killed.settings.values["Horvanta-UDLs"]["User 1"]["Name"] = "Home";
+    killed.settings.values = {{"Horvanta", {{"Item", {{"RD", "1000"}}}, {"TimeAstro", {{"Chk", "False"}}}}},
+                              {"Horvanta-UDLs", {{"User 1", {{"Name", "Home"}}}}}};
     CurrentDesktop = &killed;
     {
         Horvanta program;
@@ -92,11 +72,8 @@ TEST(End, HasFourWays) {
     };
     for (const auto& [item, moment, foreground] : rows) {
         Desk desk;
-        desk.Obey("answer text Text Colour...");
-        desk.Obey("answer color 255");
-        desk.Obey("rightclick TimeAstro.TimeOfDay");
-        desk.Obey("press Plus");
-        desk.Obey(std::string("menu ") + item);
+        ObeyAll(desk, {"answer text Text Colour...", "answer color 255", "rightclick TimeAstro.TimeOfDay", "press Plus",
+                       std::string("menu ") + item});
         EXPECT_TRUE(desk.desktop.ended);
         desk.desktop.settings.values = desk.desktop.settings.flushed;
         EXPECT_EQ(desk.desktop.settings.Read(ProgramSettings, "Item", "RD").value_or("none"), moment) << item;
@@ -115,8 +92,7 @@ TEST(End, TellsThatTheSettingsCouldNotBeSaved) {
         desk.Obey("menu SavePreferences");
         EXPECT_EQ(desk.Obey("asked"), "beep; box \"Save Preferences\" \"The disk is full.\"");
         EXPECT_EQ(desk.Obey("status"), "\"The disk is full.\"");
-        desk.Obey("answer no");
-        desk.Obey(std::string("menu ") + item);
+        ObeyAll(desk, {"answer no", std::string("menu ") + item});
         EXPECT_FALSE(desk.desktop.ended) << item;
         EXPECT_TRUE(desk.program.timeAstro.form.visible);
         EXPECT_EQ(desk.Obey("asked"), "beep; box \"Quit\" \"The disk is full.\\n\\nQuit all the same?\" no");
@@ -125,21 +101,15 @@ TEST(End, TellsThatTheSettingsCouldNotBeSaved) {
         desk.Obey("menu SavePreferences");
         EXPECT_EQ(desk.desktop.settings.flushed["Horvanta"]["Item"], before.at("Horvanta").at("Item")) << item;
         desk.desktop.settings.refusal = "The disk is full.";
-        desk.Obey("answer yes");
-        desk.Obey(std::string("menu ") + item);
+        ObeyAll(desk, {"answer yes", std::string("menu ") + item});
         EXPECT_TRUE(desk.desktop.ended) << item;
     }
 }
 
 /// What is being entered and was not applied is neither saved nor asked about.
-TEST(End, OfTheSessionSavesWithoutAQuestion) {
-    Desk desk;
-    desk.Obey("menu SetUserLoc");
-    desk.Obey("type User.LocName Home");
-    desk.Obey("click User.ApplyLoc");
-    desk.Obey("type User.LocName Away");
-    desk.Obey("press Plus");
-    desk.Obey("asked");
+TEST_F(DeskTest, OfTheSessionSavesWithoutAQuestion) {
+    Obey({"menu SetUserLoc", "type User.LocName Home", "click User.ApplyLoc", "type User.LocName Away", "press Plus",
+          "asked"});
     desk.program.EndSession();
     EXPECT_TRUE(desk.desktop.ended);
     EXPECT_EQ(desk.Obey("asked"), "none");
@@ -186,29 +156,11 @@ TEST(FixedDayNum, TakesNumbersAndGivesTheOldOneBackForAnythingElse) {
         {"-9999999", -3264288, "beep"}, {"739000.250", 739000.25, "none"}};
     Desk desk;
     for (const auto& [typed, moment, asked] : rows) {
-        desk.Obey("set DisplayedMoment 739000.25");
-        desk.Obey("type TimeAstro.FixedDayNum " + typed);
+        ObeyAll(desk, {"set DisplayedMoment 739000.25", "type TimeAstro.FixedDayNum " + typed});
         EXPECT_EQ(DisplayedMoment, moment) << typed;
         EXPECT_EQ(desk.program.timeAstro.FixedDayNum.text, GeneralText(moment)) << typed;
         EXPECT_EQ(desk.Obey("asked"), asked) << typed;
     }
-}
-
-/// Day 0 is a day like others: who leaves on it finds the saved moment again.
-TEST(Start, AfterLeavingOnDay0IsNoFirstRun) {
-    StoredSettings left;
-    {
-        Desk desk;
-        desk.Obey("set DisplayedMoment 1000");
-        desk.Obey("menu SaveThisMoment");
-        desk.Obey("set DisplayedMoment 0");
-        desk.Obey("menu AlwaysToday");
-        desk.Obey("menu MenuExit");
-        left = desk.desktop.settings.flushed;
-    }
-    const Desk desk(left);
-    EXPECT_EQ(DisplayedMoment, 0);
-    EXPECT_EQ(SavedMoment, 1000);
 }
 
 TEST(SavedMoment, IsToldByItsDistance) {
@@ -224,8 +176,7 @@ TEST(SavedMoment, IsToldByItsDistance) {
         EXPECT_EQ(desk.program.timeAstro.SavedDiffBox.text, distance) << moment;
         EXPECT_EQ(desk.program.timeAstro.SavedToFrom.text, words) << moment;
     }
-    desk.Obey("set DisplayedMoment 1000");
-    desk.Obey("menu JumpToSaved");
+    ObeyAll(desk, {"set DisplayedMoment 1000", "menu JumpToSaved"});
     EXPECT_EQ(DisplayedMoment, 8415);
 }
 

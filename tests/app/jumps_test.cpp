@@ -4,13 +4,9 @@
 #include "app/options.h"
 #include "astro/sun.h"
 #include "astro/timescales.h"
-#include "calendars/gregorian.h"
 #include "calendars/quartane_options.h"
-#include "core/moment.h"
-#include "core/text.h"
-#include "desk.h"
-
-#include <gtest/gtest.h>
+#include "desk_fixture.h"
+#include "locale/presets.h"
 
 #include <set>
 #include <tuple>
@@ -19,14 +15,24 @@ namespace horvanta {
 namespace {
 
 /// Each search is strict, steps from event to event, and comes back the way it went, also from a moment just beside an
-/// event.
+/// event. The rows have the period, and the days from the start of 2024 to the first event.
 TEST(Events, AreWalkedThereAndBack) {
+    // clang-format off
     constexpr std::tuple<MenuEvent, double, double> rows[] = {
         {MenuEvent::RotationAdjustedNewYear, 365.2425, 0.08}, {MenuEvent::MeanOrbitalNewYear, 365.2422, 365.2},
         {MenuEvent::BesselianNewYear, 365.2422, 365.2},       {MenuEvent::SolarEvent, 91.3, 79.1},
         {MenuEvent::NorthwardEquinox, 365.2424, 79.1},        {MenuEvent::NorthSolstice, 365.2416, 171.9},
         {MenuEvent::SouthwardEquinox, 365.242, 265.5},        {MenuEvent::SouthSolstice, 365.2427, 355.4},
-        {MenuEvent::MeanPerihelion, 365.2596, 3.2},           {MenuEvent::MeanAphelion, 365.2596, 185.9}};
+        {MenuEvent::MeanPerihelion, 365.2596, 3.2},           {MenuEvent::MeanAphelion, 365.2596, 185.9},
+        {MenuEvent::NewMoon, 29.530589, 10.5},                {MenuEvent::FirstQuarterMoon, 29.530589, 17.16},
+        {MenuEvent::FullMoon, 29.530589, 24.75},              {MenuEvent::LastQuarterMoon, 29.530589, 3.15},
+        {MenuEvent::FirstNewCrescent, 29.530589, 11.6},       {MenuEvent::LastOldCrescent, 29.530589, 9.2},
+        {MenuEvent::MeanNewMoon, 29.530589, 10.18},           {MenuEvent::MeanPerigee, 27.55455, 14.07},
+        {MenuEvent::MeanApogee, 27.55455, 0.29},              {MenuEvent::VedicTithi, 0.984353, 0.37},
+        {MenuEvent::MoladMoment, 29.530594, 10.25},
+    };
+    // clang-format on
+    Locale = PresetLocale("Jerusalem");
     const FixedDay year = GregorianToFixed(2024, 1, 1);
     for (const auto& [event, days, first2024] : rows) {
         const auto jump = FindEventSearch(event)->jump;
@@ -60,8 +66,7 @@ TEST(Events, GoBackToTheOneJustPassed) {
     }
 }
 
-TEST(Again, RepeatsTheLastEvent) {
-    Desk desk;
+TEST_F(DeskTest, AgainRepeatsTheLastEvent) {
     EXPECT_EQ(desk.Obey("menu JumpAgain"), "error: not enabled: JumpAgain");
     desk.Obey("menu NextMenu 24");
     EXPECT_EQ(desk.program.frame.JumpAgain.caption, "Again (Next Northward Equinox)");
@@ -86,8 +91,8 @@ TEST(Numbering, KeepsEveryDate) {
     };
     for (const auto& [index, dayOne, epochValue] : rows) {
         Desk desk;
-        desk.Obey("set DisplayedMoment " + ExactText(GregorianToFixed(2024, 7, 4) + 0.375));
-        desk.Obey("menu SetEpochOptMenu " + std::to_string(index));
+        ObeyAll(desk, {"set DisplayedMoment " + ExactText(GregorianToFixed(2024, 7, 4) + 0.375),
+                       "menu SetEpochOptMenu " + std::to_string(index)});
         EXPECT_EQ(FixedToGregorianString(1), dayOne);
         EXPECT_EQ(desk.program.gregorian.GregorianDate.text, "Thursday, July 4, 2024 ");
         EXPECT_EQ(desk.program.timeAstro.TimeOfDay.text, "09:00:00");
@@ -101,43 +106,35 @@ TEST(Numbering, KeepsEveryDate) {
         EXPECT_TRUE(index != 8 || DisplayedMoment == mjd - 40000);
         desk.Obey("menu SetEpochOptMenu 4");
         EXPECT_EQ(DisplayedMoment, 8586.375);
-        desk.Obey("menu SetEpochOptMenu " + std::to_string(index));
-        desk.Obey("menu FixedDayEpoch");
+        ObeyAll(desk, {"menu SetEpochOptMenu " + std::to_string(index), "menu FixedDayEpoch"});
         EXPECT_EQ(DisplayedMoment, epochValue);
         EXPECT_TRUE(desk.desktop.asked.empty());
     }
 }
 
 TEST(JumpBy, TakesNumbersAndNothingElse) {
+    // clang-format off
     constexpr std::tuple<const char*, const char*, double, const char*> rows[] = {
-        {"1", "answer text 2.5", 1002.5, ""},
-        {"2", "answer text —3", 979, ""},
-        {"1", "answer text 1e9", 3652060, "beep"},
-        {"1", "answer text two", 1000, ""},
-        {"1", "answer text", 1000, ""},
-        {"1", "answer cancel", 1000, ""},
-        {"1", "answer text 0", 1000, ""},
-        {"5", "answer text 0.1", 1365.2, ""}};
+        {"1", "answer text 2.5", 1002.5, ""}, {"2", "answer text —3", 979, ""},
+        {"1", "answer text 1e9", 3652060, "beep"}, {"1", "answer text two", 1000, ""}, {"1", "answer text", 1000, ""},
+        {"1", "answer cancel", 1000, ""}, {"1", "answer text 0", 1000, ""}, {"5", "answer text 0.1", 1365.2, ""},
+    };
+    // clang-format on
     Desk desk;
     for (const auto& [step, answer, moment, beep] : rows) {
-        desk.Obey(std::string("menu StepMenu ") + step);
-        desk.Obey("set DisplayedMoment 1000");
-        desk.Obey(answer);
-        desk.Obey("click TimeAstro.IncrementDisplay");
+        ObeyAll(desk, {std::string("menu StepMenu ") + step, "set DisplayedMoment 1000", answer,
+                       "click TimeAstro.IncrementDisplay"});
         EXPECT_NEAR(DisplayedMoment, moment, 0.1) << answer;
         EXPECT_EQ(desk.Obey("asked").find("beep") != std::string::npos, *beep != 0) << answer;
     }
     EXPECT_EQ(desk.program.frame.JumpBy.caption, "Jump By Solar Decades...");
 }
 
-TEST(Colors, AreChangedFromTheMenuAndUndone) {
-    Desk desk;
+TEST_F(DeskTest, ColorsAreChangedFromTheMenuAndUndone) {
     const Control& date = desk.program.gregorian.GregorianDate;
     const ColorPair before = *date.colors;
     EXPECT_EQ(desk.Obey("menu UndoLastColorChange"), "error: not enabled: UndoLastColorChange");
-    desk.Obey("focus Gregorian.InfoGreg");
-    desk.Obey("answer color 255");
-    desk.Obey("menu PickForeColor");
+    Obey({"focus Gregorian.InfoGreg", "answer color 255", "menu PickForeColor"});
     EXPECT_EQ(date.colors->foreground.Number(), 255);
     EXPECT_EQ(desk.program.timeAstro.TimeOfDay.colors->foreground.Number(), 0);
     desk.Obey("menu UndoLastColorChange");
@@ -146,14 +143,22 @@ TEST(Colors, AreChangedFromTheMenuAndUndone) {
     EXPECT_EQ(date.colors->foreground.Number(), 255);
 }
 
-TEST(Menus, AreReachedByKeysOfTheirOwn) {
-    Desk desk;
-    std::set<char> keys;
-    for (const MenuItem* menu : desk.program.frame.menuBar.items) {
-        if (!menu->isShown()) continue;
-        const std::size_t mark = menu->caption.find('&');
-        ASSERT_NE(mark, std::string::npos) << menu->caption;
-        EXPECT_TRUE(keys.insert(menu->caption[mark + 1] | 0x20).second) << menu->caption;
+/// In the menu bar, and among the places, which stand by name.
+TEST_F(DeskTest, MenusAreReachedByKeysOfTheirOwn) {
+    for (const auto* menu :
+         std::initializer_list<const MenuItem*>{&desk.program.frame.menuBar, &desk.program.frame.LocaleMenu}) {
+        const bool byName = menu == &desk.program.frame.LocaleMenu;
+        std::set<char> keys;
+        std::string before;
+        for (const MenuItem* item : menu->items) {
+            if (!item->isShown() || item->isSeparator()) continue;
+            const std::size_t mark = item->caption.find('&');
+            ASSERT_NE(mark, std::string::npos) << item->caption;
+            EXPECT_TRUE(keys.insert(static_cast<char>(item->caption[mark + 1] | 0x20)).second) << item->caption;
+            if (!byName || item->name == "UDLs") continue;
+            EXPECT_LT(before, RemoveAmpersands(item->caption));
+            before = RemoveAmpersands(item->caption);
+        }
     }
     desk.Obey("menu MenuJumpToNow");
     EXPECT_EQ(desk.program.timeAstro.TimeOfDay.text, "10:30:00");

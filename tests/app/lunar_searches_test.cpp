@@ -10,22 +10,19 @@
 
 #include <gtest/gtest.h>
 
-#include <cmath>
 #include <tuple>
 #include <vector>
 
 namespace horvanta {
 namespace {
 
-Moment Jump(MenuEvent event, Moment from, int direction) { return FindEventSearch(event)->jump(from, direction); }
-
 /// Six events a lunation, each after the one before; the way back meets the same moments.
 TEST(LunarSearches, WalkLeadsThroughTheEventsAndBack) {
-    const std::tuple<const char*, std::size_t, int> walks[] = {
+    constexpr std::tuple<const char*, std::int32_t, int> walks[] = {
         {"Jerusalem", 2024, 74}, {"Melbourne", 1850, 74}, {"Greenwich", 3500, 74}, {"Yellowknife", 2024, 68}};
     for (const auto& [place, year, eventsOfYear] : walks) {
         Locale = PresetLocale(place);
-        const Moment first = JumpLunarEvent(GregorianToFixed(static_cast<std::int32_t>(year), 1, 1), 1);
+        const Moment first = JumpLunarEvent(GregorianToFixed(year, 1, 1), 1);
         std::vector<Moment> events{first};
         while (events.back() < first + 365) events.push_back(JumpLunarEvent(events.back(), 1));
         for (std::size_t i = 1; i < events.size(); ++i) {
@@ -37,49 +34,18 @@ TEST(LunarSearches, WalkLeadsThroughTheEventsAndBack) {
     }
 }
 
-/// Every search moves in its direction, from anywhere and from the event itself, and finds the event next to it.
-TEST(LunarSearches, FindTheNeighbour) {
-    constexpr double anomalistic = 27.55455;
-    const std::tuple<MenuEvent, double, double> rows[] = {
-        {MenuEvent::NewMoon, MeanSynodicMonth, 0.4},
-        {MenuEvent::FirstQuarterMoon, MeanSynodicMonth, 0.7},
-        {MenuEvent::FullMoon, MeanSynodicMonth, 0.4},
-        {MenuEvent::LastQuarterMoon, MeanSynodicMonth, 0.7},
-        {MenuEvent::FirstNewCrescent, MeanSynodicMonth, 2.2},
-        {MenuEvent::LastOldCrescent, MeanSynodicMonth, 2.2},
-        {MenuEvent::MeanNewMoon, MeanSynodicMonth, 1e-4},
-        {MenuEvent::MeanPerigee, anomalistic, 1e-3},
-        {MenuEvent::MeanApogee, anomalistic, 1e-3},
-        {MenuEvent::VedicTithi, 0.98, 0.2},
-        {MenuEvent::MoladMoment, 29.530594, 1e-6},
-    };
-    Locale = PresetLocale("Jerusalem");
-    for (const auto& [event, period, play] : rows) {
-        for (double from = GregorianToFixed(1700, 1, 1) + 0.3; from < GregorianToFixed(2300, 1, 1); from += 9777.7) {
-            const Moment next = Jump(event, from, 1);
-            const Moment afterIt = Jump(event, next, 1);
-            ASSERT_GT(next, from) << static_cast<int>(event);
-            ASSERT_NEAR(afterIt - next, period, play) << static_cast<int>(event) << ' ' << from;
-            ASSERT_NEAR(Jump(event, afterIt, -1), next, 2e-4) << static_cast<int>(event) << ' ' << from;
-            ASSERT_NEAR(Jump(event, next + 0.4, -1), next, 2e-4) << static_cast<int>(event);
-        }
-    }
-}
-
 /// In a northern summer there are months without a crescent: the searches pass over them, and beep where none is left.
 TEST(LunarSearches, PassOverMonthsWithoutACrescent) {
     Desk desk;
     Locale = MakeLocale("Far north", "", 71, 25, 0);
     const Moment june = GregorianToFixed(2024, 6, 1);
-    const Moment found = Jump(MenuEvent::FirstNewCrescent, june, 1);
-    EXPECT_GT(found, june + 40);
-    EXPECT_LT(found, june + 300);
+    const Moment found = FindEventSearch(MenuEvent::FirstNewCrescent)->jump(june, 1);
+    EXPECT_NEAR(found, june + 170, 130);
     Locale = MakeLocale("Pole", "", 90, 0, 0);
     for (const Moment from : {june, june + 180}) {
         for (const int direction : {-1, 1}) {
             const Moment event = JumpLunarEvent(from, direction);
-            EXPECT_GT((event - from) * direction, 0);
-            EXPECT_LT(std::fabs(event - from), 16);
+            EXPECT_NEAR((event - from) * direction, 8, 8);
         }
     }
 }

@@ -1,14 +1,10 @@
 #include "app/stored_settings.h"
 
 #include "astro/timescales.h"
-#include "core/moment.h"
 #include "core/settings_text.h"
-#include "core/text.h"
-#include "desk.h"
+#include "desk_fixture.h"
 #include "hebrew/hebrew_options.h"
 #include "locale/presets.h"
-
-#include <gtest/gtest.h>
 
 #include <array>
 #include <map>
@@ -62,8 +58,7 @@ TEST(StoredSettings, ComeBackAsTheyWereSaved) {
     EXPECT_TRUE(DeltaTDisabled);
     EXPECT_EQ(Locale, PresetLocale("Tehran"));
     EXPECT_FALSE(desk.program.timeAstro.fields.DawnDusk.visible);
-    desk.Obey("menu MenuExit");
-    StoredSettings& saved = desk.desktop.settings.flushed;
+    StoredSettings saved = LeftBy(desk);
     for (const Row& row : rows) EXPECT_EQ(TextOf(saved, row), row[2]) << row[0] << "/" << row[1];
     EXPECT_EQ(saved["Horvanta-UDLs"]["Later"]["Key"], "kept");
 }
@@ -75,8 +70,7 @@ TEST(StoredSettings, TakeDefaultsForDamage) {
         StoredSettings empty;
         empty["Horvanta"]["Events"]["Top"] = "0";
         Desk desk(empty);
-        desk.Obey("menu MenuExit");
-        defaults = desk.desktop.settings.flushed;
+        defaults = LeftBy(desk);
     }
     for (const char* damage : {"", "beige", "1e300", "-99999999999", "\x01\xff"}) {
         for (const Row& row : rows) {
@@ -151,8 +145,7 @@ TEST(StoredSettings, KeepTheDateUnderANumberingOfOnesOwn) {
         Desk desk(AllRows());
         desk.program.options.SetFixedDayNumberingOption(1);
         ChangeFixedDayEpoch(GregorianEpoch + 730485, 0.5, "mine");
-        desk.Obey("menu MenuExit");
-        left = desk.desktop.settings.flushed;
+        left = LeftBy(desk);
     }
     const Desk desk(left);
     EXPECT_EQ(GregorianEpoch, -730484);
@@ -172,8 +165,7 @@ TEST(StoredSettings, TellTheNumberingByTheRowsThatCanBeRead) {
         {
             Desk desk(left);
             desk.program.options.SetFixedDayNumberingOption(option);
-            desk.Obey("menu MenuExit");
-            left = desk.desktop.settings.flushed;
+            left = LeftBy(desk);
         }
         const double first = GregorianEpoch;
         const double value = FixedEpochValue;

@@ -61,33 +61,9 @@ TEST(Easter, UniformEasterIsTheProposedOne) {
     EXPECT_EQ(AstronomicalPaschalMoon(2024) - GregorianEpoch, before);
 }
 
-TEST(Easter, DaysAreNamedByTheirDistance) {
-    constexpr double usaSince = 648490;
-    const FixedDay easter = GregorianEpoch + usaSince + 100;
-    constexpr std::tuple<int, bool, bool, const char*> rows[] = {
-        {-63, false, false, "Septuagesima Sunday"},
-        {-21, false, false, "UK Mothering Sunday"},
-        {0, true, false, "Orthodox Easter"},
-        {0, true, true, "Uniform Easter"},
-        {63, false, false, "Corpus Christi (USA Catholics)"},
-        {64, false, false, ""},
-    };
-    for (const auto& [days, isOrthodox, isUniform, name] : rows) {
-        EXPECT_EQ(MovableChristianHoliday(easter + days + 0.75, easter, isOrthodox, isUniform), name) << days;
-    }
-    const FixedDay earlier = GregorianEpoch + usaSince - 61;
-    EXPECT_EQ(MovableChristianHoliday(earlier + 60, earlier, false, false), "Corpus Christi");
-    easter::options.UniformEaster = true;
-    EXPECT_EQ(MovableChristianHoliday(easter, easter, true, false), "Uniform Easter");
-}
-
 TEST(Easter, QuartaneEastersFollowTheLeapRule) {
     using namespace quartane;
-    struct Row {
-        const char* key;
-        FixedDay (*easterOf)(std::int32_t year);
-    };
-    const Row rows[] = {
+    const std::pair<const char*, FixedDay (*)(std::int32_t year)> rows[] = {
         {"ISO", [](std::int32_t year) { return EasterSunday(year, false); }},
         {"LANEY", [](std::int32_t year) { return EasterSunday(year, true); }},
     };
@@ -107,12 +83,8 @@ TEST(Easter, QuartaneEastersFollowTheLeapRule) {
 
 /// From every day of some years the jump leads to the nearest such day beyond, and back past it.
 TEST(Easter, JumpsLeadToTheNextAndToThePreviousOne) {
-    struct Row {
-        const char* name;
-        Moment (*jump)(Moment from, int direction);
-        std::int32_t first, last;  ///< Gregorian years.
-    };
-    constexpr Row rows[] = {
+    // The years are Gregorian.
+    constexpr std::tuple<const char*, Moment (*)(Moment from, int direction), std::int32_t, std::int32_t> rows[] = {
         {"Western about year 0", JumpEaster, -2, 2},
         {"Uniform", JumpUniformEaster, 2020, 2024},
         {"Orthodox about year 1", JumpOrthoEaster, -2, 2},

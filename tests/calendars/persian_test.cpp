@@ -34,15 +34,10 @@ TEST(Persian, TheSunPassesTheEquinoxBeforeTheNoonOfTheNewYear) {
     }
 }
 
-TEST(Persian, RememberedYearsFollowDeltaT) {
-    const Desk desk;
+TEST(Persian, HasNoYear0) {
     EXPECT_EQ(PersianDateString(FixedToPersianDate(UnixEpoch)), "11 Dey 1348 PE");
     EXPECT_EQ(PersianDateString(FixedToPersianDate(PersianEpoch - 1.0)), "30 Esfand -1 BPE");
     EXPECT_EQ(persian::Norouz(0), persian::Norouz(1));
-    const FixedDay slowed = persian::Norouz(5);
-    SetDeltaTDisabled(true);
-    EXPECT_EQ(persian::Norouz(5), slowed + 1);
-    SetDeltaTDisabled(false);
 }
 
 using PersianWindowTest = DeskTest;

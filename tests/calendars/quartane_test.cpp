@@ -184,11 +184,7 @@ TEST_F(Quartane, NewYearMomentsAreKnownToATenthOfADay) {
 /// Each option alone: a day of the leap week of 2009, one of early 2009, and one where a cycle of 400 years has its
 /// middle.
 TEST_F(Quartane, EachOptionMovesTheDate) {
-    struct Row {
-        Options chosen;
-        const char *leapWeek, *february, *middle;
-    };
-    const Row rows[] = {
+    const std::tuple<Options, const char*, const char*, const char*> rows[] = {
         {{}, "Thu, Dec 32, 2009", "Mon, Feb 8, 2009", "Thu, Jan 4, 201"},
         {{.LeapRuleKey = "11/62"}, "Thu, Jan 4, 2010", "Mon, Feb 8, 2009", "Thu, Jan 4, 201"},
         {{.LeapRuleKey = "71/400"}, "Thu, Dec 32, 2009", "Mon, Feb 8, 2009", "Thu, Dec 32, 200"},
@@ -200,11 +196,11 @@ TEST_F(Quartane, EachOptionMovesTheDate) {
         {{.UseZov454 = true}, "Thu, Zov 4, 2009", "Mon, Feb 8, 2009", "Thu, Jan 4, 201"},
         {{.Qua454 = false, .UseZov010 = false}, "Thu, Dec 34, 2009", "Mon, Feb 6, 2009", "Thu, Jan 4, 201"},
     };
-    for (const Row& row : rows) {
-        options = row.chosen;
-        EXPECT_EQ(FixedToQuaShortDate(GregorianToFixed(2009, 12, 31) + 0.5), row.leapWeek);
-        EXPECT_EQ(FixedToQuaShortDate(GregorianToFixed(2009, 2, 2)), row.february) << row.leapWeek;
-        EXPECT_EQ(FixedToQuaShortDate(GregorianToFixed(201, 1, 1)), row.middle) << row.leapWeek;
+    for (const auto& [chosen, leapWeek, february, middle] : rows) {
+        options = chosen;
+        EXPECT_EQ(FixedToQuaShortDate(GregorianToFixed(2009, 12, 31) + 0.5), leapWeek);
+        EXPECT_EQ(FixedToQuaShortDate(GregorianToFixed(2009, 2, 2)), february) << leapWeek;
+        EXPECT_EQ(FixedToQuaShortDate(GregorianToFixed(201, 1, 1)), middle) << leapWeek;
     }
 }
 
@@ -242,6 +238,15 @@ TEST_F(Quartane, KeepsTheRuleAtSeparators) {
     EXPECT_EQ(LeapChoices()[9], "ISOalt = Start on Wednesday after ISO new year 71/400");
 }
 
+TEST_F(Quartane, TakesAnyTextForItsRule) {
+    for (const char* key : {"100000/100000", "1/2/3", "/", "", "?"}) {
+        options.LeapRuleKey = key;
+        EXPECT_EQ(FixedToQuaDate(QuaNewYear(2024)).year, 2024) << key;
+        EXPECT_EQ(Rule().CycleLength, key == std::string("100000/100000") ? 100'000 : 293) << key;
+        EXPECT_FALSE(LeapRuleExplanation().empty() || LeapRuleMethod(true).empty()) << key;
+    }
+}
+
 TEST_F(Quartane, JumpsToItsEvents) {
     EXPECT_EQ(Calendar.ToFixed(2008, 13, 1), QuaNewYear(2009) - 7);  // no leap week: falls back by one
     const FixedDay leapWeek = QuaNewYear(2010) - 7;
@@ -255,31 +260,14 @@ TEST_F(Quartane, JumpsToItsEvents) {
     EXPECT_EQ(JumpQuaCycle(cycle, -1), cycle - 107016);
     for (const std::string& key : Keys()) {  // there and back over four new years
         options.LeapRuleKey = key;
-        Moment moment = QuaNewYear(2024) + 200;
-        for (const int direction : {1, 1, -1, -1}) {
-            const Moment next = JumpNYmoment(moment, direction);
-            EXPECT_NEAR((next - moment) * direction, moment == QuaNewYear(2024) + 200 ? 165 : 365, 8) << key;
-            moment = next;
-        }
+        const Moment next = JumpNYmoment(QuaNewYear(2024) + 200, 1);
+        const Moment second = JumpNYmoment(next, 1);
+        EXPECT_NEAR(next - QuaNewYear(2024), 365, 8) << key;
+        EXPECT_NEAR(second - next, 365, 8) << key;
+        EXPECT_NEAR(JumpNYmoment(second, -1), next, 1e-3) << key;
     }
     options.LeapRuleKey = "RAY";
     EXPECT_EQ(JumpQuaCycle(cycle, 1), NeverMoment);
-}
-
-TEST_F(Quartane, SurvivesWhatNoOneAsksFor) {
-    for (const char* key : {"52/293", "100000/100000", "1/2/3", "/", "", "?", "ISO", "NE80", "MOY", "LANEY"}) {
-        options.LeapRuleKey = key;
-        for (const std::int32_t n :
-             {std::numeric_limits<std::int32_t>::min(), std::numeric_limits<std::int32_t>::max()}) {
-            const QuaDate date = FixedToQuaDate(n);
-            EXPECT_TRUE(date.month >= 1 && date.month <= 13) << key;
-            DaysInMonth(n, n);
-            SetKoffset(n);
-            isQuaLeapYear(n);
-        }
-        EXPECT_FALSE(LeapRuleExplanation().empty() || LeapRuleMethod(true).empty());
-        JumpLeapWeek(1000, 0);
-    }
 }
 
 }  // namespace

@@ -17,12 +17,10 @@
 
 using namespace horvanta;
 
-class ControlsTest final : public QObject {
+class ControlsTest final : public TestOfProgram {
     Q_OBJECT
 
   private Q_SLOTS:
-    void init() { settings_.emplace(); }
-
     void everyControlHasItsWidgetAndEveryWidgetItsControl() {
         Session session;
         std::vector<Form*> forms = session.program.Forms();
@@ -41,6 +39,7 @@ class ControlsTest final : public QObject {
                 QVERIFY2(widget, control->name.c_str());
                 QVERIFY2(MakeFace(*control, *widget), control->name.c_str());
                 QVERIFY2(!widget->accessibleName().isEmpty(), control->name.c_str());
+                QVERIFY2(widget->accessibleName() != QStringLiteral("Dummy"), form->name.c_str());
                 for (const auto* part : widget->findChildren<QLabel*>()) {
                     QVERIFY(part->isHidden() || !part->accessibleName().isEmpty());
                 }
@@ -55,23 +54,27 @@ class ControlsTest final : public QObject {
         Session session;
         auto* field = session.Find<QLineEdit>("FixedDayNum");
         QVERIFY(field->hasFocus());
-        field->selectAll();
-        QTest::keyClicks(field, QStringLiteral("8415.5"));
-        session.Press(Qt::Key_Return);
-        QCOMPARE(DisplayedMoment, 8415.5);
+        const auto typeAndDo = [&](const char* text, const std::function<void()>& act) {
+            field->setFocus();
+            field->selectAll();
+            QTest::keyClicks(field, QString::fromLatin1(text));
+            act();
+            QCoreApplication::processEvents();
+            return DisplayedMoment;
+        };
+        const auto press = [&](Qt::Key key) { return [&session, key] { session.Press(key); }; };
+        QCOMPARE(typeAndDo("8415.5", press(Qt::Key_Return)), 8415.5);
         QCOMPARE(session.Find<QLabel>("GregorianDate")->text(), QStringLiteral("Monday, January 15, 2024 "));
-
-        field->selectAll();
-        QTest::keyClicks(field, QStringLiteral("12x"));
-        QTest::mouseClick(session.Find<QToolButton>("NextUp"), Qt::LeftButton);
-        QCOMPARE(DisplayedMoment, 8416);
+        QCOMPARE(typeAndDo("12x", [&] { session.Find<QToolButton>("NextUp")->click(); }), 8416);
         QCOMPARE(field->text(), QStringLiteral("8416"));
-
-        field->setFocus();
-        field->selectAll();
-        QTest::keyClicks(field, QStringLiteral("1000"));
-        session.Find<QPushButton>("isoInfo")->setFocus();
-        QCOMPARE(DisplayedMoment, 1000);
+        QCOMPARE(typeAndDo("500", [&] { session.Trigger("Save This Moment"); }), 500);
+        QCOMPARE(SavedMoment, 500);
+        QCOMPARE(typeAndDo("1000", press(Qt::Key_Up)), 1001);
+        QCOMPARE(typeAndDo("7-abc", press(Qt::Key_Escape)), 1001);
+        QCOMPARE(field->text(), QStringLiteral("1001"));
+        session.Press(Qt::Key_Escape);
+        QCOMPARE(DisplayedMoment, Today());
+        QCOMPARE(typeAndDo("1000", [&] { session.Find<QPushButton>("isoInfo")->setFocus(); }), 1000);
     }
 
     void fieldsAndBoxesTakeTheirOwnKeysAndClicks() {
@@ -84,9 +87,8 @@ class ControlsTest final : public QObject {
         QCOMPARE(name->text(), QStringLiteral("Ur - of = the +"));
         auto* degrees = session.Find<QLineEdit>("LatDeg");
         degrees->setFocus();
-        for (const Qt::Key key : {Qt::Key_Plus, Qt::Key_Equal, Qt::Key_PageUp, Qt::Key_Up, Qt::Key_Minus}) {
+        for (const auto key : {Qt::Key_Plus, Qt::Key_Equal, Qt::Key_PageUp, Qt::Key_Up, Qt::Key_Minus})
             session.Press(key);
-        }
         QCOMPARE(degrees->text(), QStringLiteral("12"));
         auto* elevation = session.Find<QLineEdit>("Elevation");
         session.Press(Qt::Key_V, Qt::AltModifier);
@@ -113,12 +115,7 @@ class ControlsTest final : public QObject {
 
     void aClickedCheckBoxShowsWhatTheProgramMadeOfIt() {
         Session session;
-        struct Row {
-            const char* name;
-            std::function<bool()> option;
-            Qt::CheckState before;
-        };
-        const Row rows[] = {
+        const std::tuple<const char*, std::function<bool()>, Qt::CheckState> rows[] = {
             {"UseElevation", [] { return horizon::options.UseElevation; }, Qt::Checked},
             {"ShowDawnDusk", [] { return time_fields::options.ShowsDawnDusk; }, Qt::Checked},
             {"UseDeltaT", [] { return !DeltaTDisabled; }, Qt::Checked},
@@ -128,35 +125,18 @@ class ControlsTest final : public QObject {
         CloseNextInformation();
         session.program.frame.Presets[1].Click();  // a place with an elevation and daylight saving time
         session.frame().Draw();
-        for (const Row& row : rows) {
-            auto* box = session.Find<QCheckBox>(row.name);
-            QCOMPARE(box->checkState(), row.before);
-            const bool closesBox = QByteArray("UseDeltaT") == row.name;
-            if (closesBox) AnswerNextBox(QMessageBox::Ok);
+        for (const auto& [name, option, before] : rows) {
+            auto* box = session.Find<QCheckBox>(name);
+            QCOMPARE(box->checkState(), before);
+            if (QByteArray("UseDeltaT") == name) AnswerNextBox(QMessageBox::Ok);
             box->setFocus();
             session.Press(Qt::Key_Space);
-            QVERIFY(!row.option());
+            QVERIFY(!option());
             QCOMPARE(box->checkState(), Qt::Unchecked);
             session.Press(Qt::Key_Return);
-            QVERIFY(row.option());
+            QVERIFY(option());
             QCOMPARE(box->checkState(), Qt::Checked);
         }
-    }
-
-    void coloursComeAndGo() {
-        Session session;
-        auto* box = session.Find<QCheckBox>("AdjustDST");
-        const auto corner = [box] { return box->grab().toImage().pixelColor(box->width() - 1, 0); };
-        const QPalette own = box->palette();
-        const QColor background = corner();
-        CloseNextInformation();
-        session.program.frame.Presets[1].Click();
-        session.frame().Draw();
-        const QColor text = box->palette().color(QPalette::WindowText);
-        QVERIFY(text != own.color(QPalette::WindowText));
-        QCOMPARE(corner(), background);
-        box->click();
-        QCOMPARE(box->palette(), own);
     }
 
     void panelsLineUpAndAClickedOneIsCopied() {
@@ -173,9 +153,6 @@ class ControlsTest final : public QObject {
         QTest::mouseClick(legends[3], Qt::LeftButton);
         QCOMPARE(QApplication::clipboard()->text(), legends[3]->text() + QStringLiteral(": ") + panels[3]->text());
     }
-
-  private:
-    std::optional<SettingsFolder> settings_;
 };
 
 QTEST_MAIN(ControlsTest)

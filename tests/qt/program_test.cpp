@@ -24,12 +24,10 @@ class Browser final : public QObject {
 
 }  // namespace
 
-class ProgramTest final : public QObject {
+class ProgramTest final : public TestOfProgram {
     Q_OBJECT
 
   private Q_SLOTS:
-    void init() { settings_.emplace(); }
-
     void aMapOpensWithItsAddressAsItIs() {
         Session session;
         Browser browser;
@@ -52,7 +50,7 @@ class ProgramTest final : public QObject {
 
     void theProgramStartsOnAnySettingsFile() {
         QFETCH(QByteArray, bytes);
-        settings_->Write(bytes);
+        Put(SettingsPath(), bytes);
         {
             Session session;
             QCOMPARE(DisplayedMoment, Today());
@@ -60,13 +58,13 @@ class ProgramTest final : public QObject {
             QVERIFY(QRect(0, 0, 1400, 900).intersects(session.Window(session.program.gregorian.form)->geometry()));
             session.program.Form_Unload();
         }
-        QVERIFY(settings_->Read().contains("Launch=OK"));
+        QVERIFY(Settings().contains("Launch=OK"));
     }
 
     void aReadOnlySettingsFileIsReadAndLeftAlone() {
         const QByteArray kept = "[Item]\nRD=1000\nSD=\"2000,5\"\n[TimeAstro]\nChk=False\nLeft=150,5\n";
-        settings_->Write(kept);
-        QVERIFY(QFile::setPermissions(settings_->Path(), QFileDevice::ReadOwner));
+        Put(SettingsPath(), kept);
+        QVERIFY(QFile::setPermissions(SettingsPath(), QFileDevice::ReadOwner));
         {
             Session session;
             QCOMPARE(DisplayedMoment, 1000);
@@ -75,26 +73,26 @@ class ProgramTest final : public QObject {
             AnswerNextBox(QMessageBox::Yes);  // to end all the same
             QVERIFY(session.program.Form_Unload());
         }
-        QCOMPARE(settings_->Read(), kept);
+        QCOMPARE(Settings(), kept);
     }
 
     void aSecondStartEndsAndTheFirstGoesOn() {
         QProcess first;
         first.start(QStringLiteral(HORVANTA_PROGRAM), {});
-        QTRY_VERIFY_WITH_TIMEOUT(settings_->Read().contains("Launch=OK"), 20000);
+        QTRY_VERIFY_WITH_TIMEOUT(Settings().contains("Launch=OK"), 20000);
         QProcess second;
         second.start(QStringLiteral(HORVANTA_PROGRAM), {});
         QVERIFY(second.waitForFinished(10000));
         QCOMPARE(second.exitCode(), 0);
         QCOMPARE(first.state(), QProcess::Running);
-        QVERIFY(settings_->Read().contains("Launch=OK"));
+        QVERIFY(Settings().contains("Launch=OK"));
 
         first.kill();
         first.waitForFinished();
-        QFile::remove(settings_->Path());
+        QFile::remove(SettingsPath());
         QProcess third;  // the lock of a program that was killed holds nobody up
         third.start(QStringLiteral(HORVANTA_PROGRAM), {});
-        QTRY_VERIFY_WITH_TIMEOUT(settings_->Read().contains("Launch=OK"), 20000);
+        QTRY_VERIFY_WITH_TIMEOUT(Settings().contains("Launch=OK"), 20000);
         third.kill();
         third.waitForFinished();
     }
@@ -102,17 +100,14 @@ class ProgramTest final : public QObject {
     void aProgramThatIsTerminatedSavesItsSettings() {
         QProcess program;
         program.start(QStringLiteral(HORVANTA_PROGRAM), {});
-        QTRY_VERIFY_WITH_TIMEOUT(settings_->Read().contains("Launch=OK"), 20000);
-        QVERIFY(!settings_->Read().contains("TimeAstro/"));
+        QTRY_VERIFY_WITH_TIMEOUT(Settings().contains("Launch=OK"), 20000);
+        QVERIFY(!Settings().contains("TimeAstro/"));
         program.terminate();
         QVERIFY(program.waitForFinished(10000));
         QCOMPARE(program.exitStatus(), QProcess::NormalExit);
-        QVERIFY(settings_->Read().contains("TimeAstro/"));
-        QVERIFY(settings_->Read().contains("Launch=OK"));
+        QVERIFY(Settings().contains("TimeAstro/"));
+        QVERIFY(Settings().contains("Launch=OK"));
     }
-
-  private:
-    std::optional<SettingsFolder> settings_;
 };
 
 QTEST_MAIN(ProgramTest)

@@ -39,52 +39,37 @@ QRegion Seen(const QMdiSubWindow& window, const QMdiArea& area) {
 }
 
 void TakeContextMenu(const QString& caption) {
-    auto* timer = new QTimer(qApp);
-    QObject::connect(timer, &QTimer::timeout, timer, [timer, caption] {
-        auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
-        if (!menu) return;
-        timer->deleteLater();
-        timer->stop();
-        for (QAction* action : menu->actions()) {
+    DealWithNext<QMenu>([caption](QMenu& menu) {
+        for (QAction* action : menu.actions()) {
             if (action->text().remove(u'&') != caption) continue;
-            menu->setActiveAction(action);
-            QTest::keyClick(menu, Qt::Key_Return);
-            return;
+            menu.setActiveAction(action);
+            return QTest::keyClick(&menu, Qt::Key_Return);
         }
-        menu->close();
+        menu.close();
     });
-    timer->start(1);
 }
 
 }  // namespace
 
-class ReachTest final : public QObject {
+class ReachTest final : public TestOfProgram {
     Q_OBJECT
 
   private Q_SLOTS:
-    void init() {
-        settings_.emplace();
-        QGuiApplication::clipboard()->clear();
-    }
 
     void theFirstStartHidesNoTitleAndNoMainDate_data() {
         QTest::addColumn<QSize>("size");
         QTest::addColumn<double>("fontScale");
         QTest::newRow("as the screen is") << QSize() << 1.0;
-        QTest::newRow("tight") << QSize(933, 600) << 1.0;
-        QTest::newRow("small") << QSize(1366, 740) << 1.0;
-        QTest::newRow("medium") << QSize(1400, 870) << 1.0;
-        QTest::newRow("large") << QSize(1920, 1050) << 1.0;
+        for (const QSize size : {QSize(933, 600), QSize(1366, 740), QSize(1400, 870), QSize(1920, 1050)}) {
+            QTest::addRow("width %d", size.width()) << size << 1.0;
+        }
         QTest::newRow("large font") << QSize(1400, 870) << 1.5;
     }
 
     void theFirstStartHidesNoTitleAndNoMainDate() {
         QFETCH(QSize, size);
         QFETCH(double, fontScale);
-        const QFont standard = QApplication::font();
-        QFont scaled = standard;
-        scaled.setPointSizeF(standard.pointSizeF() * fontScale);
-        QApplication::setFont(scaled);
+        const ScaledFont font(fontScale);
         Session session(size);
         session.frame().Draw();
         const auto& area = *session.frame().findChild<QMdiArea*>();
@@ -93,7 +78,6 @@ class ReachTest final : public QObject {
             if (!form->visible) continue;
             QVERIFY2((Needed(window) - Seen(window, area)).isEmpty(), form->name.c_str());
         }
-        QApplication::setFont(standard);
     }
 
     void anItemRaisesACoveredWindow() {
@@ -101,7 +85,7 @@ class ReachTest final : public QObject {
         const QMdiSubWindow* gregorian = session.Window(session.program.gregorian.form);
         QMdiSubWindow* time = session.Window(session.program.timeAstro.form);
         time->move(gregorian->pos());
-        const auto choose = [&] { Trigger(session, "Gregorian and ISO Date"); };
+        const auto choose = [&] { session.Trigger("Gregorian and ISO Date"); };
         choose();
         QVERIFY(gregorian->isVisible());
         const auto& area = *session.frame().findChild<QMdiArea*>();
@@ -116,7 +100,7 @@ class ReachTest final : public QObject {
     void arrangingLeavesNothingCovered() {
         Session session;
         for (Form* form : session.program.Forms()) session.Window(*form)->move(40, 40);
-        Trigger(session, "Arrange");
+        session.Trigger("Arrange");
         QRegion together;
         for (const Form* form : session.program.Forms()) {
             const QRect place = session.Window(*form)->geometry();
@@ -137,9 +121,7 @@ class ReachTest final : public QObject {
         const int height = session.Window(session.program.monthly.form)->height();
         int heights = 0;
         for (int month = 0; month < 12; ++month) {
-            DisplayedMoment += 30;
-            UpdateStatus();
-            session.frame().Draw();
+            session.Show(DisplayedMoment + 30);
             heights += session.Window(session.program.monthly.form)->height() != height;
             for (const auto& [form, place] : places) QCOMPARE(session.Window(*form)->pos(), place);
         }
@@ -169,27 +151,9 @@ class ReachTest final : public QObject {
             QVERIFY2(title.boundingRect().width() >= 60, form->name.c_str());
         }
         session.program.SavePreferences_Click();
-        QVERIFY(SettingsFolder::Read().contains("Left=" + QByteArray::number(month->x() * 15)));
+        QVERIFY(Settings().contains("Left=" + QByteArray::number(month->x() * 15)));
         session.frame().resize(1400, 900);
         QCOMPARE(month->pos(), before);
-    }
-
-    void typingIsTakenByACommandAndGivenUpByEscape() {
-        Session session;
-        auto* number = session.Find<QLineEdit>("FixedDayNum");
-        QTest::keyClicks(number, QStringLiteral("1000"));
-        session.Press(Qt::Key_Up);
-        QCOMPARE(number->text(), QStringLiteral("1001"));
-        QTest::keyClicks(number, QStringLiteral("500"));
-        Trigger(session, "Save This Moment");
-        QCOMPARE(SavedMoment, 500.0);
-        QTest::keyClicks(number, QStringLiteral("7-abc"));
-        QCOMPARE(number->text(), QStringLiteral("7-abc"));
-        session.Press(Qt::Key_Escape);
-        QCOMPARE(number->text(), QStringLiteral("500"));
-        QCOMPARE(DisplayedMoment, 500.0);
-        session.Press(Qt::Key_Escape);
-        QCOMPARE(DisplayedMoment, Today());
     }
 
     /// Until the user acts again.
@@ -210,6 +174,7 @@ class ReachTest final : public QObject {
     void informationIsReadInAWindow() {
         Session session;
         QString shown;
+        QGuiApplication::clipboard()->clear();
         for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Escape}) {
             DealWithNext<InformationBox>([&](InformationBox& box) {
                 shown = box.findChild<QPlainTextEdit*>()->toPlainText();
@@ -220,9 +185,7 @@ class ReachTest final : public QObject {
             QVERIFY(QGuiApplication::clipboard()->text().isEmpty());
         }
         DealWithNext<InformationBox>([](InformationBox& box) {
-            const auto buttons = box.findChildren<QPushButton*>();
-            QCOMPARE(buttons.size(), 2);
-            for (QPushButton* button : buttons) {
+            for (QPushButton* button : box.findChildren<QPushButton*>()) {
                 if (button->text() == QStringLiteral("&Copy")) button->click();
             }
         });
@@ -232,42 +195,38 @@ class ReachTest final : public QObject {
 
     void theMenuKeyReachesEveryValue() {
         Session session;
-        session.Find<QPushButton>("isoInfo")->setFocus();
         const QString iso = session.Find<QLabel>("TheISOdate")->text();
-        TakeContextMenu(QStringLiteral("Copy ISO date (International Organization for Standard…: ") + iso.trimmed());
-        QContextMenuEvent asked(QContextMenuEvent::Keyboard, QPoint(), QPoint());
-        QApplication::sendEvent(QApplication::focusWidget(), &asked);
-        QCOMPARE(QGuiApplication::clipboard()->text(), iso);
-        QGuiApplication::clipboard()->clear();
-        session.Find<QPushButton>("isoInfo")->setFocus();
-        TakeContextMenu(QStringLiteral("Copy ISO date (International Organization for Standard…: ") + iso.trimmed());
-        session.Press(Qt::Key_F10, Qt::ShiftModifier);
-        QCOMPARE(QGuiApplication::clipboard()->text(), iso);
-        TakeContextMenu(QStringLiteral("Copy"));
         auto* date = session.Find<QLabel>("GregorianDate");
-        QContextMenuEvent clicked(QContextMenuEvent::Mouse, QPoint(5, 5), date->mapToGlobal(QPoint(5, 5)));
-        QApplication::sendEvent(date, &clicked);
-        QCOMPARE(QGuiApplication::clipboard()->text(), date->text());
+        QContextMenuEvent byKey(QContextMenuEvent::Keyboard, QPoint(), QPoint());
+        QContextMenuEvent byMouse(QContextMenuEvent::Mouse, QPoint(5, 5), date->mapToGlobal(QPoint(5, 5)));
+        const auto copiedBy = [&](const QString& caption, const std::function<void()>& act) {
+            QGuiApplication::clipboard()->clear();
+            session.Find<QPushButton>("isoInfo")->setFocus();
+            TakeContextMenu(caption);
+            act();
+            return QGuiApplication::clipboard()->text();
+        };
+        const QString copyIso =
+            QStringLiteral("Copy ISO date (International Organization for Standard…: ") + iso.trimmed();
+        QCOMPARE(copiedBy(copyIso, [&] { QApplication::sendEvent(QApplication::focusWidget(), &byKey); }), iso);
+        QCOMPARE(copiedBy(copyIso, [&] { session.Press(Qt::Key_F10, Qt::ShiftModifier); }), iso);
+        QCOMPARE(copiedBy(QStringLiteral("Copy"), [&] { QApplication::sendEvent(date, &byMouse); }), date->text());
     }
 
     void anArrowPressRenamesWhatChangedAndNothingElse() {
         Session session;
         session.Press(Qt::Key_Up);
-        struct Shown {
-            QString text;
-            QString tip;
-            QString name;
-        };
-        std::map<const QLabel*, Shown> before;
+        std::map<const QLabel*, std::pair<QString, QString>> before;
+        const auto shown = [](const QLabel* label) { return label->text() + u'\n' + label->toolTip(); };
         const auto labels = session.frame().findChildren<QLabel*>();
-        for (const QLabel* label : labels) before[label] = {label->text(), label->toolTip(), label->accessibleName()};
+        for (const QLabel* label : labels) before[label] = {shown(label), label->accessibleName()};
         session.Press(Qt::Key_Up);
         int changed = 0;
         for (const QLabel* label : labels) {
-            const auto& [text, tip, name] = before[label];
-            const bool isChanged = label->text() != text || label->toolTip() != tip;
+            const bool isChanged = shown(label) != before[label].first;
             changed += isChanged;
-            QVERIFY2((label->accessibleName() != name) == isChanged, qPrintable(label->accessibleName()));
+            const bool isRenamed = label->accessibleName() != before[label].second;
+            QVERIFY2(isRenamed == isChanged, qPrintable(label->accessibleName()));
         }
         QVERIFY(changed > 5);
     }
@@ -304,16 +263,6 @@ class ReachTest final : public QObject {
             }
         }
     }
-
-  private:
-    static void Trigger(Session& session, const char* caption) {
-        for (QAction* action : session.frame().findChildren<QAction*>()) {
-            if (action->text().remove(u'&') == QString::fromLatin1(caption)) return action->trigger();
-        }
-        QFAIL(caption);
-    }
-
-    std::optional<SettingsFolder> settings_;
 };
 
 QTEST_MAIN(ReachTest)

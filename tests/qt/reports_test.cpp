@@ -8,8 +8,6 @@
 #include <QProgressBar>
 #include <QToolButton>
 
-#include <memory>
-
 using namespace horvanta;
 
 namespace {
@@ -25,15 +23,10 @@ void ChooseFile(const QString& name, int kind = 0) {
 
 }  // namespace
 
-class ReportsTest final : public QObject {
+class ReportsTest final : public TestOfProgram {
     Q_OBJECT
 
   private Q_SLOTS:
-    void init() {
-        settings_.emplace();
-        folder_ = std::make_unique<QTemporaryDir>();
-    }
-
     void aReportEndsInItsWindow() {
         Session session;
         QMainWindow& frame = session.frame();
@@ -74,9 +67,7 @@ class ReportsTest final : public QObject {
 
     void onlyCancelIsHeardWhileAReportRuns_data() {
         QTest::addColumn<int>("way");
-        QTest::newRow("button") << 0;
-        QTest::newRow("Esc") << 1;
-        QTest::newRow("close") << 2;
+        for (int way = 0; way < 3; ++way) QTest::addRow("way %d", way) << way;
     }
 
     void onlyCancelIsHeardWhileAReportRuns() {
@@ -106,16 +97,13 @@ class ReportsTest final : public QObject {
         session.frame().Draw();
         QVERIFY(!dialog->isVisible());
         QVERIFY(!QApplication::activeModalWidget());
-        QVERIFY(QDir(folder_->path()).isEmpty());
+        QVERIFY(QDir(folder_->path()).isEmpty(QDir::Files));
         QCOMPARE(DisplayedMoment, before);
         QVERIFY(session.frame().isVisible());
     }
 
     void theWindowsShowAllTheirText() {
-        const QFont standard = QApplication::font();
-        QFont scaled = standard;
-        scaled.setPointSizeF(standard.pointSizeF() * 1.5);
-        QApplication::setFont(scaled);
+        const ScaledFont font(1.5);
         Session session;
         session.program.reports.finished.ShowReportFinished(
             std::string(300, 'W'), "Exact Hebrew Calendar Full Cycle Weekday Frequencies",
@@ -134,14 +122,10 @@ class ReportsTest final : public QObject {
                 QVERIFY2(button->width() >= button->sizeHint().width(), qPrintable(button->text()));
             }
         }
-        QApplication::setFont(standard);
     }
 
   private:
     QString Path(const char* name) const { return folder_->filePath(QString::fromLatin1(name)); }
-
-    std::optional<SettingsFolder> settings_;
-    std::unique_ptr<QTemporaryDir> folder_;
 };
 
 QTEST_MAIN(ReportsTest)

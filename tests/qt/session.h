@@ -5,10 +5,12 @@
 #include "qt/information_box.h"
 #include "qt/qt_desktop.h"
 
+#include <QAction>
 #include <QApplication>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QFont>
 #include <QMdiSubWindow>
 #include <QMessageBox>
 #include <QPushButton>
@@ -19,27 +21,47 @@
 #include <functional>
 #include <optional>
 
-/// A place of its own for the settings of a test.
-class SettingsFolder {
+inline QByteArray BytesOf(const QString& path) {
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+inline void Put(const QString& path, const QByteArray& bytes) {
+    QDir().mkpath(QFileInfo(path).path());
+    QFile file(path);
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    file.write(bytes);
+}
+
+/// Each test has a folder of its own for its settings.
+class TestOfProgram : public QObject {
+    Q_OBJECT
+
+  protected:
+    static QString SettingsPath() { return horvanta::SettingsFile::PathOf(horvanta::ProgramSettings); }
+    static QByteArray Settings() { return BytesOf(SettingsPath()); }
+
+    std::optional<QTemporaryDir> folder_;
+
+  private Q_SLOTS:
+    void init() {
+        folder_.emplace();
+        qputenv("XDG_CONFIG_HOME", folder_->path().toUtf8());
+    }
+};
+
+/// The font of the program in another size, until the end of the block.
+class ScaledFont {
   public:
-    SettingsFolder() { qputenv("XDG_CONFIG_HOME", folder_.path().toUtf8()); }
-
-    static QString Path() { return horvanta::SettingsFile::PathOf(horvanta::ProgramSettings); }
-
-    static void Write(const QByteArray& bytes) {
-        QDir().mkpath(QFileInfo(Path()).path());
-        QFile file(Path());
-        QVERIFY(file.open(QIODevice::WriteOnly));
-        file.write(bytes);
+    explicit ScaledFont(double scale) {
+        QFont scaled = standard_;
+        scaled.setPointSizeF(standard_.pointSizeF() * scale);
+        QApplication::setFont(scaled);
     }
-
-    static QByteArray Read() {
-        QFile file(Path());
-        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-    }
+    ~ScaledFont() { QApplication::setFont(standard_); }
 
   private:
-    QTemporaryDir folder_;
+    const QFont standard_ = QApplication::font();
 };
 
 /// The whole program.
@@ -90,6 +112,20 @@ struct Session {
         QTest::keyClick(QApplication::focusWidget(), key, held);
     }
 
+    void Show(horvanta::Moment moment) {
+        horvanta::DisplayedMoment = moment;
+        horvanta::UpdateStatus();
+        frame().Draw();
+    }
+
+    /// Chooses a menu item.
+    void Trigger(const char* caption) {
+        for (QAction* action : frame().findChildren<QAction*>()) {
+            if (action->text().remove(u'&') == QString::fromLatin1(caption)) return action->trigger();
+        }
+        QFAIL(caption);
+    }
+
     horvanta::QtDesktop desktop;
     horvanta::Horvanta program;
 };
@@ -99,7 +135,8 @@ template <class Dialog>
 void DealWithNext(const std::function<void(Dialog&)>& deal) {
     auto* timer = new QTimer(qApp);
     QObject::connect(timer, &QTimer::timeout, timer, [timer, deal] {
-        auto* dialog = qobject_cast<Dialog*>(QApplication::activeModalWidget());
+        QWidget* popup = QApplication::activePopupWidget();
+        auto* dialog = qobject_cast<Dialog*>(popup ? popup : QApplication::activeModalWidget());
         if (!dialog) return;
         timer->stop();
         timer->deleteLater();

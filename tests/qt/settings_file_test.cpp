@@ -1,15 +1,10 @@
 #include "qt/settings_file.h"
 
-#include "qt/plain_text.h"
 #include "qt/private_file.h"
 #include "qt/single_instance.h"
+#include "session.h"
 
-#include <QDir>
 #include <QElapsedTimer>
-#include <QFile>
-#include <QFileInfo>
-#include <QTemporaryDir>
-#include <QTest>
 
 #include <atomic>
 #include <sys/resource.h>
@@ -20,25 +15,9 @@ using namespace horvanta;
 
 namespace {
 
-const QString& Path() {
-    static QString path;
-    path = SettingsFile::PathOf(ProgramSettings);
-    return path;
-}
+QString Path() { return SettingsFile::PathOf(ProgramSettings); }
 
 std::string PathText() { return Path().toStdString(); }
-
-QByteArray BytesOf(const QString& path) {
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
-
-void Put(const QString& path, const QByteArray& bytes) {
-    QDir().mkpath(QFileInfo(path).path());
-    QFile file(path);
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    file.write(bytes);
-}
 
 std::string Value(SettingsFile& settings, const char* key) {
     return settings.Read(ProgramSettings, "Item", key).value_or("none");
@@ -67,15 +46,10 @@ const QByteArray someSettings = "[Horvanta]\nEvents/Top=0\nItem/RD=1000\nProg/La
 
 }  // namespace
 
-class SettingsFileTest final : public QObject {
+class SettingsFileTest final : public TestOfProgram {
     Q_OBJECT
 
   private Q_SLOTS:
-    void init() {
-        folder_ = std::make_unique<QTemporaryDir>();
-        qputenv("XDG_CONFIG_HOME", folder_->path().toUtf8());
-    }
-
     void whatIsWrittenIsReadByTheNextAndByNobodyElse() {
         Put(Path(), someSettings);
         chmod(PathText().c_str(), 0644);
@@ -225,17 +199,15 @@ class SettingsFileTest final : public QObject {
 
     /// What a crash or another system left, or somebody put there.
     void noRemainsLockAnyoneOut() {
-        const char* commands[] = {"true",
-                                  "echo 1 >Horvanta.lock",
-                                  "head -c 99 /dev/urandom >Horvanta.lock",
-                                  ">Horvanta.lock",
-                                  "mkfifo Horvanta.lock",
-                                  "mkdir Horvanta.lock",
-                                  ">Horvanta.socket",
-                                  "mkfifo Horvanta.socket",
-                                  "ln -s /dev/zero Horvanta.lock"};
+        // clang-format off
+        const char* commands[] = {
+            "true", "echo 1 >Horvanta.lock", "head -c 99 /dev/urandom >Horvanta.lock", ">Horvanta.lock",
+            "mkfifo Horvanta.lock", "mkdir Horvanta.lock", ">Horvanta.socket", "mkfifo Horvanta.socket",
+            "ln -s /dev/zero Horvanta.lock",
+        };
+        // clang-format on
         for (const char* command : commands) {
-            init();
+            QVERIFY(QMetaObject::invokeMethod(this, "init"));
             QDir().mkpath(SettingsFile::Folder());
             const QString line = QStringLiteral("cd '%1' && %2");
             QCOMPARE(std::system(qPrintable(line.arg(SettingsFile::Folder(), QString::fromLatin1(command)))), 0);
@@ -246,15 +218,6 @@ class SettingsFileTest final : public QObject {
             QVERIFY2(time.elapsed() < 1000, command);
         }
     }
-
-    void namesAreReadAsText() {
-        QCOMPARE(PlainToolTip("a & b"), QStringLiteral("a & b"));
-        QVERIFY(PlainToolTip("<b>a</b><img src='x'>").contains(QStringLiteral("&lt;img src=")));
-        QCOMPARE(PlainTitle("a [*] b"), QStringLiteral("a [*][*] b"));
-    }
-
-  private:
-    std::unique_ptr<QTemporaryDir> folder_;
 };
 
 QTEST_GUILESS_MAIN(SettingsFileTest)

@@ -1,10 +1,7 @@
 #include "reports/report_road.h"
 
-#include "core/moment.h"
-#include "desk.h"
+#include "desk_fixture.h"
 #include "hebrew/hebrew_arithmetic.h"
-
-#include <gtest/gtest.h>
 
 #include <csignal>
 #include <filesystem>
@@ -19,7 +16,7 @@ namespace {
 namespace fs = std::filesystem;
 
 /// A folder of its own with an older report in it.
-class ReportRoadTest : public testing::Test {
+class ReportRoadTest : public DeskTest {
   protected:
     ReportRoadTest() {
         fs::remove_all(folder);
@@ -54,7 +51,6 @@ class ReportRoadTest : public testing::Test {
 
     const fs::path folder = fs::temp_directory_path() / ("horvanta-reports-" + std::to_string(getpid()));
     const fs::path file = folder / "a, b – ירושלים.csv";
-    Desk desk;
 };
 
 TEST_F(ReportRoadTest, EndsInAWindowThatDoesWhatItSays) {
@@ -64,14 +60,12 @@ TEST_F(ReportRoadTest, EndsInAWindowThatDoesWhatItSays) {
     EXPECT_EQ(DisplayedMoment, before);
     EXPECT_EQ(desk.Obey("click TimeAstro.NextUp"), "error: not in reach: TimeAstro.NextUp");
     EXPECT_EQ(desk.Obey("menu ReportOmer"), "error: not in reach: HorvantaMDI");
-    desk.Obey("click ReportFinished.LaunchButton");
-    desk.Obey("click ReportFinished.SelectButton");
+    Obey({"click ReportFinished.LaunchButton", "click ReportFinished.SelectButton"});
     EXPECT_EQ(desk.Obey("asked"), "open " + Quoted(file.string()) + "; select " + Quoted(file.string()));
     EXPECT_EQ(desk.desktop.focused, &desk.program.timeAstro.FixedDayNum);
 
     Make(file, "ListPostpone19years");
-    desk.Obey("click ReportFinished.CopyPathButton");
-    EXPECT_EQ(desk.Obey("asked"), "clipboard " + Quoted(file.string()));
+    EXPECT_EQ(AskedBy("click ReportFinished.CopyPathButton"), "clipboard " + Quoted(file.string()));
     Make(file, "ListPossibleWeekdayStats");
     EXPECT_EQ(desk.Obey("press Escape"), "ok");
     EXPECT_TRUE(Text(file).starts_with("\"Month\","));
@@ -81,8 +75,7 @@ TEST_F(ReportRoadTest, EndsInAWindowThatDoesWhatItSays) {
 }
 
 TEST_F(ReportRoadTest, CanBeGivenUpAllAlong) {
-    desk.Obey("answer cancel");
-    desk.Obey("menu ListPostpone1000years");
+    Obey({"answer cancel", "menu ListPostpone1000years"});
     ExpectNothingHappened();
     const Moment before = DisplayedMoment;
     for (const char* end : {"click Progress.CancelButton", "close Progress", "press Escape"}) {
@@ -165,11 +158,9 @@ TEST_F(ReportRoadTest, IsThereForDaysThatTheHebrewCalendarHas) {
     desk.Obey("close Hebrew");
     EXPECT_FALSE(isOffered());
     desk.Obey("menu HebrewCal");
-    DisplayedMoment = HebrewEpoch - 0.5;
-    UpdateStatus();
+    Show(HebrewEpoch - 0.5);
     EXPECT_FALSE(isOffered());
-    DisplayedMoment = HebrewEpoch;
-    UpdateStatus();
+    Show(HebrewEpoch);
     EXPECT_TRUE(isOffered());
 }
 

@@ -15,30 +15,25 @@ namespace horvanta {
 namespace {
 
 TEST(Desk, AnswersEveryLineWithOne) {
+    // clang-format off
     constexpr std::pair<const char*, const char*> rows[] = {
-        {"call GregorianToFixed 2024 1 15", "8415"},
-        {"call HoursToDays 2.4", "0.099999999999999992"},
-        {"call FormatTime never 0 false", "\"never\""},
-        {"call Floor never", "never"},
-        {"call ExtGCD 240 46", "divisor=2 x=-9 y=47"},
-        {"call MaxOf 1 3 2", "3"},
-        {"call ReplaceAll \"a b\" \" \" \"\\n\"", "\"a\\nb\""},
-        {"call Floor", "error: takes 1 arguments"},
+        {"call GregorianToFixed 2024 1 15", "8415"}, {"call HoursToDays 2.4", "0.099999999999999992"},
+        {"call FormatTime never 0 false", "\"never\""}, {"call Floor never", "never"},
+        {"call ExtGCD 240 46", "divisor=2 x=-9 y=47"}, {"call MaxOf 1 3 2", "3"},
+        {"call ReplaceAll \"a b\" \" \" \"\\n\"", "\"a\\nb\""}, {"call Floor", "error: takes 1 arguments"},
         {"call GCD 1.5 2", "error: not a whole number that fits: 1.5"},
-        {"call Nothing", "error: no such function: Nothing"},
-        {"call ReplaceAll \"a", "error: a quote is not closed"},
-        {"", "error: no such line: "},
-        {"set J2000 1", "error: can't be set: J2000"},
+        {"call Nothing", "error: no such function: Nothing"}, {"call ReplaceAll \"a", "error: a quote is not closed"},
+        {"", "error: no such line: "}, {"set J2000 1", "error: can't be set: J2000"},
         {"menu FileMenu", "error: no such menu item: FileMenu"},
         {"click Gregorian.Nothing", "error: no such control: Gregorian.Nothing"},
         {"click TimeAstro.JumpToPast 2", "error: no such control: TimeAstro.JumpToPast 2"},
         {"click TimeAstro.DawnDusk 10", "error: no such panel"},
         {"click TimeAstro.SunDecLabel", "error: nothing happens there"},
         {"type Gregorian.Dominical A", "error: nothing can be typed there"},
-        {"type User.LocName Home", "error: not in reach: User.LocName"},
-        {"close User", "error: not in reach: User"},
+        {"type User.LocName Home", "error: not in reach: User.LocName"}, {"close User", "error: not in reach: User"},
         {"asked", "none"},
     };
+    // clang-format on
     Desk desk;
     for (const auto& [line, answer] : rows) EXPECT_EQ(desk.Obey(line), answer) << line;
 }

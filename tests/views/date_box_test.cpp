@@ -1,21 +1,15 @@
 #include "views/date_box.h"
 
-#include "calendars/gregorian.h"
 #include "calendars/julian.h"
-#include "core/moment.h"
-#include "core/text.h"
-#include "desk.h"
+#include "desk_fixture.h"
 #include "hebrew/hebrew_options.h"
 
-#include <gtest/gtest.h>
-
-#include <string>
-#include <vector>
+#include <tuple>
 
 namespace horvanta {
 namespace {
 
-class DateBoxTest : public testing::Test {
+class DateBoxTest : public DeskTest {
   protected:
     void Obey(const std::vector<std::string>& lines) {
         for (const std::string& line : lines) ASSERT_EQ(desk.Obey(line), "ok") << line;
@@ -25,7 +19,6 @@ class DateBoxTest : public testing::Test {
                (box.Month.selected < 0 ? "" : box.Month.items[std::size_t(box.Month.selected)]) + " | " + box.Day.text;
     }
 
-    Desk desk;
     const DateBox& box = desk.program.dateBox;
 };
 
@@ -68,12 +61,7 @@ TEST_F(DateBoxTest, KeepsTheMomentInEveryCalendar) {
 }
 
 TEST_F(DateBoxTest, ShowsDatesInTheFormOfTheirCalendar) {
-    struct {
-        int calendar;
-        const char* text;
-        std::vector<std::string> lines;
-        const char* fields;
-    } const rows[] = {
+    const std::tuple<int, const char*, std::vector<std::string>, const char*> rows[] = {
         {1, "15 March 44 BC", {}, "-43 | March | 13"},
         {3, "15 March 44 BC", {}, "44 BC | March | 15"},
         {3, "29 February 1 BC", {"press Up"}, "1 AD | February | 28"},
@@ -96,10 +84,7 @@ TEST_F(DateBoxTest, ShowsDatesInTheFormOfTheirCalendar) {
 }
 
 TEST_F(DateBoxTest, TellsWhyThereIsNoDateAndStays) {
-    struct {
-        std::vector<std::string> lines;
-        const char* why;
-    } const rows[] = {
+    const std::tuple<std::vector<std::string>, const char*> rows[] = {
         {{"edit DateBox.DateText 30 February 2024"}, "February 2024 has 29 days"},
         {{"edit DateBox.Year 2024 BC"}, "2024 BC is not a year"},
         {{"choose DateBox.Calendar 3", "edit DateBox.Year 0"}, "the Julian calendar has no year 0"},
@@ -125,13 +110,7 @@ TEST_F(DateBoxTest, TellsWhyThereIsNoDateAndStays) {
 }
 
 TEST_F(DateBoxTest, TakesTheTimeByTheChosenScale) {
-    struct {
-        const char* place;
-        const char* date;
-        const char* time;
-        int scale;
-        const char* told;
-    } const rows[] = {
+    const std::tuple<const char*, const char*, const char*, int, const char*> rows[] = {
         {"SetTimesSquare", "2024-07-04", "21:30", 1, "Friday, July 5, 2024 02:30:00"},
         {"SetTimesSquare", "2024-07-04", "21:30", 2, "Friday, July 5, 2024 01:30:00"},
         {"SetTimesSquare", "2024-01-15", "0:00:30", 2, "Monday, January 15, 2024 05:00:30"},

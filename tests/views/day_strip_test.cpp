@@ -52,15 +52,18 @@ TEST(DayStrip, MeetsTheTimesOfTheBar) {
 
 TEST_F(DayStripTest, TellsWhereTheSunIs) {
     desk.Obey("menu SetCFSalert");
-    Show(2024, 6, 21);
     const TimeFields& fields = desk.program.timeAstro.fields;
-    EXPECT_EQ(fields.DawnDusk.panels[0].tooltip, "Sun up all day");
+    const auto shown = [&fields](int panel) { return fields.DawnDusk.panels[static_cast<std::size_t>(panel)]; };
+    Show(2024, 12, 21);
+    EXPECT_EQ(shown(8).tooltip, "Sun down all day");
+    EXPECT_EQ(fields.ClockLabel.text, "Clock time, UT-05:00");
+    Show(2024, 6, 21);
+    EXPECT_EQ(shown(0).tooltip, "Sun up all day");
+    for (const int i : {0, 1, 3, 4, 5, 7, 8}) EXPECT_EQ(shown(i).text, "never") << i;
+    for (const int i : {2, 6}) EXPECT_NE(shown(i).text, "never") << i;
     EXPECT_TRUE(fields.DayLight.text.starts_with("From midnight daylight. At 08:00, Sun ")) << fields.DayLight.text;
     EXPECT_EQ(fields.ClockLabel.text, "Clock time, UT-04:00");
-    Show(2024, 12, 21);
-    EXPECT_EQ(fields.DawnDusk.panels[8].tooltip, "Sun down all day");
-    EXPECT_EQ(fields.ClockLabel.text, "Clock time, UT-05:00");
-    EXPECT_EQ(desk.program.timeAstro.DayOne.text, "1 = Jan 1, 2001");
+    EXPECT_FALSE(fields.UseElevation.enabled);
 }
 
 }  // namespace

@@ -30,15 +30,11 @@ TEST_F(EventsWindowTest, ListsTheDayInTheColoursOfItsCalendars) {
 
 /// North and south of the equator the clocks change on the same days, in opposite ways.
 TEST_F(EventsWindowTest, TellsOfClockChanges) {
-    const struct {
-        const char* place;
-        std::int32_t month;
-        std::int32_t day;
-        const char* text;
-    } rows[] = {{"Times Square", 3, 10, "Switch to Daylight Saving Time on"},
-                {"Times Square", 11, 3, "Switch to Standard Time on"},
-                {"Melbourne", 3, 10, "Switch to Standard Time on"},
-                {"Times Square", 3, 11, ""}};
+    const std::tuple<const char*, std::int32_t, std::int32_t, const char*> rows[] = {
+        {"Times Square", 3, 10, "Switch to Daylight Saving Time on"},
+        {"Times Square", 11, 3, "Switch to Standard Time on"},
+        {"Melbourne", 3, 10, "Switch to Standard Time on"},
+        {"Times Square", 3, 11, ""}};
     for (const auto& [place, month, day, text] : rows) {
         Locale = PresetLocale(place);
         Show(2024, month, day);
@@ -51,39 +47,11 @@ TEST_F(EventsWindowTest, TellsOfClockChanges) {
     }
 }
 
-/// The menu of a window has its values by their names and copies them with all digits.
-TEST_F(EventsWindowTest, ComesWithAMenuAsOtherWindowsDo) {
-    Show(2024, 3, 24);
-    desk.Obey("menu OrientCal");
-    const std::pair<const char*, const char*> rows[] = {
-        {"Events", "Copy Hebrew, 14 Adar Sheini: Purim"},
-        {"Hebrew", "Copy Dusk VG: 18:45:22"},
-        {"Lunar", "Copy Lunar longitude: 175.8°"},
-        {"Chinese", "Copy Midnight Solar Longitude at Time Zone UT+8 = 3.51…"},
-    };
-    for (const auto& [window, item] : rows) {
-        desk.Obey("answer text " + std::string(item));
-        const std::string asked = AskedBy("rightclick " + std::string(window));
-        EXPECT_NE(asked.find("clipboard"), std::string::npos) << asked;
-        EXPECT_EQ(asked.find("Dusk VG: Dusk"), std::string::npos);
-    }
-}
-
 TEST_F(EventsWindowTest, BeepsWhereNothingHappens) {
     for (const char* window : {"Lunar", "Gregorian", "Hebrew"}) desk.Obey(std::string("close ") + window);
     Show(2024, 1, 2);
     ASSERT_TRUE(desk.program.events.EventsGrid.rows.empty());
     EXPECT_EQ(AskedBy("click Events.EventsGrid"), "beep");
-}
-
-TEST_F(EventsWindowTest, KeepsItsSize) {
-    EXPECT_EQ(desk.program.events.form.position.width, 9360);
-    desk.program.events.form.position = {.width = 7500, .height = 3000};
-    desk.Obey("menu SavePreferences");
-    StoredSettings settings = desk.desktop.settings.values;
-    EXPECT_EQ(settings["Horvanta"]["Item"]["EW"], "7500");
-    const Desk again(settings);
-    EXPECT_EQ(again.program.events.form.position.height, 3000);
 }
 
 }  // namespace

@@ -14,27 +14,21 @@ class GregorianWindowTest : public DeskTest {
 };
 
 TEST_F(GregorianWindowTest, ShowsTheDateInBothCalendars) {
-    constexpr std::tuple<int, int, int, const char*, const char*, const char*, const char*, const char*, const char*>
-        rows[] = {
-            {2024, 1, 15, "Monday, January 15, 2024 ", "Gregorian day 15+351=366", "GF", "24th year of 6th cycle AD",
-             "2024-W03-1 ", "ISO day 15+349=364"},
-            {2000, 12, 31, "Sunday, December 31, 2000 ", "Gregorian day 366+0=366", "BA", "400th year of 5th cycle AD",
-             "2000-W52-7 ", "ISO day 364+0=364"},
-            {2021, 1, 3, "Sunday, January 3, 2021 ", "Gregorian day 3+362=365", "C", "21st year of 6th cycle AD",
-             "2020-W53-7 ", "ISO day 371+0=371"},
-            {-400, 1, 1, "Saturday, January 1, -400 ", "Gregorian day 1+365=366", "BA", "400th year of 2nd cycle BC",
-             "-401-W52-6 ", "ISO day 363+1=364"},
-            {112, 1, 1, "Friday, January 1, 112 ", "Gregorian day 1+365=366", "CB", "112nd year of 1st cycle AD",
-             "111-W53-5 ", "ISO day 369+2=371"},
-        };
-    for (const auto& [year, month, day, date, yearDay, letters, cycle, iso, isoDay] : rows) {
+    // clang-format off
+    constexpr std::tuple<int, int, int, const char*> rows[] = {
+        {2024, 1, 15, "Monday, January 15, 2024 |Gregorian day 15+351=366|GF|24th year of 6th cycle AD|2024-W03-1 |ISO day 15+349=364"},
+        {2000, 12, 31, "Sunday, December 31, 2000 |Gregorian day 366+0=366|BA|400th year of 5th cycle AD|2000-W52-7 |ISO day 364+0=364"},
+        {2021, 1, 3, "Sunday, January 3, 2021 |Gregorian day 3+362=365|C|21st year of 6th cycle AD|2020-W53-7 |ISO day 371+0=371"},
+        {-400, 1, 1, "Saturday, January 1, -400 |Gregorian day 1+365=366|BA|400th year of 2nd cycle BC|-401-W52-6 |ISO day 363+1=364"},
+        {112, 1, 1, "Friday, January 1, 112 |Gregorian day 1+365=366|CB|112nd year of 1st cycle AD|111-W53-5 |ISO day 369+2=371"},
+    };
+    // clang-format on
+    for (const auto& [year, month, day, text] : rows) {
         Show(year, month, day);
-        EXPECT_EQ(window_.GregorianDate.text, date);
-        EXPECT_EQ(window_.DayNumInGregYear.text, yearDay) << date;
-        EXPECT_EQ(window_.Dominical.text, letters) << date;
-        EXPECT_EQ(window_.GregCycleInfo.text, cycle) << date;
-        EXPECT_EQ(window_.TheISOdate.text, iso) << date;
-        EXPECT_EQ(window_.isoOrdinalDay.text, isoDay) << date;
+        EXPECT_EQ(window_.GregorianDate.text + "|" + window_.DayNumInGregYear.text + "|" + window_.Dominical.text +
+                      "|" + window_.GregCycleInfo.text + "|" + window_.TheISOdate.text + "|" +
+                      window_.isoOrdinalDay.text,
+                  text);
     }
 }
 
@@ -48,17 +42,6 @@ TEST_F(GregorianWindowTest, PostsTheISOEvents) {
     EXPECT_EQ(iso->colors, window_.TheISOdate.colors);
     Show(2024, 6, 1);
     EXPECT_EQ(desk.Obey("events ISO"), "none");
-}
-
-TEST_F(GregorianWindowTest, IsColouredFromItsMainDate) {
-    desk.Obey("answer color 65280");  // green
-    desk.Obey("dblclick Gregorian.GregorianDate");
-    desk.Obey("dblclick Gregorian.GregorianDate");  // cancelled
-    EXPECT_EQ(desk.Obey("asked"), "color 12642289 65280; color 65280 cancel");
-    const ColorPair green{{0, 255, 0}, {0, 0, 0}};
-    EXPECT_EQ(window_.GregorianDate.colors, green);
-    EXPECT_EQ(window_.GregCycleInfo.colors, green);
-    EXPECT_EQ(window_.TheISOdate.colors, (ColorPair{{48, 207, 48}, {48, 48, 48}}));
 }
 
 }  // namespace

@@ -30,6 +30,7 @@ TEST_F(LunarWindowTest, ShowsThePublishedMoon) {
     EXPECT_EQ(window.MoonDistance.text, "368410 km");
     EXPECT_EQ(window.MoonName.text, "Waxing gibbous Moon");
     EXPECT_EQ(window.MoonPhase.text, "+110.8°");
+    EXPECT_NE(AskedBy("click Lunar.MoonDistance").find("from the centre of the Earth: 368409."), std::string::npos);
 }
 
 TEST_F(LunarWindowTest, PhasesRunAsTheUserWants) {
@@ -44,32 +45,23 @@ TEST_F(LunarWindowTest, PhasesRunAsTheUserWants) {
     EXPECT_NE(Events("Lunar").find("New Moon, J2000 Lunation Number 297"), std::string::npos);
 }
 
-TEST_F(LunarWindowTest, ClickCopiesAllDigits) {
-    const std::string copied = AskedBy("click Lunar.MoonDistance");
-    EXPECT_NE(copied.find("Distance of the Moon from the centre of the Earth: "), std::string::npos) << copied;
-    EXPECT_NE(copied.find('.'), std::string::npos) << copied;
-}
-
-/// Over months of days each event of the Moon is told on one day, whatever hour of it is shown.
 TEST_F(LunarWindowTest, TellsEachEventOnItsDay) {
+    constexpr std::pair<const char*, int> rows[] = {
+        {"New Moon", 12},     {"First Quarter", 12}, {"Full Moon", 12},   {"Last Quarter", 12},    {"new crescent", 12},
+        {"old crescent", 12}, {"Mean Perigee", 13},  {"Mean Apogee", 13}, {"Local Moonrise", 342},
+    };
     Locale = PresetLocale("Jerusalem");
-    const char* const once[] = {"New Moon",     "First Quarter", "Full Moon",    "Last Quarter",
-                                "new crescent", "old crescent",  "Mean Perigee", "Mean Apogee"};
     for (const double hour : {0.0, 0.4, 0.9}) {
-        int counts[std::size(once)] = {};
-        int rises = 0;
+        std::string told;
         for (int day = 0; day < 354; ++day) {
-            const auto events = LunarEventsOn(GregorianToFixed(2024, 1, 12) + day + hour);
-            for (std::size_t i = 0; i < std::size(once); ++i) {
-                counts[i] += static_cast<int>(std::ranges::count_if(
-                    events, [&](const LunarEvent& e) { return e.text.find(once[i]) != std::string::npos; }));
-            }
-            rises += static_cast<int>(std::ranges::count_if(
-                events, [](const LunarEvent& e) { return e.text.starts_with("Local Moonrise"); }));
+            for (const LunarEvent& event : LunarEventsOn(GregorianToFixed(2024, 1, 12) + day + hour))
+                told += event.text;
         }
-        for (std::size_t i = 0; i < std::size(once); ++i)
-            EXPECT_NEAR(counts[i], i < 6 ? 12 : 13, i < 6 ? 0 : 1) << once[i];
-        EXPECT_EQ(rises, 342);
+        for (const auto& [text, times] : rows) {
+            int count = 0;
+            for (std::size_t at = 0; (at = told.find(text, at)) != std::string::npos; ++at) ++count;
+            EXPECT_EQ(count, times) << text << hour;
+        }
     }
 }
 
@@ -107,14 +99,12 @@ TEST_F(LunarWindowTest, PictureIsTurnedToThePlace) {
 }
 
 TEST_F(LunarWindowTest, NamesPhases) {
-    constexpr std::pair<double, const char*> rows[] = {{355, "New Moon"},
-                                                       {-5, "New Moon"},
-                                                       {7, "Waxing crescent Moon"},
-                                                       {88, "First quarter Moon"},
-                                                       {100, "Waxing gibbous Moon"},
-                                                       {180, "Full Moon"},
-                                                       {270, "Last quarter Moon"},
-                                                       {350, "Waning crescent Moon"}};
+    // clang-format off
+    constexpr std::pair<double, const char*> rows[] = {
+        {355, "New Moon"}, {-5, "New Moon"}, {7, "Waxing crescent Moon"}, {88, "First quarter Moon"},
+        {100, "Waxing gibbous Moon"}, {180, "Full Moon"}, {270, "Last quarter Moon"}, {350, "Waning crescent Moon"},
+    };
+    // clang-format on
     for (const auto& [phase, name] : rows) EXPECT_EQ(PhaseName(phase), name) << phase;
 }
 
@@ -124,13 +114,11 @@ TEST_F(LunarWindowTest, NumbersLunationsAsChosen) {
     EXPECT_EQ(desk.program.lunar.LunationConvention.text, "Brown Mean Lunation #");
     desk.Obey("menu LunationAtEpoch");
     EXPECT_NEAR(DisplayedMoment, GregorianToFixed(1923, 1, 17) + 0.1, 0.1);  // Brown's first
-    desk.Obey("answer text 1250.5");
-    desk.Obey("menu ArbitraryLunation");
+    Obey({"answer text 1250.5", "menu ArbitraryLunation"});
     EXPECT_NEAR(DisplayedMoment, GregorianToFixed(2024, 1, 25) + 17.9 / 24, 0.01);  // the full Moon of that month
     const Moment there = DisplayedMoment;
     for (const char* answer : {"text 9999999", "text none", "cancel"}) {
-        desk.Obey(std::string("answer ") + answer);
-        desk.Obey("menu ArbitraryLunation");
+        Obey({std::string("answer ") + answer, "menu ArbitraryLunation"});
         EXPECT_EQ(DisplayedMoment, there) << answer;
     }
 }
@@ -144,8 +132,7 @@ TEST_F(LunarWindowTest, StepsByLunarCycles) {
     EXPECT_NEAR(DisplayedMoment - from, 29.5, 0.4);
     desk.Obey("press PageUp");
     EXPECT_NEAR(DisplayedMoment - from, 13 * MeanSynodicMonth, 0.6);
-    desk.Obey("answer text -0.5");
-    desk.Obey("menu JumpBy");
+    Obey({"answer text -0.5", "menu JumpBy"});
     EXPECT_NEAR(std::fabs(ModuloRange(lunar::Phase(DisplayedMoment) - phase, -180, 180)), 180, 0.001);
 }
 
@@ -165,8 +152,7 @@ class YermList : public DeskTest {
 TEST_F(YermList, IsOpenedAndRemembered) {
     const std::string path = File("Two eras\n108000\n1\n-17889\n201853.5\n226954.5\n252055.5\n");
     Show(GregorianEpoch + 201859);
-    desk.Obey("answer text " + path);
-    desk.Obey("menu OpenYermEras");
+    Obey({"answer text " + path, "menu OpenYermEras"});
     EXPECT_EQ(desk.program.lunar.YLCera.text, "Era 1 = 52 yerms");
     EXPECT_EQ(desk.program.lunar.YLCdate.text, "1+1(1(7");
     Show(GregorianEpoch + 201000);

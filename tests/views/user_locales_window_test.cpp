@@ -1,35 +1,25 @@
 #include "views/user_locales_window.h"
 
-#include "core/text.h"
-#include "desk.h"
+#include "desk_fixture.h"
 #include "locale/distances.h"
 #include "locale/presets.h"
 
-#include <gtest/gtest.h>
-
-#include <initializer_list>
 #include <tuple>
 
 namespace horvanta {
 namespace {
 
 /// A desk with the window open on slot 1, and nothing asked so far.
-class UserLocalesWindowTest : public testing::Test {
+class UserLocalesWindowTest : public DeskTest {
   protected:
     UserLocalesWindowTest() { Obey({"menu SetUserLoc", "asked"}); }
 
-    void Obey(std::initializer_list<std::string> lines) {
-        for (const std::string& line : lines) answer = desk.Obey(line);
-    }
     void Enter(const std::string& field, const std::string& text) { Obey({"type User." + field + " " + text}); }
     bool hasAsked(const std::string& title) {
         return desk.Obey("asked").find("\"" + title + "\"") != std::string::npos;
     }
 
-    StoredSettings settings{{"Horvanta", {{"Events", {{"Top", "0"}}}}}};
-    Desk desk{settings};
     UserLocalesWindow& window = desk.program.userLocales;
-    std::string answer;
 };
 
 TEST_F(UserLocalesWindowTest, KeepAnAppliedPlaceInTheMenuAndOverARestart) {
@@ -67,8 +57,9 @@ TEST_F(UserLocalesWindowTest, DoubtAZoneFarFromItsLongitude) {
         desk.desktop.answers.clear();
     }
     Enter("TimeZone", "6.25");
-    Obey({"answer yes", "click User.ApplyLoc", "asked"});
-    EXPECT_NE(answer.find("differs by 3.25 hours from ideal 3 based on Longitude.\\n"), std::string::npos);
+    Obey({"answer yes", "asked"});
+    EXPECT_NE(AskedBy("click User.ApplyLoc").find("differs by 3.25 hours from ideal 3 based on Longitude.\\n"),
+              std::string::npos);
     EXPECT_EQ(Locale.Zone, 6.25);
     Obey({"click User.LongHemi", "click User.GuessZone"});
     EXPECT_EQ(window.TimeZone.text, "-3");
@@ -90,12 +81,13 @@ TEST_F(UserLocalesWindowTest, TakeNumbersWithinTheirEndsAndGiveGarbageBack) {
 }
 
 TEST_F(UserLocalesWindowTest, StepByKeysAndArrows) {
+    // clang-format off
     constexpr std::tuple<const char*, const char*, const char*, const char*> rows[] = {
-        {"LatDeg", "89", "press PageUp", "90 0 0"},
-        {"LatDeg", "0", "press Minus", "0 0 0"},
-        {"LatMin", "59", "press Plus", "1 0 0"},
-        {"LatSec", "0", "press Up shift", "0 0 0.1"},
-        {"LatSec", "5", "click User.LatSecUpDown down", "0 0 4"}};
+        {"LatDeg", "89", "press PageUp", "90 0 0"}, {"LatDeg", "0", "press Minus", "0 0 0"},
+        {"LatMin", "59", "press Plus", "1 0 0"}, {"LatSec", "0", "press Up shift", "0 0 0.1"},
+        {"LatSec", "5", "click User.LatSecUpDown down", "0 0 4"},
+    };
+    // clang-format on
     for (const auto& [field, typed, act, shown] : rows) {
         for (const char* other : {"LatDeg", "LatMin", "LatSec"}) Enter(other, "");
         Enter(field, typed);
@@ -150,8 +142,7 @@ TEST_F(UserLocalesWindowTest, ClearASlotForGood) {
     EXPECT_EQ(Locale.Name, "Ur");  // the current place stays
     EXPECT_FALSE(desk.program.frame.UserLoc[1].isShown());
     EXPECT_EQ(desk.Obey("asked"), "none");
-    Obey({"menu MenuExit"});
-    Desk again(desk.desktop.settings.flushed);
+    Desk again(LeftBy(desk));
     EXPECT_EQ(again.program.userLocales.LocName.text + again.program.userLocales.LatDeg.text, "");
     EXPECT_FALSE(again.program.frame.UserLoc[1].isShown());
 }
@@ -172,11 +163,10 @@ TEST_F(UserLocalesWindowTest, CopyPlacesAsTheyAre) {
 }
 
 TEST_F(UserLocalesWindowTest, TakeDegreesWithADecimalPoint) {
-    constexpr std::tuple<const char*, const char*> rows[] = {{"-33.8583", "33 51 29.88 South"},
-                                                             {"90.1", "33 51 29.88 South"},
-                                                             {"59.99999999", "60 0 0 North"},
-                                                             {"x", "60 0 0 North"}};
-    for (const auto& [typed, shown] : rows) {
+    const char* const south = "33 51 29.88 South";
+    const char* const north = "60 0 0 North";
+    for (const auto& [typed, shown] :
+         {std::pair("-33.8583", south), {"90.1", south}, {"59.99999999", north}, {"x", north}}) {
         Obey({std::string("answer text ") + typed, "click User.LatLabel"});
         EXPECT_EQ(window.LatDeg.text + " " + window.LatMin.text + " " + window.LatSec.text + " " + window.LatHemi.text,
                   shown);
