@@ -26,10 +26,8 @@ TEST(Crescents, ComeOnceALunation) {
         SCOPED_TRACE(FixedToGregorianString(newMoon));
         EXPECT_EQ(first, Dusk(first, 4.5, place));
         EXPECT_EQ(last, Dawn(last, 4.5, place));
-        EXPECT_GT(first - newMoon, 0.5);
-        EXPECT_LT(first - newMoon, 3);
-        EXPECT_GT(newMoon - last, 0.5);
-        EXPECT_LT(newMoon - last, 3);
+        EXPECT_NEAR(first - newMoon, 1.75, 1.25);
+        EXPECT_NEAR(newMoon - last, 1.75, 1.25);
         EXPECT_GT(VisibleCrescent(first, place), 10.59);
         EXPECT_EQ(VisibleCrescent(first - 1, place), 0) << "it is the first";
         EXPECT_GT(VisibleCrescent(first + 1, place), VisibleCrescent(first, place)) << "it grows";
@@ -54,11 +52,6 @@ TEST(Crescents, AreFoundFromEveryDayOfTheMonth) {
         EXPECT_EQ(VisibleOldCrescentAfter(x, place), last(1));
         EXPECT_EQ(VisibleOldCrescentBefore(x, place), last(0));
     }
-    const Moment dark = (last(1) + first(1)) / 2;
-    EXPECT_EQ(VisibleCrescentBefore(dark, place), first(0));
-    EXPECT_EQ(VisibleCrescentAfter(dark, place), first(1));
-    EXPECT_EQ(VisibleOldCrescentAfter(dark, place), last(2));
-    EXPECT_EQ(VisibleOldCrescentBefore(dark, place), last(1));
 }
 
 /// Far north there is no dusk in summer, and the Moon of other months stays too low for five evenings.

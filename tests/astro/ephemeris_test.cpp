@@ -75,10 +75,9 @@ std::vector<double> SeasonsOf2000To2002() {
 std::vector<double> QuartersOfLunations5To6() { return QuartersOf(5, 6, LunarQuarter); }
 
 TEST_F(EphemerisFiles, ReplaceTheSeasonsThatTheyHold) {
-    const auto numbers = SeasonsOf2000To2002();
     const Moment before = SeasonMoment(1999, 270);
     const Moment spring = SeasonMoment(2002, 0);
-    Write(second / "EqSolstDE421.dat", numbers);
+    Write(second / "EqSolstDE421.dat", SeasonsOf2000To2002());
     Forget();
     EXPECT_NEAR(SolexSolarLongitudeAfter(2002, 0), spring + mark, 1e-8) << "the last year is inside";
     EXPECT_EQ(SolexSolarLongitudeAfter(2002, -270), SolexSolarLongitudeAfter(2001, 270));
@@ -107,10 +106,9 @@ TEST_F(EphemerisFiles, FollowTheNumberingOfDays) {
 }
 
 TEST_F(EphemerisFiles, ReplaceTheQuartersThatTheyHold) {
-    const auto numbers = QuartersOfLunations5To6();
     const Moment full = LunarQuarter(6, 180);
     const Moment outside = LunarQuarter(7, 180);
-    Write(first / "Lunations.dat", numbers);
+    Write(first / "Lunations.dat", QuartersOfLunations5To6());
     Forget();
     EXPECT_NEAR(SolexLunarQuarter(6, 180), full + mark, 1e-8);
     EXPECT_EQ(SolexLunarQuarter(6, -180), SolexLunarQuarter(5, 180));

@@ -27,9 +27,6 @@ TEST(Moon, AgreesWithPublishedExamples) {
     EXPECT_NEAR(lunar::Longitude(april), 133.167265, 0.00001);
     EXPECT_NEAR(lunar::Latitude(april), -3.229126, 0.00001);
     EXPECT_NEAR(lunar::Distance(april), 368409.7, 0.1);
-    EXPECT_NEAR(lunar::RightAscension(april), 134.688, 0.001);
-    EXPECT_NEAR(lunar::Declination(april), 13.768, 0.001);
-    EXPECT_NEAR(lunar::LitFraction(april), 0.6786, 0.0001);
     EXPECT_NEAR(lunar::BrightLimbAngle(april), 285.0, 0.1);
     EXPECT_NEAR(Ahead(lunar::AscendingNode(TerrestrialDate(1913, 5, 27)), 0), 0, 0.005);
     EXPECT_NEAR(lunar::AscendingNode(TerrestrialDate(1959, 12, 7)), 180.05, 0.005);

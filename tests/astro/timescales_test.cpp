@@ -10,8 +10,6 @@
 
 #include <gtest/gtest.h>
 
-#include <cmath>
-
 namespace horvanta {
 namespace {
 
@@ -62,7 +60,6 @@ TEST(TimeScales, ConvertBackOverTheWholeRange) {
                 }
                 EXPECT_NEAR(ApparentToUniversal(LocalToApparent(x)), LocalToUniversal(x), second) << x;
                 EXPECT_NEAR(RAYDateToMoment(MomentToRAYDate(x) + 1) - x, RAYYearLength(x), 40 * second) << x;
-                EXPECT_LE(std::fabs(EquationOfTime(x)), 0.5) << x;
             }
         }
         SetFixedDayEpoch(GregorianEpoch, 1, "rata die");

@@ -75,9 +75,7 @@ TEST(SettingsText, LosesOneKeyByADamagedLine) {
             for (const auto& [section, keys] : values) {
                 for (const auto& [key, value] : keys) {
                     const auto found = read.find(section);
-                    const bool same =
-                        found != read.end() && found->second.contains(key) && found->second.at(key) == value;
-                    lost += !same;
+                    lost += found == read.end() || !found->second.contains(key) || found->second.at(key) != value;
                 }
             }
             EXPECT_LE(lost, begin == 0 ? 0 : 1) << line.substr(0, 40);

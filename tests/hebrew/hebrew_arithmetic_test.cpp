@@ -95,10 +95,7 @@ TEST(Hebrew, WritesDatesAndYears) {
 /// Announced molads; BaHaRaD, of the first Tishrei, and VaYaD, of the next, the oldest of all.
 TEST(Hebrew, AgreesWithAnnouncedMolads) {
     constexpr std::tuple<int, int, const char*> rows[] = {
-        {1, 7, "Yom Rishon 23h 204p"},
-        {2, 7, "Yom Shishi 8h 0p"},
-        {5784, 1, "Yom Sheini 22h 1033p"},
-    };
+        {1, 7, "Yom Rishon 23h 204p"}, {2, 7, "Yom Shishi 8h 0p"}, {5784, 1, "Yom Sheini 22h 1033p"}};
     for (const auto& [year, month, text] : rows) {
         const Moment x = molad(year, month);
         EXPECT_EQ(std::string(WeekdayLabel(x)) + " " + FormatTime(x, 10), text) << year;
