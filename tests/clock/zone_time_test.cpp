@@ -47,10 +47,8 @@ void ExpectSwitches(const Year& row, bool north) {
 }
 
 TEST(DaylightTime, SwitchesOnItsDaysUnderEveryNumbering) {
-    constexpr std::tuple<const char*, std::span<const Year>, bool> places[] = {{"Times Square", american, true},
-                                                                               {"Vatican", american, true},
-                                                                               {"Melbourne", american, false},
-                                                                               {"Jerusalem", israeli, true}};
+    constexpr std::tuple<const char*, std::span<const Year>, bool> places[] = {
+        {"Times Square", american, true}, {"Melbourne", american, false}, {"Jerusalem", israeli, true}};
     for (const double day : {1.0, 730487.0, -1721424.0}) {
         SetFixedDayEpoch(GregorianEpoch + day - 1, day, "test");
         for (const auto& [name, years, north] : places) {

@@ -30,14 +30,10 @@ TEST(InkOf, CanBeReadOnAnyGround) {
 
 TEST(AccessibleName, SaysWhatASignDoesNot) {
     Form form("Form", "Gregorian");
-    const Button info(form, "Info", Caption("&Info"), Tip("Click here"));
-    const Button back(form, "Back", Caption("<<"), Tip("Back a week"));
-    const Label date(form, "Date", Caption("January 1"), Tip("Gregorian date"));
-    const TextField day(form, "Day", Caption("739000"), Tip("Days since"));
-    EXPECT_EQ(AccessibleName(info), "Info");
-    EXPECT_EQ(AccessibleName(back), "Back a week");
-    EXPECT_EQ(AccessibleName(date), "Gregorian date: January 1");
-    EXPECT_EQ(AccessibleName(day), "Days since");
+    EXPECT_EQ(AccessibleName(Button(form, "Info", Caption("&Info"), Tip("Click here"))), "Info");
+    EXPECT_EQ(AccessibleName(Button(form, "Back", Caption("<<"), Tip("Back a week"))), "Back a week");
+    EXPECT_EQ(AccessibleName(Label(form, "Date", Caption("May 1"), Tip("The date"))), "The date: May 1");
+    EXPECT_EQ(AccessibleName(TextField(form, "Day", Caption("739000"), Tip("Days since"))), "Days since");
 }
 
 }  // namespace

@@ -1,6 +1,7 @@
 #include "core/moment.h"
 
 #include "calendars/gregorian.h"
+#include "desk.h"
 
 #include <gtest/gtest.h>
 
@@ -23,6 +24,12 @@ TEST(UpdateStatus, PassesOnceMoreForEachCallFromWithinButNotWhileHeld) {
     EXPECT_EQ(passes, 3);
     EXPECT_EQ(UpdateDepth, 0);
     UpdatePass = nullptr;
+}
+
+TEST(ClampToRange, TakesWhatIsNoNumberToo) {
+    Desk desk;
+    EXPECT_EQ(ClampToRange(std::nan("")), MinFixedDay);
+    EXPECT_EQ(desk.Obey("asked"), "beep");
 }
 
 /// A time of day of two digits stays one of two digits.

@@ -69,11 +69,6 @@ TEST(Modulo, KeepsItsRange) {
     EXPECT_EQ(ModuloRange(190, -180, 180), -170);
 }
 
-TEST(WholeNumber, SaturatesWhatDoesNotFit) {
-    EXPECT_EQ(WholeNumber(NeverMoment), std::numeric_limits<std::int32_t>::max());
-    EXPECT_EQ(WholeNumber(std::nan("")), std::numeric_limits<std::int32_t>::max());
-}
-
 TEST(Divisors, SatisfyBezout) {
     constexpr std::int32_t numbers[] = {
         0, 1, -1, 7, 12, -18, 293, 52, 235, 146097, std::numeric_limits<std::int32_t>::min()};
@@ -108,6 +103,8 @@ TEST(Rounding, GoesToTheEvenDigit) {
     EXPECT_EQ(RoundToDigits(6162.4567, 3), 6160);
     EXPECT_EQ(RoundToDigits(-0.000123456, 2), -0.00012);
     EXPECT_EQ(RoundToDigits(NeverMoment, 3), NeverMoment);
+    EXPECT_EQ(WholeNumber(NeverMoment), std::numeric_limits<std::int32_t>::max());
+    EXPECT_EQ(WholeNumber(std::nan("")), std::numeric_limits<std::int32_t>::max());
     EXPECT_NEAR(DayFraction(-2.25), 0.75, 1e-12);
     EXPECT_EQ(DayFraction(739000.9999999999), 0);
 }
