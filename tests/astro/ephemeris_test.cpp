@@ -107,6 +107,7 @@ TEST_F(EphemerisFiles, FollowTheNumberingOfDays) {
 
 TEST_F(EphemerisFiles, ReplaceTheQuartersThatTheyHold) {
     const Moment full = LunarQuarter(6, 180);
+    EXPECT_NEAR(full, PhaseAfter(NthNewMoon(FirstNewMoonOf2000 + 6), 180), 1e-5) << "without a file";
     const Moment outside = LunarQuarter(7, 180);
     Write(first / "Lunations.dat", QuartersOfLunations5To6());
     Forget();

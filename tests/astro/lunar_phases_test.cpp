@@ -57,11 +57,11 @@ TEST(MeanNewMoon, IsSteppedFromAndFoundAgain) {
     for (double L = Floor(first); L < last; L += 7) {
         const Moment mean = MeanNewMoonUT(L);
         EXPECT_EQ(JumpMeanNewMoon(mean, 1), MeanNewMoonUT(L + 1)) << L;
-        EXPECT_EQ(JumpMeanNewMoon(mean, -1), MeanNewMoonUT(L - 1)) << L;
         EXPECT_EQ(JumpMeanNewMoon(mean + 0.4, -1), mean) << L;
-        EXPECT_EQ(JumpMeanNewMoon(mean - 0.4, 1), mean) << L;
         EXPECT_NEAR(MomentToLunation(mean), L, 0.01) << L;
     }
+    SetDeltaTDisabled(true);
+    EXPECT_EQ(JumpMeanNewMoon(MeanNewMoonTT(-60000), 1), MeanNewMoonTT(-59999));
 }
 
 /// Meeus, Astronomical Algorithms, example 49.a. The mean month of years 1900 and 2100 (Chapront's theory, as given in
@@ -72,6 +72,8 @@ TEST(NewMoon, AgreesWithPublishedExamples) {
     for (const double T : {-1.0, 0.0, 1.0}) {
         EXPECT_NEAR(MSM_Atomic(T * 1236.85), 29.5305888531 + 0.00000021621 * T, 5e-8) << T;
     }
+    EXPECT_NEAR(MomentToMeanSynodicMonth(J2000), MSM_Solar(0), 2e-6);
+    EXPECT_EQ(MSM_AtomicToLunation(29.530555555555555 + 3 / 86400.0), MSM_AtomicToLunation(3));
     EXPECT_LT(MSM_Solar(24000), MSM_Solar(0)) << "days grow longer";
 }
 

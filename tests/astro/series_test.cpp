@@ -6,7 +6,6 @@
 
 #include <gtest/gtest.h>
 
-#include <cmath>
 #include <utility>
 
 namespace horvanta {
@@ -34,22 +33,6 @@ TEST(Series, AddUpAsByTheStandardSine) {
         EXPECT_NEAR(series::SumOfSines(table, moon, {1, c / 100}), sines, 0.03) << c;
         EXPECT_NEAR(series::SumOfCosines(table, moon, {1, c / 100}), cosines, 0.03) << c;
     }
-}
-
-/// A sine and a cosine of one angle alone, close to the last bit.
-TEST(Series, KnowASineToItsLastBits) {
-    constexpr series::Term one[] = {{{1}, {1}}};
-    static constexpr auto alone = series::MakeTable(one, [](const series::Term& term) { return term; });
-    constexpr long double degree = 3.14159265358979323846264L / 180;
-    for (double x = -1000; x < 1000; x += 0.37) {
-        for (const double degrees : {x, x * 1e5, std::round(x) * 15}) {
-            const long double radians = std::fmod(static_cast<long double>(degrees), 360.0L) * degree;
-            EXPECT_NEAR(series::SumOfSines(alone, {degrees}, {1}), static_cast<double>(std::sin(radians)), 3e-16);
-            EXPECT_NEAR(series::SumOfCosines(alone, {degrees}, {1}), static_cast<double>(std::cos(radians)), 3e-16);
-        }
-    }
-    EXPECT_EQ(series::SumOfSines(alone, {180}, {1}), 0);
-    EXPECT_EQ(series::SumOfSines(alone, {90}, {1}, 4), 5);
 }
 
 /// No machine, compiler or width of vectors changes a bit: nothing is contracted or added in another order.

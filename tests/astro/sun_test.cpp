@@ -66,14 +66,13 @@ TEST(Seasons, FollowOneAnotherThroughAllYears) {
     }
 }
 
-TEST(EstimateSolarLongitudeBefore, ComesWithinAYear) {
-    double degrees = 0;
-    for (Moment t = GregorianToFixed(-3000, 1, 1); t < GregorianToFixed(6000, 1, 1); t += 4001.377) {
-        degrees = Degrees(degrees + 77.7);
-        const Moment estimate = EstimateSolarLongitudeBefore(t, degrees);
-        EXPECT_NEAR(Ahead(SolarLongitude(estimate), degrees), 0, 0.15) << t << " to " << degrees;
-        EXPECT_LE(estimate, t) << degrees;
-        EXPECT_GT(estimate, t - 367.5) << degrees;
+TEST(SameLongitudeYearsLater, FindsTheLongitudeNearTheTime) {
+    for (Moment t = GregorianToFixed(-2000, 1, 1); t < GregorianToFixed(5000, 1, 1); t += 50023.3) {
+        for (const double years : {1.0, -1000.0, 0.25, -0.25, -7.75}) {
+            const Moment found = SameLongitudeYearsLater(t, years);
+            EXPECT_NEAR(Ahead(SolarLongitude(found) - SolarLongitude(t), years * 360), 0, 3e-5) << t << ", " << years;
+            EXPECT_NEAR(found - t, years * 365.2422, 5) << t << ", " << years;
+        }
     }
 }
 

@@ -77,7 +77,13 @@ TEST(DurationString, RoundsDaysAndRestTogether) {
     EXPECT_EQ(DurationString(NeverMoment), "never");
 }
 
+TEST(AngleString, WrapsItsSign) {
+    EXPECT_EQ(AngleString(-12.582417), "-(12°34'56.7\")");
+    EXPECT_EQ(AngleString(359.99999999), "0°00'00.0\"");
+}
+
 TEST(FractionText, IsInLowestTerms) {
+    EXPECT_EQ(FractionText(3, 0, 5, false), "3");
     EXPECT_EQ(FractionText(365, 97, 400, false), "365 + 97 / 400");
     EXPECT_EQ(FractionText(-3, -2, 8, false), "–(3 + 1 / 4)");
     EXPECT_EQ(FractionText(-3, -1, 4, true), "&ndash;(3+<small><sup>1</sup></small>/<small><sub>4</sub></small>)");

@@ -82,6 +82,9 @@ TEST(Hebrew, WritesDatesAndYears) {
     EXPECT_EQ(HebrewYearType(5774, false, " ", "", ""), "Perfect Leap Year (Cheshvan and Kislev both 30 days)");
     EXPECT_EQ(HebrewYearType(5786, true, "|", "<i>", "</i>"),
               "Normal Non-Leap Year|(<i>Cheshvan</i> 29 days, <i>Kislev</i> 30 days) in year 10 of 19");
+    EXPECT_EQ(PostponeReason(-3840, "|", false, false), "1:postponed due to molad at or after noon (18h)");  // at noon
+    EXPECT_EQ(PostponeReason(5542, "|", false, false),
+              "3:postponed 2 days to prevent year 5542|from being too long (year 5543 postponed 2 days)");
     EXPECT_EQ(PostponeReason(5773, ", ", true, true),
               "<i>Rosh Hashanah</i> postponed from <i>Yom</i> 1 to 2, to avoid <i>Hoshanah Rabbah</i> on "
               "<i>Shabbat</i>.");

@@ -52,11 +52,6 @@ TEST(Molad, MonthIsTheIntervalOfItsFamily) {
         for (const bool fromMolad : {false, true}) {
             ASSERT_NEAR(LunationToMSM_Atomic(n, fromMolad, false), interval(TTmeanNewMoon, n), 0.01 * second) << n;
             ASSERT_NEAR(LunationToMSM_Solar(n, fromMolad, false), interval(UTmeanNewMoon, n), 0.01 * second) << n;
-            const auto growth = [&](const auto& month) {
-                return (month(n + 50, fromMolad, true) - month(n - 50, fromMolad, true)) / 100 * 1e6;
-            };
-            ASSERT_NEAR(LunationToMSMrate_Atomic(n, fromMolad), growth(LunationToMSM_Atomic), 1e-3) << n;
-            ASSERT_NEAR(LunationToMSMrate_Solar(n, fromMolad), growth(LunationToMSM_Solar), 1e-3) << n;
         }
     }
 }

@@ -15,6 +15,8 @@ namespace {
 
 TEST(Locale, IsMadeOfWhatIsGiven) {
     const LocaleRecord nowhere = MakeLocale("", "", 95, 190, 0);
+    EXPECT_EQ(nowhere.Name, "Unknown");
+    EXPECT_EQ(MakeLocale("", "Haifa", 0, 0, 0).Name, "Haifa");
     EXPECT_EQ(nowhere.Latitude, 90);
     EXPECT_EQ(nowhere.Longitude, -170);
     EXPECT_EQ(MakeLocale("x", "", 0, 37.5, 0).Zone, 2);
@@ -32,6 +34,8 @@ TEST(Locale, KnowsDistancesAndDirections) {
     EXPECT_EQ(OblateDistance(paris, paris), 0);
     EXPECT_NEAR(DirectionTo(paris, washington), 291.79, 0.01);
     EXPECT_EQ(DirectionTo(MakeLocale("x", "", 0, 10, 0), MakeLocale("x", "", 0, 50, 0)), 90);
+    EXPECT_EQ(DirectionTo(MakeLocale("x", "", 0, 10, 0), MakeLocale("x", "", 0, -50, 0)), 270);
+    EXPECT_GT(SphericalDistance(MakeLocale("x", "", 90, 0, 0), MakeLocale("x", "", -90, 77, 0)), 20002);
 }
 
 TEST(Locale, IsToldInWords) {

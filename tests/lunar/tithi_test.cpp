@@ -1,5 +1,6 @@
 #include "lunar/tithi.h"
 
+#include "astro/lunar_phases.h"
 #include "astro/moon.h"
 
 #include <gtest/gtest.h>
@@ -25,6 +26,16 @@ TEST(Tithi, IsTwelveDegrees) {
             ASSERT_NEAR((at - from) * direction, 0.55, 0.6) << from;
             ASSERT_NEAR((next - at) * direction, 0.98, 0.15) << from;
             ASSERT_NEAR(Modulo(lunar::Phase(next) + 1, 12), 1, 0.01) << from;
+        }
+    }
+}
+
+TEST(Tithi, CyclesKeepThePhase) {
+    for (double from = -2300000; from < 4200000; from += 173456.3) {
+        for (const double cycles : {1.0, -12.0, 235.0, 0.5, -0.25, 3.75}) {
+            const Moment reached = JumpCycles(from, cycles);
+            ASSERT_NEAR(reached - from, cycles * MeanSynodicMonth, 1.2) << from << ' ' << cycles;
+            ASSERT_NEAR(Modulo(lunar::Phase(reached) - lunar::Phase(from) - cycles * 360 + 1, 360), 1, 0.001) << from;
         }
     }
 }
