@@ -60,8 +60,6 @@ TEST(MeanNewMoon, IsSteppedFromAndFoundAgain) {
         EXPECT_EQ(JumpMeanNewMoon(mean + 0.4, -1), mean) << L;
         EXPECT_NEAR(MomentToLunation(mean), L, 0.01) << L;
     }
-    SetDeltaTDisabled(true);
-    EXPECT_EQ(JumpMeanNewMoon(MeanNewMoonTT(-60000), 1), MeanNewMoonTT(-59999));
 }
 
 /// Meeus, Astronomical Algorithms, example 49.a. The mean month of years 1900 and 2100 (Chapront's theory, as given in

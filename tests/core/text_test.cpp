@@ -92,7 +92,6 @@ TEST(FractionText, IsInLowestTerms) {
 TEST(Text, IsCountedInCharacters) {
     EXPECT_EQ(FromCharacter("Gregorian day 15+351=366", 15), "15+351=366");
     EXPECT_EQ(FromCharacter("–é°x", 4), "x");
-    EXPECT_EQ(FromCharacter("abc", 4), "");
 }
 
 /// Whatever was typed, pasted or left in a damaged file.

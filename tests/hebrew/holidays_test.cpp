@@ -31,6 +31,7 @@ TEST(Holidays, FallAsTheyAreKept) {
         {israel, 5784, 2, 5, "Yom HaZikaron (Israel Memorial Day); 20th day of the Omer (2 weeks and 6 days)"},
         {israel, 5784, 2, 6, "Yom HaAtzmaut (76th Israel Independence Day); 21st day of the Omer (3 weeks)"},
         {israel, 5708, 2, 5, "Yom HaAtzmaut (Israel Independence Day); 20th day of the Omer (2 weeks and 6 days)"},
+        {israel, 5784, 1, 27, "12th day of the Omer (1 week and 5 days)"},  // Sunday: Yom HaShoah is kept on Monday
         {israel, 5784, 1, 28, "Yom HaShoah (Holocaust Memorial Day); 13th day of the Omer (1 week and 6 days)"},
         {diaspora, 5782, 5, 9, "Interval = Bein HaMetzarim (Between the Straits); Shabbat Chazon"},
         {diaspora, 5782, 5, 10, "Tisha B'Av"},
@@ -81,6 +82,8 @@ TEST(Holidays, ComeOnceAYear) {
             EXPECT_EQ(count[once], 1) << once << " " << year;
         }
     }
+    EXPECT_EQ(HebrewDayOf(HebrewToFixed(5784, 6, 25), place).BirkatHachodesh,
+              "Rosh Hashanah will be next Yom Chamishi - Yom Shishi");
 }
 
 }  // namespace

@@ -58,6 +58,7 @@ TEST(Zmanim, LightCandles) {
             {"Times Square", 5784, 7, 1, ">", "after Shabbat ends", "Shabbat, Rosh Hashanah 1 (Hebrew New Year) Ends"},
             {"Times Square", 5785, 7, 2, "<", "18 minutes before sunset", "Rosh Hashanah 2 (Hebrew New Year) Ends"},
             {"Times Square", 5784, 9, 24, "~", "when stars appear", "Three Stars"},
+            {"Times Square", 5784, 9, 26, ">", "after Shabbat ends", "Shabbat Ends"},
             {"Times Square", 5784, 9, 25, "<", "18 minutes before sunset", "Three Stars"},  // Chanukah on a Friday
         };
     for (const auto& [name, year, month, day, mark, rule, ends] : days) {
@@ -72,6 +73,9 @@ TEST(Zmanim, LightCandles) {
     const LocaleRecord& jerusalem = PresetLocale("Jerusalem");
     const FixedDay friday = HebrewToFixed(5784, 1, 4);
     EXPECT_NEAR(Find(ZmanimOn(friday, jerusalem), "Candles").moment, Sunset(friday, jerusalem) - 40.0 / 1440, 1e-9);
+    const LocaleRecord& abroad = PresetLocale("Times Square");
+    const FixedDay festival = HebrewToFixed(5784, 1, 15);
+    EXPECT_NEAR(Find(ZmanimOn(festival, abroad), "Candles").moment, Dusk(festival, 8.5, abroad) + 1.0 / 1440, 1e-9);
 }
 
 TEST(Zmanim, RunAClockOfTemporalHours) {

@@ -17,19 +17,6 @@ TEST(Tithi, IsToldByTheHalf) {
     for (const auto& [phase, text] : rows) EXPECT_EQ(VedicTithi(phase), text) << phase;
 }
 
-/// Each jump leads to the next twelfth degree of its direction.
-TEST(Tithi, IsTwelveDegrees) {
-    for (double from = -2400000; from < 4300000; from += 11234.7) {
-        for (const int direction : {-1, 1}) {
-            const Moment at = JumpTithi(from, direction);
-            const Moment next = JumpTithi(at, direction);
-            ASSERT_NEAR((at - from) * direction, 0.55, 0.6) << from;
-            ASSERT_NEAR((next - at) * direction, 0.98, 0.15) << from;
-            ASSERT_NEAR(Modulo(lunar::Phase(next) + 1, 12), 1, 0.01) << from;
-        }
-    }
-}
-
 TEST(Tithi, CyclesKeepThePhase) {
     for (double from = -2300000; from < 4200000; from += 173456.3) {
         for (const double cycles : {1.0, -12.0, 235.0, 0.5, -0.25, 3.75}) {

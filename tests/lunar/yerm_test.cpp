@@ -42,7 +42,6 @@ class Yerm : public testing::Test {
 
     void ExpectFixedCycle() {
         EXPECT_FALSE(PresentYermForm().Progressive);
-        EXPECT_EQ(PresentYermForm().EraFilePath, "");
         EXPECT_EQ(FixedToYermString(730120), "21+3(5(24");
     }
 
