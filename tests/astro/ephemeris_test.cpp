@@ -14,7 +14,6 @@
 #include <algorithm>
 #include <array>
 #include <bit>
-#include <cmath>
 #include <filesystem>
 #include <fstream>
 #include <limits>

@@ -5,7 +5,6 @@
 #include <array>
 #include <bit>
 #include <charconv>
-#include <cstdlib>
 #include <limits>
 #include <random>
 
