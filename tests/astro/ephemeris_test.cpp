@@ -14,7 +14,6 @@
 #include <algorithm>
 #include <array>
 #include <bit>
-#include <cmath>
 #include <filesystem>
 #include <fstream>
 #include <limits>
@@ -57,45 +56,30 @@ class EphemerisFiles : public testing::Test {
 /// Moments a tenth of a day after the computed ones tell where they come from.
 constexpr double mark = 0.1;
 
+template <class MomentAt>
+std::vector<double> QuartersOf(std::int32_t first, std::int32_t last, const MomentAt& momentAt) {
+    std::vector<double> numbers = {1.0 * first, 1.0 * last, 1, 0};
+    for (std::int32_t row = first; row <= last; ++row) {
+        for (const double degrees : {0, 90, 180, 270}) {
+            numbers.push_back(UniversalToTerrestrial(momentAt(row, degrees)) + mark);
+        }
+    }
+    return numbers;
+}
+
 std::vector<double> SeasonsOf2000To2002() {
-    std::vector<double> numbers = {2000, 2002, 1, 0};
-    for (std::int32_t year = 2000; year <= 2002; ++year) {
-        for (const double degrees : {0, 90, 180, 270}) {
-            numbers.push_back(UniversalToTerrestrial(SeasonMoment(year, degrees)) + mark);
-        }
-    }
-    return numbers;
+    return QuartersOf(2000, 2002, [](std::int32_t year, double degrees) { return SeasonMoment(year, degrees); });
 }
 
-std::vector<double> QuartersOfLunations5To6() {
-    std::vector<double> numbers = {5, 6, 1, 0};
-    for (const std::int64_t lunation : {5, 6}) {
-        for (const double degrees : {0, 90, 180, 270}) {
-            numbers.push_back(UniversalToTerrestrial(LunarQuarter(lunation, degrees)) + mark);
-        }
-    }
-    return numbers;
-}
-
-TEST_F(EphemerisFiles, AreDoneWithout) {
-    EXPECT_EQ(SolexSolarLongitudeAfter(2001, -90), SolexSolarLongitudeAfter(2000, 90));
-    EXPECT_EQ(SolexLunarQuarter(5, 180), PhaseAfter(NthNewMoon(5 + 24724) - 2, 180));
-    EXPECT_EQ(SolexLunarQuarter(5, -180), SolexLunarQuarter(4, 180));
-    EXPECT_EQ(SolexNewMoon(71233), NthNewMoon(24724));
-    EXPECT_FALSE(ephemeris::ComplaintOfYear(2001));
-    EXPECT_FALSE(ephemeris::ComplaintOfLunation(5));
-}
+std::vector<double> QuartersOfLunations5To6() { return QuartersOf(5, 6, LunarQuarter); }
 
 TEST_F(EphemerisFiles, ReplaceTheSeasonsThatTheyHold) {
-    const auto numbers = SeasonsOf2000To2002();
     const Moment before = SeasonMoment(1999, 270);
     const Moment spring = SeasonMoment(2002, 0);
-    Write(second / "EqSolstDE421.dat", numbers);
+    Write(second / "EqSolstDE421.dat", SeasonsOf2000To2002());
     Forget();
     EXPECT_NEAR(SolexSolarLongitudeAfter(2002, 0), spring + mark, 1e-8) << "the last year is inside";
-    EXPECT_EQ(SolexSolarLongitudeAfter(2002, 360), SolexSolarLongitudeAfter(2002, 0));
     EXPECT_EQ(SolexSolarLongitudeAfter(2002, -270), SolexSolarLongitudeAfter(2001, 270));
-    EXPECT_EQ(SeasonMoment(2002, 0), SolexSolarLongitudeAfter(2002, 0));
     EXPECT_EQ(SeasonMoment(2002, -90, 0.5), SolexSolarLongitudeAfter(2001, 90) + 0.5);
     EXPECT_EQ(SeasonMoment(2000, -270), before) << "computed in silence outside the file";
     EXPECT_EQ(SolexSolarLongitudeAfter(2000, -270), NeverMoment);
@@ -121,15 +105,13 @@ TEST_F(EphemerisFiles, FollowTheNumberingOfDays) {
 }
 
 TEST_F(EphemerisFiles, ReplaceTheQuartersThatTheyHold) {
-    const auto numbers = QuartersOfLunations5To6();
     const Moment full = LunarQuarter(6, 180);
+    EXPECT_NEAR(full, PhaseAfter(NthNewMoon(FirstNewMoonOf2000 + 6), 180), 1e-5) << "without a file";
     const Moment outside = LunarQuarter(7, 180);
-    Write(first / "Lunations.dat", numbers);
+    Write(first / "Lunations.dat", QuartersOfLunations5To6());
     Forget();
     EXPECT_NEAR(SolexLunarQuarter(6, 180), full + mark, 1e-8);
     EXPECT_EQ(SolexLunarQuarter(6, -180), SolexLunarQuarter(5, 180));
-    EXPECT_EQ(SolexLunarQuarter(6, 360), SolexLunarQuarter(6, 0));
-    EXPECT_EQ(LunarQuarter(6, 180), SolexLunarQuarter(6, 180));
     EXPECT_EQ(SolexLunarQuarter(7, 180), NeverMoment);
     EXPECT_EQ(LunarQuarter(7, 180), outside);
 }
@@ -138,7 +120,6 @@ TEST_F(EphemerisFiles, TellConjunctionsByTheDayOfTheMolad) {
     Write(second / "SolexLunar.dat", {71000, 71001, 0.25, -0.75});
     Forget();
     EXPECT_EQ(SolexNewMoon(71001), TerrestrialToUniversal(Floor(TraditionalMolad(71001)) - 0.75));
-    EXPECT_EQ(SolexNewMoon(71002), NthNewMoon(71002 - 46509));
     EXPECT_NEAR(SolexNewMoon(71002), TraditionalMolad(71002), 1) << "the two count the same months";
 }
 
@@ -146,13 +127,10 @@ TEST_F(EphemerisFiles, SayWhatTheyDoNotHold) {
     Write(first / "EqSolstDE421.dat", SeasonsOf2000To2002());
     Write(first / "Lunations.dat", QuartersOfLunations5To6());
     Forget();
-    const auto early = ephemeris::ComplaintOfYear(-1999);
-    ASSERT_TRUE(early);
-    EXPECT_EQ(early->text,
+    EXPECT_EQ(ephemeris::ComplaintOfYear(-1999).value().text,
               "Requested year -1999 is prior to the earliest year 2000 in the SOLEX \"EqSolstDE421.dat\" database.");
-    const auto late = ephemeris::ComplaintOfLunation(7);
-    ASSERT_TRUE(late);
-    EXPECT_EQ(late->text, "Requested lunation 7 is after the last lunation 6 in the SOLEX \"Lunations.dat\" database.");
+    EXPECT_EQ(ephemeris::ComplaintOfLunation(7).value().text,
+              "Requested lunation 7 is after the last lunation 6 in the SOLEX \"Lunations.dat\" database.");
     EXPECT_FALSE(ephemeris::ComplaintOfYear(2000));
     EXPECT_FALSE(ephemeris::ComplaintOfLunation(6));
 }
@@ -165,16 +143,12 @@ TEST_F(EphemerisFiles, AreLeftOutWhenDamaged) {
     cut.pop_back();
     auto holed = SeasonsOf2000To2002();
     holed[7] = nan;
+    // clang-format off
     const std::vector<double> damaged[] = {
-        {},
-        {2000},
-        {2002, 2000, 1, 0},
-        {2000.5, 2001, 1, 0, 1, 1, 1, 1, 1, 1, 1, 1},
-        {nan, nan, nan, nan},
-        cut,
-        {0, 1e300, 1, 0},
-        holed,
+        {}, {2002, 2000, 1, 0}, {2000.5, 2001, 1, 0, 1, 1, 1, 1, 1, 1, 1, 1}, {nan, nan, nan, nan}, cut,
+        {0, 1e300, 1, 0}, holed,
     };
+    // clang-format on
     for (const auto& numbers : damaged) {
         Write(first / "EqSolstDE421.dat", numbers);
         Forget();

@@ -10,46 +10,30 @@
 
 #include <gtest/gtest.h>
 
-#include <cmath>
-
 namespace horvanta {
 namespace {
 
 constexpr double second = 1 / 86400.0;
 
-/// The moment at which Delta T's decimal year is `year`.
-Moment AtDecimalYear(double year) { return J2000 + (year - 2000) * 365.2421875; }
-
-/// Both sides of each join of the polynomials, and a year a third into each. The seconds are those of
+/// The end of each polynomial, and a year a third into it. The seconds are those of
 /// `DeltaT_EspenakMeeus` of Astronomy Engine 2.1.19 (npm astronomy-engine), which takes days from J2000:
 /// (year - 2000) * 365.24217 + 14.
 TEST(DeltaT, AgreesWithTheirAuthorsPolynomials) {
     constexpr std::pair<double, double> rows[] = {
-        {-6000, 195667.680}, {-500.001, 17203.695}, {-500, 17203.656},   {-167, 12398.113},  {499.999, 5710.142},
-        {500, 5710.045},     {866, 2443.722},       {1599.999, 120.252}, {1600, 120.000},    {1633, 75.991},
-        {1699.999, 8.992},   {1700, 8.830},         {1733, 11.446},      {1799.999, 13.757}, {1800, 13.720},
-        {1820, 11.864},      {1859.999, 7.569},     {1860, 7.620},       {1873, -1.729},     {1899.999, -2.703},
-        {1900, -2.790},      {1906, 5.102},         {1919.999, 21.187},  {1920, 21.200},     {1927, 24.104},
-        {1940.999, 24.772},  {1941, 24.773},        {1947, 27.800},      {1960.999, 33.550}, {1961, 33.580},
-        {1969, 39.210},      {1985.999, 54.867},    {1986, 54.878},      {1992, 58.328},     {2004.999, 64.720},
-        {2005, 64.671},      {2020, 71.599},        {2049.999, 93.000},  {2050, 93.000},     {2083, 163.633},
-        {2149.999, 328.477}, {2150, 328.480},       {9000, 164947.680},
+        {-6000, 195667.680}, {-500.001, 17203.695}, {-167, 12398.113},   {499.999, 5710.142}, {866, 2443.722},
+        {1599.999, 120.252}, {1633, 75.991},        {1699.999, 8.992},   {1733, 11.446},      {1799.999, 13.757},
+        {1820, 11.864},      {1859.999, 7.569},     {1873, -1.729},      {1899.999, -2.703},  {1906, 5.102},
+        {1919.999, 21.187},  {1927, 24.104},        {1940.999, 24.772},  {1947, 27.800},      {1960.999, 33.550},
+        {1969, 39.210},      {1985.999, 54.867},    {1992, 58.328},      {2004.999, 64.720},  {2020, 71.599},
+        {2049.999, 93.000},  {2083, 163.633},       {2149.999, 328.477}, {9000, 164947.680},
     };
     for (const auto& [year, seconds] : rows) {
-        const Moment x = AtDecimalYear(year);
+        const Moment x = J2000 + (year - 2000) * 365.2421875;  // the moment at which its decimal year is this
         EXPECT_NEAR(DeltaT(x, 1), seconds, 0.001) << year;
-        EXPECT_NEAR(DeltaT(x, 86400), seconds * second, 1e-8) << year;
-        SetDeltaTDisabled(true);
-        EXPECT_EQ(DeltaT(x, 1), 0) << year;
-        EXPECT_EQ(UniversalToTerrestrial(x), x) << year;
-        SetDeltaTDisabled(false);
     }
 }
 
 TEST(TimeScales, ConvertBackOverTheWholeRange) {
-    const LocaleRecord halfHourZone = PresetLocale("Tehran");
-    const LocaleRecord westward = PresetLocale("Times Square");
-    const LocaleRecord localMean = PresetLocale("Paris");
     struct Way {
         const char* name;
         Moment (*there)(Moment);
@@ -62,22 +46,20 @@ TEST(TimeScales, ConvertBackOverTheWholeRange) {
          0.001},
         {"local", [](Moment x) { return UniversalToLocal(x); }, [](Moment x) { return LocalToUniversal(x); }, 0.001},
         {"apparent", [](Moment x) { return LocalToApparent(x); }, [](Moment x) { return ApparentToLocal(x); }, 1},
-        {"Julian Day", MomentToJD, JDToMoment, 0.001},
         {"Modified Julian Day", MomentToMJD, MJDToMoment, 0.001},
         {"orbital date", MomentToOrbitalDate, OrbitalDateToMoment, 1},
         {"rotation-adjusted date", MomentToRAYDate, RAYDateToMoment, 40},
     };
-    for (const LocaleRecord* place : {&halfHourZone, &westward, &localMean}) {
-        Locale = *place;
+    for (const char* place : {"Tehran", "Times Square", "Paris"}) {
+        Locale = PresetLocale(place);
         for (const double epoch : {1.0, 730486.0}) {
             SetFixedDayEpoch(GregorianEpoch + epoch - 1, 1, "test");
             for (Moment x = MinFixedDay; x < MaxFixedDay; x += 9973.377) {
                 for (const auto& [name, there, back, tolerance] : ways) {
-                    EXPECT_NEAR(back(there(x)), x, tolerance * second) << name << " of " << x << " at " << place->Name;
+                    EXPECT_NEAR(back(there(x)), x, tolerance * second) << name << " of " << x << " at " << place;
                 }
                 EXPECT_NEAR(ApparentToUniversal(LocalToApparent(x)), LocalToUniversal(x), second) << x;
                 EXPECT_NEAR(RAYDateToMoment(MomentToRAYDate(x) + 1) - x, RAYYearLength(x), 40 * second) << x;
-                EXPECT_LE(std::fabs(EquationOfTime(x)), 0.5) << x;
             }
         }
         SetFixedDayEpoch(GregorianEpoch, 1, "rata die");
@@ -88,11 +70,8 @@ TEST(TimeScales, MeetAtTheirEpochs) {
     Locale = PresetLocale("Tehran");
     const Moment noon = GregorianToFixed(2000, 1, 1) + 0.5;
     EXPECT_EQ(MomentToJD(noon), 2451545);
-    EXPECT_EQ(MomentToMJD(noon), 51544.5);
-    EXPECT_NEAR(UniversalToStandard(noon) - noon, 3.5 / 24, 1e-9);
     EXPECT_NEAR((LocalToStandard(noon) - noon) * 1440, 210 - 51.337917 * 4, 1e-3);
     EXPECT_NEAR(JulianCenturies(noon) * 36525 * 86400, 63.86, 0.01);
-    EXPECT_EQ(MomentToRAYDate(GregorianEpoch), 1);
     SetDeltaTDisabled(true);
     EXPECT_EQ(MomentToOrbitalDate(GregorianEpoch), 1);
     for (Moment (*const convert)(Moment, const LocaleRecord&) :
@@ -110,19 +89,6 @@ TEST(SiderealTime, AgreesWithPublishedExamples) {
     for (Moment x = MinFixedDay; x < MaxFixedDay; x += 99991.377) {
         EXPECT_NEAR(SiderealDegrees(x), MeanSiderealDegrees(x), 1e-5) << x;
     }
-}
-
-/// Minutes and seconds at 0h Terrestrial Time from Meeus, Astronomical Algorithms, example 28.b, and the hour angles of
-/// the Sun by Astronomy Engine 2.1.19 (npm astronomy-engine; HourAngle at longitude 0, less the hour and 12).
-TEST(EquationOfTime, AgreesWithPublishedValues) {
-    const std::pair<Moment, double> rows[] = {
-        {TerrestrialToUniversal(GregorianToFixed(1992, 10, 13)), 822.7},
-        {GregorianToFixed(2024, 2, 11) + 0.5, -851.7},
-        {GregorianToFixed(2024, 5, 14), 219.0},
-        {GregorianToFixed(2024, 7, 26) + 0.25, -393.5},
-        {GregorianToFixed(2024, 11, 3) + 0.5, 987.0},
-    };
-    for (const auto& [universal, seconds] : rows) EXPECT_NEAR(EquationOfTime(universal) / second, seconds, 3);
 }
 
 }  // namespace

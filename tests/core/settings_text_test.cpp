@@ -11,9 +11,10 @@ StoredApplication OddValues() {
     StoredApplication values;
     for (int byte = 0; byte < 256; ++byte)
         values["Bytes"][std::to_string(byte)] = "a" + std::string(1, char(byte)) + "1";
-    const char* odd[] = {"",           " ",    "\"",     "\"\"", "\\",   "a\\",   "@",  "@@",
-                         "@Invalid()", "a=b",  "[Item]", "; #",  "a, b", "\\x41", "\n", "Jerusalem ירושלים",
-                         "\" \\",      "\\\"", "%20"};
+    // clang-format off
+    const char* odd[] = {"", " ", "\"", "\"\"", "\\", "a\\", "@", "@@", "@Invalid()", "a=b", "[Item]", "; #", "a, b",
+                         "\\x41", "\n", "Jerusalem ירושלים", "\" \\", "\\\"", "%20"};
+    // clang-format on
     for (std::size_t i = 0; i < std::size(odd); ++i) values["User 1"]["Key " + std::to_string(i)] = odd[i];
     values["a/b=[c]%41;#"]["d/e\nf"] = "g";
     return values;
@@ -74,9 +75,7 @@ TEST(SettingsText, LosesOneKeyByADamagedLine) {
             for (const auto& [section, keys] : values) {
                 for (const auto& [key, value] : keys) {
                     const auto found = read.find(section);
-                    const bool same =
-                        found != read.end() && found->second.contains(key) && found->second.at(key) == value;
-                    lost += !same;
+                    lost += found == read.end() || !found->second.contains(key) || found->second.at(key) != value;
                 }
             }
             EXPECT_LE(lost, begin == 0 ? 0 : 1) << line.substr(0, 40);

