@@ -8,7 +8,7 @@
 # ./test.sh walk   Persian days, Oriental months and moonrises over the centuries, each one
 source "$(dirname "$0")/tools/setup.sh"
 
-form_tests=(build/release/tests/horvanta_{controls,keys,looks,program,reach,reports,windows}_tests)
+form_tests=(build/release/tests/horvanta_{controls,keys,program,reach,reports,windows}_tests)
 
 heading() { printf '\n== %s\n' "$1"; }
 
