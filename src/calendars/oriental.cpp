@@ -242,9 +242,9 @@ std::int64_t IndexOfYear(std::int64_t count) {
     return YearIndexOf(Floor((static_cast<double>(count) - 0.5) * MeanTropicalYear + OrientEpoch()));
 }
 
-/// The year of a month and of the days from an epoch.
+/// The year of a month and of the days from an epoch, as near as a year can be.
 std::int64_t YearAt(std::int32_t month, double days) {
-    return WholeNumber<std::int64_t>(Floor(1.5 - month / 12.0 + days / MeanTropicalYear));
+    return WholeNumber<std::int32_t>(Floor(1.5 - month / 12.0 + days / MeanTropicalYear));
 }
 
 /// How far the count of the cycles is ahead of the years shown.
