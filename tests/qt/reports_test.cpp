@@ -33,6 +33,7 @@ class ReportsTest final : public TestOfProgram {
         ChooseFile(Path("a"), 2);
         session.program.frame.ListPostpone19years.Click();
         session.frame().Draw();
+        session.AwaitActive();
         auto* dialog = session.Dialog(session.program.reports.finished.form);
         QCOMPARE(QApplication::activeModalWidget(), dialog);
         QVERIFY(!session.Dialog(session.program.reports.progress.form)->isVisible());
