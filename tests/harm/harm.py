@@ -176,11 +176,13 @@ DAMAGES = {
 
 
 def follows(key, other):
-    """Whether one key may change with another. A window that opens, that lost one side of its place or whose frame is
-    smaller may have to give way."""
+    """Whether one key may change with another. A window that nobody had placed may give way once it opens or has lost a
+    side of its place; in a smaller frame every window may."""
     form, _, name = key.partition("/")
     is_place = other.endswith(("/Left", "/Top"))
-    moves = form == "HorvantaMDI" or (name in ("Chk", "Left", "Top") and other.startswith(form + "/"))
+    is_chosen = other + "=" in PROGRAM_SETTINGS
+    loosens = name in ("Chk", "Left", "Top") and other.startswith(form + "/")
+    moves = form == "HorvantaMDI" or (loosens and not is_chosen)
     return other in (key, SHADES.get(key)) or (is_place and moves)
 
 
