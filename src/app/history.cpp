@@ -30,7 +30,7 @@ void History::Note() {
     if (!stops_.empty() && isShown(stops_[at_])) return;
     const bool runsOn = KeyHeld && at_ > 0 && at_ + 1 == stops_.size();
     stops_.resize(runsOn ? at_ : stops_.empty() ? 0 : at_ + 1, {0, 0, places_.Chosen()});
-    if (stops_.size() == longest) stops_.erase(stops_.begin());
+    if (stops_.size() == longest) stops_.pop_front();
     stops_.push_back({DisplayedMoment, GregorianEpoch, places_.Chosen()});
     at_ = stops_.size() - 1;
     EnableItems();

@@ -4,7 +4,7 @@
 #include "core/shell.h"
 
 #include <cstddef>
-#include <vector>
+#include <deque>
 
 namespace horvanta {
 
@@ -35,7 +35,7 @@ class History {
 
     HorvantaMDI& frame_;
     Places& places_;
-    std::vector<Stop> stops_;
+    std::deque<Stop> stops_;
     std::size_t at_ = 0;  ///< The stop that is displayed.
 };
 

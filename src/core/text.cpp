@@ -27,14 +27,14 @@ struct Decimal {
 };
 
 Decimal DecimalOf(double x) {
-    std::array<char, 32> text;
+    std::array<char, 32> text;  // d.dddddddddddddde+dd
     const auto end = std::to_chars(text.begin(), text.end(), std::fabs(x), std::chars_format::scientific, 14).ptr;
-    std::string digits(text.begin(), end);
-    const std::size_t exponentMark = digits.find('e');
-    const int exponent = std::stoi(digits.substr(exponentMark + 1));
-    digits.resize(exponentMark);
-    digits.erase(1, 1);
-    return {digits, exponent + 1};
+    constexpr std::size_t exponentMark = 16;
+    int exponent = 0;
+    std::from_chars(&text[exponentMark + 2], end, exponent);
+    const bool isSmall = text[exponentMark + 1] == '-';
+    text[1] = text[0];
+    return {{&text[1], exponentMark - 1}, (isSmall ? -exponent : exponent) + 1};
 }
 
 /// The digits of the decimal down to `places` behind the point, rounded half up, as one whole number without a point.
@@ -52,6 +52,14 @@ std::string RoundedDigits(const Decimal& decimal, int places) {
         ++*last;
     }
     return digits;
+}
+
+/// The digits of a finite number's size, rounded so. Nothing of a whole number has to be rounded.
+std::string DigitsOf(double x, int places) {
+    constexpr double digitsRunOut = 1e15;
+    const double size = std::fabs(x);
+    if (size >= digitsRunOut || size != Floor(size)) return RoundedDigits(DecimalOf(x), places);
+    return std::to_string(WholeNumber<std::int64_t>(size)).append(static_cast<std::size_t>(places), '0');
 }
 
 /// A typed number with a leading typographic minus sign replaced by "-", and without a leading plus sign.
@@ -95,7 +103,7 @@ std::string FormatNumber(double x, std::string_view format) {
     const std::size_t point = std::min(format.find('.'), format.size());
     const std::size_t places = format.size() - std::min(point + 1, format.size());
 
-    std::string digits = RoundedDigits(DecimalOf(x), static_cast<int>(places));
+    std::string digits = DigitsOf(x, static_cast<int>(places));
     digits.erase(0, digits.find_first_not_of('0'));
     const bool zero = digits.empty();
     if (digits.size() < point + places) digits.insert(0, point + places - digits.size(), '0');
@@ -201,7 +209,9 @@ std::string ClockTime(std::int64_t count, std::span<const TimeField> fields, boo
     for (const TimeField& field : fields) {
         const bool hours = &field == &fields.front();
         if (!hours) text += ':';
-        text += FormatNumber(static_cast<double>(count / field.units), hours && !padHours ? "0" : "00");
+        const std::int64_t value = count / field.units;
+        if (value < 10 && (padHours || !hours)) text += '0';
+        text += std::to_string(value);
         count %= field.units;
     }
     return text;
