@@ -4,6 +4,10 @@
 #include "astro/lunar_phases.h"
 #include "astro/moon.h"
 #include "astro/sun_events.h"
+#include "astro/timescales.h"
+#include "core/memo.h"
+
+#include <cstdint>
 
 namespace horvanta {
 namespace {
@@ -49,10 +53,24 @@ Moment Search(const Crescent& crescent, Moment date, int step, const LocaleRecor
     return NeverMoment;
 }
 
-/// From the local day of the new moon on, that day included.
+/// A request for a lunation's crescent, with all that it depends on.
+struct CrescentKey {
+    Moment newMoon;
+    int away;
+    std::int64_t numbering;
+    std::int64_t deltaT;
+    LocaleRecord place;
+
+    bool operator==(const CrescentKey&) const = default;
+};
+
+/// From the local day of the new moon on, that day included. The days about a new moon ask for the same two.
 Moment SearchFromNewMoon(const Crescent& crescent, Moment newMoon, const LocaleRecord& place) {
-    const FixedDay day = Floor(UniversalToStandard(newMoon, place));
-    return Search(crescent, day - crescent.away, crescent.away, place);
+    static Memo<2, CrescentKey, Moment> memo;
+    return memo.Of({newMoon, crescent.away, NumberingSerial, DeltaTSerial, place}, [&] {
+        const FixedDay day = Floor(UniversalToStandard(newMoon, place));
+        return Search(crescent, day - crescent.away, crescent.away, place);
+    });
 }
 
 /// In the sense of time towards the new moon: the crescent of the day's own lunation if it can be seen.

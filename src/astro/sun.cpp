@@ -41,7 +41,7 @@ double DegreesPast(Moment x, double degrees) { return ModuloRange(SolarLongitude
 }  // namespace
 
 double SolarLongitude(Moment universal, bool normalise, bool isCenturies) {
-    static Memo<1, double, double> memo;
+    static Memo<16, double, double> memo;  // the twilights of a day begin their searches at the same two moments
     const double centuries = CenturiesOf(universal, isCenturies);
     const double degrees = memo.Of(centuries, [=] { return LongitudeAt(centuries); });
     return normalise ? Degrees(degrees) : degrees;

@@ -4,9 +4,11 @@
 #include "astro/local_time.h"
 #include "astro/sun.h"
 #include "astro/timescales.h"
+#include "core/memo.h"
 
 #include <algorithm>
 #include <cmath>
+#include <cstdint>
 #include <utility>
 
 namespace horvanta {
@@ -27,9 +29,9 @@ double HorizonDip(const LocaleRecord& place) {
     return place.Elevation <= 0 ? 0 : ArcCosDeg(earthRadius / (earthRadius + place.Elevation));
 }
 
-double SunDepression(const LocaleRecord& place) {
-    return DegMinSec(0, 50, 29) + (horizon::options.UseElevation ? HorizonDip(place) : 0);
-}
+double HorizonDipInUse(const LocaleRecord& place) { return horizon::options.UseElevation ? HorizonDip(place) : 0; }
+
+double SunDepression(const LocaleRecord& place) { return DegMinSec(0, 50, 29) + HorizonDipInUse(place); }
 
 double SineOffset(Moment universal, double depression, const LocaleRecord& place) {
     const double sine = SineOfDeclination(universal);
@@ -59,8 +61,23 @@ Moment MomentOfDepression(Moment local, double depression, bool morning, const L
     return moment;
 }
 
-Moment Dawn(Moment date, double depression, const LocaleRecord& place) {
-    const FixedDay day = Floor(date);
+namespace {
+
+/// A request for a dawn or a dusk, with all that it depends on.
+struct TwilightKey {
+    FixedDay day;
+    double depression;
+    bool morning;
+    std::int64_t numbering;
+    std::int64_t deltaT;
+    double latitude;
+    double longitude;
+    double zone;
+
+    bool operator==(const TwilightKey&) const = default;
+};
+
+Moment FindDawn(FixedDay day, double depression, const LocaleRecord& place) {
     const Moment first = MomentOfDepression(day + 0.25, depression, true, place);
     if (isNever(first)) return NeverMoment;
     const Moment second = MomentOfDepression(first >= day ? first : day, depression, true, place);
@@ -68,12 +85,28 @@ Moment Dawn(Moment date, double depression, const LocaleRecord& place) {
 }
 
 /// The second search stays in the date: a first moment past midnight sends it to the date's last hundredth.
-Moment Dusk(Moment date, double depression, const LocaleRecord& place) {
-    const FixedDay day = Floor(date);
+Moment FindDusk(FixedDay day, double depression, const LocaleRecord& place) {
     const Moment first = MomentOfDepression(day + 0.75, depression, false, place);
     if (isNever(first)) return NeverMoment;
     const Moment second = MomentOfDepression(first >= day + 1 ? day + 0.99 : first, depression, false, place);
     return isNever(second) ? NeverMoment : LocalToStandard(second, place);
+}
+
+/// Several windows ask for those of a day and of its neighbours.
+Moment Twilight(Moment date, double depression, bool morning, const LocaleRecord& place) {
+    static Memo<16, TwilightKey, Moment> memo;
+    const FixedDay day = Floor(date);
+    return memo.Of({day, depression, morning, NumberingSerial, DeltaTSerial, place.LatRad, place.Longitude, place.Zone},
+                   [&] { return (morning ? FindDawn : FindDusk)(day, depression, place); });
+}
+
+}  // namespace
+
+Moment Dawn(Moment date, double depression, const LocaleRecord& place) {
+    return Twilight(date, depression, true, place);
+}
+Moment Dusk(Moment date, double depression, const LocaleRecord& place) {
+    return Twilight(date, depression, false, place);
 }
 
 Moment Sunrise(Moment date, const LocaleRecord& place) { return Dawn(date, SunDepression(place), place); }

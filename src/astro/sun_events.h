@@ -26,8 +26,11 @@ constexpr double PartOf(double days, int parts) { return isNever(days) ? NeverMo
 /// Degrees by which the elevation of a place lowers the horizon; 0 at or below sea level.
 double HorizonDip(const LocaleRecord& place = Locale);
 
+/// The same if the user has `UseElevation`, else 0.
+double HorizonDipInUse(const LocaleRecord& place = Locale);
+
 /// Degrees of the Sun's centre below the horizon at sunrise and sunset: refraction and half the Sun's breadth, and the
-/// dip of the horizon if the user has `UseElevation`.
+/// dip of the horizon in use.
 double SunDepression(const LocaleRecord& place = Locale);
 
 /// The sine of the angle between the Sun's hour angle at a depression (degrees) and six o'clock; beyond 1 in size where

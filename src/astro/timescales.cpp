@@ -46,8 +46,10 @@ double DeltaTSeconds(double year) {
     const DeltaTRow* row = std::ranges::find_if(deltaTRows, [year](const DeltaTRow& r) { return year < r.until; });
     if (row == std::end(deltaTRows)) --row;
     const double t = (year - row->origin) / row->unit;
-    double seconds = 0;
-    for (auto c = row->coefficients.rbegin(); c != row->coefficients.rend(); ++c) seconds = seconds * t + *c;
+    auto c = row->coefficients.rbegin();
+    while (*c == 0) ++c;
+    double seconds = *c;
+    while (++c != row->coefficients.rend()) seconds = seconds * t + *c;
     return seconds - row->perYearBefore2150 * (2150 - year);
 }
 

@@ -1,10 +1,12 @@
 #include "calendars/civil_days.h"
 
+#include "astro/timescales.h"
 #include "calendars/day_rules.h"
 #include "calendars/easter.h"
 #include "core/memo.h"
 #include "core/text.h"
 
+#include <algorithm>
 #include <string>
 
 namespace horvanta {
@@ -139,6 +141,8 @@ constexpr Rule orthodoxRules[] = {
     {12, Day(25), AllYears, "Eastern Orthodox Christmas"},
 };
 // clang-format on
+static_assert(std::ranges::is_sorted(civilRules, {}, &Rule::month));
+static_assert(std::ranges::is_sorted(orthodoxRules, {}, &Rule::month));
 
 void AddMovable(FixedDay fixed, FixedDay easter, std::string_view prefix, std::vector<DayText>& day) {
     DayText movable = WesternMovableDay(fixed, easter, prefix);
@@ -162,7 +166,13 @@ std::vector<DayText> CivilDays(const GregorianDate& date) {
     return day;
 }
 
-std::vector<DayText> CivilDaysOf(Moment x) { return CivilDays(DateOn<FixedToGregorianDate>(x)); }
+namespace {
+
+std::vector<DayText> FindCivilDays(FixedDay day) { return CivilDays(DateOn<FixedToGregorianDate>(day)); }
+
+}  // namespace
+
+std::vector<DayText> CivilDaysOf(Moment x) { return DateOn<FindCivilDays>(x, DeltaTSerial, easter::options); }
 
 std::vector<std::string> OrthodoxDays(const JulianDate& date) {
     if (date.year < firstChristianYear) return {};
@@ -199,6 +209,14 @@ std::vector<DayText> CivilDays(const QuaDate& date) {
     Apply(civilRules, {date.year, date.month, date.day, date.monthLength, date.weekday}, day);
     return day;
 }
+
+namespace {
+
+std::vector<DayText> FindCivilDays(FixedDay day) { return CivilDays(QuaDateOn(day)); }
+
+}  // namespace
+
+std::vector<DayText> CivilDaysOf(Moment x) { return DateOn<FindCivilDays>(x, DeltaTSerial, options, easter::options); }
 
 }  // namespace quartane
 

@@ -26,6 +26,7 @@ namespace quartane {
 /// follow the Gregorian year, Easter is the Gregorian one; under the others it stands by the moon of the sky and, as a
 /// second one, on its own day of the year.
 std::vector<DayText> CivilDays(const QuaDate& date);
+std::vector<DayText> CivilDaysOf(Moment x);
 
 }  // namespace quartane
 

@@ -1,5 +1,7 @@
 #include "calendars/day_rules.h"
 
+#include <algorithm>
+
 namespace horvanta::day_rules {
 namespace {
 
@@ -26,7 +28,9 @@ bool IncludesDay(const Rule& rule, const Date& date) {
 bool Holds(const Rule& rule, const Date& date) { return IncludesDay(rule, date) && Includes(rule.years, date.year); }
 
 void Apply(std::span<const Rule> rules, const Date& date, std::vector<DayText>& day) {
-    for (const Rule& rule : rules) {
+    const auto from = std::ranges::lower_bound(rules, date.month, {}, &Rule::month);
+    const auto end = std::ranges::upper_bound(rules, date.month + 1, {}, &Rule::month);
+    for (const Rule& rule : std::span(from, end)) {
         if (!Holds(rule, date)) continue;
         day.push_back({std::string(rule.text), rule.kind});
         if (rule.tail != nullptr) day.back().text += rule.tail(date);

@@ -73,7 +73,7 @@ struct Rule {
 
 bool Holds(const Rule& rule, const Date& date);
 
-/// What the rules, in their order, say of a date.
+/// What the rules, which stand by months, say of a date in their order.
 void Apply(std::span<const Rule> rules, const Date& date, std::vector<DayText>& day);
 
 }  // namespace horvanta::day_rules

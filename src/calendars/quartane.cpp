@@ -186,6 +186,6 @@ constinit const CalendarContract Calendar{.name = "Quartane",
                                           .MonthNames = MonthNames,
                                           .DayNames = DayNames,
                                           .PresentName = CalendarName,
-                                          .DaysOf = [](Moment x) { return CivilDays(QuaDateOn(x)); }};
+                                          .DaysOf = CivilDaysOf};
 
 }  // namespace horvanta::quartane

@@ -177,14 +177,17 @@ std::int32_t CheckIfQuaCycle() {
     return odd ? 1 : -1;
 }
 
-std::vector<std::string> LeapChoices() {
-    std::vector<std::string> texts;
-    std::transform(choices, choices + NumberOfChoices(), std::back_inserter(texts), TextOf);
-    return texts;
+const std::vector<std::string>& LeapChoices() {
+    static Memo<1, Options, std::vector<std::string>> memo;
+    return memo.Of(options, [] {
+        std::vector<std::string> texts;
+        std::transform(choices, choices + NumberOfChoices(), std::back_inserter(texts), TextOf);
+        return texts;
+    });
 }
 
 std::int32_t FindQuaLeapRule(std::string_view key) {
-    const std::vector<std::string> texts = LeapChoices();
+    const std::vector<std::string>& texts = LeapChoices();
     const auto found = std::ranges::find_if(texts, [key](const std::string& text) { return text.starts_with(key); });
     return found == texts.end() ? -1 : static_cast<std::int32_t>(found - texts.begin());
 }

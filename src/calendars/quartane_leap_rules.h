@@ -48,7 +48,7 @@ void SetEvenCycleMode(bool middleLeapFirst);
 std::int32_t CheckIfQuaCycle();
 
 /// The entries of the list of rules, "52/293 = 52 symmetrically ...", as it is offered now. Empty ones separate groups.
-std::vector<std::string> LeapChoices();
+const std::vector<std::string>& LeapChoices();
 
 /// The first entry that begins with a key; -1 if none does.
 std::int32_t FindQuaLeapRule(std::string_view key);

@@ -43,12 +43,13 @@ class Memo {
     std::size_t oldest_ = 0;
 };
 
-/// The date of a moment by a conversion, remembered for the last few days under the numbering and whatever else the
-/// dates of that calendar depend on. All who show one day share one conversion.
+/// The date of a moment by a conversion, or what else it makes of a day, remembered for two months of days under the
+/// numbering and whatever else the dates of that calendar depend on. All who show one day share one conversion, and so
+/// does a month grid from day to day.
 template <auto Convert, class... Others>
 const auto& DateOn(Moment x, const Others&... others) {
     using Key = std::tuple<FixedDay, std::int64_t, Others...>;
-    static Memo<4, Key, decltype(Convert(x))> memo;
+    static Memo<64, Key, decltype(Convert(x))> memo;
     const FixedDay day = Floor(x);
     return memo.Of(Key(day, NumberingSerial, others...), [day] { return Convert(day); });
 }

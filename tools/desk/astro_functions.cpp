@@ -86,6 +86,7 @@ std::vector<DeskFunction> AstroFunctions() {
         Row("SameLongitudeYearsLater", SameLongitudeYearsLater),
         Row("MomentDifference", MomentDifference),
         PlaceRow("HorizonDip", HorizonDip),
+        PlaceRow("HorizonDipInUse", HorizonDipInUse),
         PlaceRow("SunDepression", SunDepression),
         PlaceRow("SineOffset", SineOffset),
         PlaceRow("ApproxMomentOfDepression", ApproxMomentOfDepression),
