@@ -40,7 +40,7 @@ double SumOfTerms(double c) {
 double ObliquityAt(double c) { return (((0.001813 * c - 0.00059) * c - 46.815) * c + 84381.448) / 3600; }
 
 double NutationAt(double centuries) {
-    static Memo<1, double, double> memo;
+    static Memo<8, double, double> memo;
     return memo.Of(centuries, [=] { return SumOfTerms(centuries); });
 }
 

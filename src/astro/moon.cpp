@@ -130,7 +130,7 @@ Equatorial ToEquator(double longitude, double latitude, double obliquity) {
 }
 
 Equatorial PositionAt(Moment universal) {
-    static Memo<1, double, Equatorial> memo;
+    static Memo<8, double, Equatorial> memo;
     const double centuries = JulianCenturies(universal);
     return memo.Of(centuries,
                    [=] { return ToEquator(Longitude(universal), Latitude(universal), ObliquityAt(centuries)); });
@@ -150,19 +150,19 @@ double CosElongation(Moment universal) { return CosDeg(Latitude(universal)) * Co
 }  // namespace
 
 double Longitude(Moment universal) {
-    static Memo<1, double, double> memo;
+    static Memo<8, double, double> memo;
     const double centuries = JulianCenturies(universal);
     return memo.Of(centuries, [=] { return LongitudeAt(centuries); });
 }
 
 double Latitude(Moment universal) {
-    static Memo<1, double, double> memo;
+    static Memo<8, double, double> memo;
     const double centuries = JulianCenturies(universal);
     return memo.Of(centuries, [=] { return LatitudeAt(centuries); });
 }
 
 double Distance(Moment universal) {
-    static Memo<1, double, double> memo;
+    static Memo<8, double, double> memo;
     const double centuries = JulianCenturies(universal);
     return memo.Of(centuries, [=] { return DistanceAt(centuries); });
 }
@@ -191,9 +191,10 @@ double TopocentricAltitude(Moment universal, const LocaleRecord& place) {
     return altitude - ParallaxAt(altitude, Distance(universal));
 }
 
+double HorizonLift(Moment universal) { return DegMinSec(0, 34 + Diameter(universal) / 2, 0); }
+
 double ObservedAltitude(Moment universal, const LocaleRecord& place) {
-    const double dip = horizon::options.UseElevation ? HorizonDip(place) : 0;
-    return TopocentricAltitude(universal, place) + dip + DegMinSec(0, 34 + Diameter(universal) / 2, 0);
+    return TopocentricAltitude(universal, place) + HorizonDipInUse(place) + HorizonLift(universal);
 }
 
 double Bearing(Moment universal, const LocaleRecord& place) {

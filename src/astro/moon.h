@@ -31,8 +31,12 @@ double Parallax(Moment universal, const LocaleRecord& place = Locale);
 /// The altitude with the parallax taken off.
 double TopocentricAltitude(Moment universal, const LocaleRecord& place = Locale);
 
-/// The altitude that is 0 when the Moon rises and sets: with the dip of the horizon, if the user has elevations used,
-/// 34' of refraction and a little for the Moon's half breadth, whose degrees count as minutes.
+/// How many degrees the Moon seems lifted at the horizon: 34' of refraction and a little for its half breadth, whose
+/// degrees count as minutes.
+double HorizonLift(Moment universal);
+
+/// The altitude that is 0 when the Moon rises and sets: lifted so, and with the dip of the horizon, if the user has
+/// elevations used.
 double ObservedAltitude(Moment universal, const LocaleRecord& place = Locale);
 
 /// The direction in which the Moon stands, clockwise from north.

@@ -3,10 +3,19 @@
 #include "astro/bisection.h"
 #include "astro/local_time.h"
 #include "astro/moon.h"
+#include "astro/sidereal.h"
 #include "astro/sun_events.h"
+#include "astro/timescales.h"
+#include "core/memo.h"
 
 #include <algorithm>
+#include <array>
 #include <cmath>
+#include <cstddef>
+#include <cstdint>
+#include <iterator>
+#include <limits>
+#include <tuple>
 
 namespace horvanta {
 namespace {
@@ -36,72 +45,104 @@ double DaysFromPassage(const LocaleRecord& place) {
     return sine < 1 ? std::min(0.5, ArcSinDeg(sine) / degreesPerDay + margin) : 0.5;
 }
 
-/// The Moon at a moment: degrees, and the distance in kilometres.
+/// The Moon at a moment: its declination and its hour angle at Greenwich in degrees, its distance in kilometres.
 struct Sight {
     double hourAngle, declination, distance;
 };
 
-Sight SightAt(Moment universal, const LocaleRecord& place) {
-    return {lunar::HourAngle(universal, place), lunar::Declination(universal), lunar::Distance(universal)};
+/// The searches of a day, of its neighbours and at all places meet at the same moments.
+const Sight& SightAt(Moment universal) {
+    using Key = std::tuple<Moment, std::int64_t, std::int64_t>;
+    static Memo<16, Key, Sight> memo;
+    return memo.Of(Key(universal, NumberingSerial, DeltaTSerial), [=] {
+        return Sight{ApparentSiderealDegrees(universal) - lunar::RightAscension(universal),
+                     lunar::Declination(universal), lunar::Distance(universal)};
+    });
 }
 
-/// The Moon over the day about a passage, interpolated by parabolas between beginning, middle and end.
+/// The Moon over the day about a passage, interpolated between half days by cubics through the four about a moment.
 class MoonOverADay {
   public:
-    MoonOverADay(Moment middle, const LocaleRecord& place)
-        : middle_(middle),
-          sinLatitude_(std::sin(place.LatRad)),
+    MoonOverADay(Moment passage, const LocaleRecord& place)
+        : sinLatitude_(std::sin(place.LatRad)),
           cosLatitude_(std::cos(place.LatRad)),
-          before_(SightAt(middle - 0.5, place)),
-          after_(SightAt(middle + 0.5, place)),
-          now_(SightAt(middle, place)),
-          zero_(lunar::ObservedAltitude(middle, place) - lunar::TopocentricAltitude(middle, place)) {
-        before_.hourAngle = Unwound(before_.hourAngle, -degreesPerDay / 2);
-        after_.hourAngle = Unwound(after_.hourAngle, degreesPerDay / 2);
+          eastLongitude_(place.Longitude),
+          zero_(HorizonDipInUse(place) + lunar::HorizonLift(passage)),
+          first_(Floor(2 * passage - 1) / 2) {
+        for (std::size_t i = 0; i < sights_.size(); ++i) {
+            sights_[i] = SightAt(first_ + (static_cast<double>(i) - 1) / 2);
+            if (i > 0) sights_[i].hourAngle = Unwound(sights_[i].hourAngle, sights_[i - 1].hourAngle);
+        }
     }
 
-    /// In degrees, within 0.005.
+    /// In degrees, within 0.001.
     double ObservedAltitude(Moment x) const {
-        const double hourAngle = At(x, &Sight::hourAngle) * RadiansPerDegree;
-        const double declination = At(x, &Sight::declination) * RadiansPerDegree;
+        const Sight moon = At(x);
+        const double hourAngle = (moon.hourAngle + eastLongitude_) * RadiansPerDegree;
+        const double declination = moon.declination * RadiansPerDegree;
         const double sine =
             sinLatitude_ * std::sin(declination) + cosLatitude_ * std::cos(declination) * std::cos(hourAngle);
         const double cosine = std::sqrt(std::max(0.0, 1 - sine * sine));
-        const double parallax = EquatorialRadius * cosine / At(x, &Sight::distance);
-        return RadToDeg(std::atan2(sine, cosine) - parallax) + zero_;
+        return RadToDeg(std::atan2(sine, cosine) - EquatorialRadius * cosine / moon.distance) + zero_;
     }
 
   private:
-    double At(Moment x, double Sight::*field) const {
-        const double days = x - middle_;
-        const double curve = before_.*field + after_.*field - 2 * now_.*field;
-        return now_.*field + days * (after_.*field - before_.*field + 2 * days * curve);
+    static constexpr std::size_t intervals = 3;  // half days that a day can touch
+
+    Sight At(Moment x) const {
+        const double halfDays = 2 * (x - first_);
+        const auto i = std::min(intervals - 1, WholeNumber<std::size_t>(halfDays));
+        const double t = halfDays - static_cast<double>(i);
+        const double weights[] = {t * (t - 1) * (2 - t) / 6, (t + 1) * (t - 1) * (t - 2) / 2, (t + 1) * t * (2 - t) / 2,
+                                  (t + 1) * t * (t - 1) / 6};
+        Sight sum{};
+        for (std::size_t k = 0; k < std::size(weights); ++k) {
+            sum.hourAngle += weights[k] * sights_[i + k].hourAngle;
+            sum.declination += weights[k] * sights_[i + k].declination;
+            sum.distance += weights[k] * sights_[i + k].distance;
+        }
+        return sum;
     }
 
-    /// An hour angle, wound to about so far from the middle one.
-    double Unwound(double hourAngle, double about) const {
-        return now_.hourAngle + about + ModuloRange(hourAngle - now_.hourAngle - about, -180, 180);
+    /// An hour angle, wound to half a day after another one.
+    static double Unwound(double hourAngle, double before) {
+        constexpr double turn = degreesPerDay / 2;
+        return before + turn + ModuloRange(hourAngle - before - turn, -180, 180);
     }
 
-    Moment middle_;
     double sinLatitude_;
     double cosLatitude_;
-    Sight before_;
-    Sight after_;
-    Sight now_;
-    double zero_;  ///< What the observed altitude has above the Moon's own.
+    double eastLongitude_;
+    double zero_;   ///< What the observed altitude has above the Moon's own.
+    Moment first_;  ///< The half day in which the day begins; the sights begin one before.
+    std::array<Sight, intervals + 3> sights_;
 };
+
+/// By how many degrees an interpolated altitude can be off that was mended so many days from there: more than twice
+/// what was ever seen.
+double DoubtAt(double days) {
+    constexpr double greatest = 0.002;
+    constexpr double least = 0.0002;
+    constexpr double driftPerDay = 0.05;
+    return std::min(greatest, least + driftPerDay * std::fabs(days));
+}
 
 /// The universal moment within half a day of a passage at which the observed altitude crosses 0.
 Moment CrossingNear(Moment passage, Horizon horizon, const LocaleRecord& place) {
     constexpr double oneSecond = 1.1574074074074073e-05;
-    constexpr double doubt = 0.01;  // degrees, more than twice what interpolation is off
     const MoonOverADay moon(passage, place);
     const double sign = horizon == Horizon::Rise ? 1 : -1;
-    const Moment found = Halve(
-        {passage - 0.5, passage + 0.5}, oneSecond, doubt, [&](Moment x) { return sign * moon.ObservedAltitude(x); },
-        [&](Moment x) { return (lunar::ObservedAltitude(x, place) > 0) == (horizon == Horizon::Rise); });
-    return Round(lunar::ObservedAltitude(found, place)) == 0 ? found : NeverMoment;
+    Moment mendedAt = std::numeric_limits<Moment>::infinity();
+    double error = 0;
+    const auto guess = [&](Moment x) { return sign * (moon.ObservedAltitude(x) - error) / DoubtAt(x - mendedAt); };
+    const auto reached = [&](Moment x) {
+        const double exact = lunar::ObservedAltitude(x, place);
+        error = moon.ObservedAltitude(x) - exact;
+        mendedAt = x;
+        return (exact > 0) == (horizon == Horizon::Rise);
+    };
+    const Moment found = Halve({passage - 0.5, passage + 0.5}, oneSecond, 1, guess, reached);
+    return Round(moon.ObservedAltitude(found)) == 0 ? found : NeverMoment;
 }
 
 /// Looks at all passages whose crossing may fall into the date.
