@@ -5,6 +5,8 @@
 #include <QGridLayout>
 #include <QLabel>
 
+#include <vector>
+
 namespace horvanta {
 namespace {
 
@@ -58,9 +60,11 @@ void GridWidget::DrawCell(const Grid& grid, std::size_t part) {
 }
 
 void GridWidget::KeepRoom(const QString& widest) {
+    std::vector<QLabel*> values;
     for (std::size_t part = 0; part < parts_.size(); ++part) {
-        if (parts_[part] && part % columns_ > 0) KeepRoomIn(*parts_[part], widest);
+        if (parts_[part] && part % columns_ > 0) values.push_back(parts_[part]);
     }
+    KeepRoomIn(values, widest);
     layout()->activate();  // tells the layout around the table at once
 }
 

@@ -14,6 +14,7 @@
 #include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
+#include <QMargins>
 #include <QProgressBar>
 #include <QPushButton>
 #include <QRadioButton>
@@ -75,6 +76,12 @@ struct LabelFace final : FaceOf<Label, QLabel> {
     }
     bool isHit(const QPoint& where) const override { return by.rect().contains(where); }
 
+    /// Without showing it: a label lays a text out anew for each of its hints.
+    void KeepRoom() override {
+        const QMargins frame = by.contentsMargins() + by.margin();
+        const int width = by.fontMetrics().horizontalAdvance(QString::fromStdString(shown.widest));
+        by.setMinimumWidth(frame.left() + width + frame.right() + 1);
+    }
     void SetText(const QString& text) override {
         by.setText(text);
         if (shown.widest.empty()) return;

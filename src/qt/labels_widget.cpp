@@ -22,11 +22,14 @@ QLabel* LabelsWidget::MakePanel() {
     return panel;
 }
 
-void LabelsWidget::KeepRoomIn(QLabel& label, const QString& widest) {
-    const QString shown = label.text();
-    label.setText(widest);
-    label.setMinimumWidth(label.sizeHint().width());
-    label.setText(shown);
+void LabelsWidget::KeepRoomIn(const std::vector<QLabel*>& labels, const QString& widest) {
+    if (labels.empty()) return;
+    QLabel& last = *labels.back();
+    const QString shown = last.text();
+    last.setText(widest);
+    const int width = last.sizeHint().width();
+    last.setText(shown);
+    for (QLabel* label : labels) label->setMinimumWidth(width);
 }
 
 /// Labels pass what the mouse does on to their parent.

@@ -20,8 +20,8 @@ class LabelsWidget : public QWidget {
     QLabel* MakeLabel();
     QLabel* MakePanel();
 
-    /// Keeps room in a label for a text.
-    static void KeepRoomIn(QLabel& label, const QString& widest);
+    /// Keeps room for a text in labels that are no wider around it than the last of them.
+    static void KeepRoomIn(const std::vector<QLabel*>& labels, const QString& widest);
 
     void mouseReleaseEvent(QMouseEvent* event) override;
 

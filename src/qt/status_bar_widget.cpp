@@ -46,7 +46,7 @@ void StatusBarWidget::Draw(const StatusBar& bar) {
 }
 
 void StatusBarWidget::KeepRoom(const QString& widest) {
-    for (QLabel* panel : parts_) KeepRoomIn(*panel, widest);
+    KeepRoomIn(parts_, widest);
     layout()->activate();  // tells the layout around the bar at once
 }
 
