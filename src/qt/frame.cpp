@@ -236,9 +236,9 @@ Pane Frame::PaneOf(const Child& child) const {
     return pane;
 }
 
-/// Windows stay where they stand as long as that is no worse than it was when they were placed. So nothing moves back
-/// and forth with the length of months, nor when a window goes. One that comes finds its place among the others, where
-/// it stood before if it can.
+/// Windows stay where they stand as long as that hides no more of what has to be seen than when they were placed. So
+/// nothing moves back and forth with the length of months, nor when a window goes. One that comes finds its place among
+/// the others, where it stood before if it can.
 std::vector<QPoint> Frame::PlacesOf(const QSize& room, const std::vector<Child*>& open,
                                     const std::vector<Pane>& panes) {
     std::vector<QPoint> places;
@@ -250,7 +250,7 @@ std::vector<QPoint> Frame::PlacesOf(const QSize& room, const std::vector<Child*>
     }
     const bool isResized = room != room_;
     const bool hasNew = std::ranges::count(isNew, true) > 0;
-    if (!isResized && !hasNew && CostOf(room, panes, places) <= cost_) return places;
+    if (!isResized && !hasNew && CostOf(room, panes, places).hidesNoMoreNeededThan(cost_)) return places;
     const auto fitting = isResized || !hasNew ? std::nullopt : FitIn(room, panes, places, isNew);
     places = fitting ? *fitting : LayOut(room, panes);
     cost_ = CostOf(room, panes, places);
@@ -265,12 +265,15 @@ void Frame::PlaceAll() {
     if (room == room_ && panes == panes_) return;
     const bool before = std::exchange(drawing_, true);
     const std::vector<QPoint> places = PlacesOf(room, open, panes);
+    bool isLaidOut = room != room_;
     for (std::size_t i = 0; i < open.size(); ++i) {
-        if (open[i]->window->pos() != places[i]) open[i]->window->move(places[i]);
+        const bool moves = open[i]->window->pos() != places[i];
+        isLaidOut |= moves && open[i]->stands;
+        if (moves) open[i]->window->move(places[i]);
         open[i]->stands = true;
         NoteStanding(*open[i]->form, *open[i]->window);
     }
-    if (room != room_) Stack(open, places);
+    if (isLaidOut) Stack(open, places);
     drawing_ = before;
     room_ = room;
     panes_ = std::move(panes);

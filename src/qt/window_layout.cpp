@@ -138,6 +138,12 @@ std::vector<Order> OrdersOf(const std::vector<Pane>& panes) {
 
 }  // namespace
 
+bool LayoutCost::hidesNoMoreNeededThan(const LayoutCost& other) const {
+    LayoutCost needed = *this;
+    needed.covered = other.covered;
+    return needed <= other;
+}
+
 LayoutCost& LayoutCost::operator+=(const LayoutCost& other) {
     handlesHidden += other.handlesHidden;
     partsHidden += other.partsHidden;

@@ -33,6 +33,7 @@ struct LayoutCost {
     auto operator<=>(const LayoutCost&) const = default;
     bool isNone() const { return *this == LayoutCost(); }
     bool hidesNothingNeeded() const { return handlesHidden == 0 && partsHidden == 0 && outside == 0; }
+    bool hidesNoMoreNeededThan(const LayoutCost& other) const;
     LayoutCost& operator+=(const LayoutCost& other);
 };
 

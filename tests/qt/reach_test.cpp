@@ -136,6 +136,16 @@ class ReachTest final : public TestOfProgram {
         }
     }
 
+    void aWindowThatGrowsOverOthersMovesNone() {
+        Session session(QSize(1366, 740));
+        session.frame().Draw();
+        std::map<const Form*, QPoint> places;
+        for (const Form* form : session.program.Forms()) places[form] = session.Window(*form)->pos();
+        session.program.monthly.Layout.Click();
+        session.frame().Draw();
+        for (const auto& [form, place] : places) QCOMPARE(session.Window(*form)->pos(), place);
+    }
+
     /// Windows that had to give way come back when the frame grows again; what is kept is where they stood.
     void aSmallFrameKeepsEveryTitleInReach() {
         Session session;
