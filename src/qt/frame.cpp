@@ -237,21 +237,22 @@ Pane Frame::PaneOf(const Child& child) const {
 }
 
 /// Windows stay where they stand as long as that hides no more of what has to be seen than when they were placed. So
-/// nothing moves back and forth with the length of months, nor when a window goes. One that comes finds its place among
-/// the others, where it stood before if it can.
+/// nothing moves back and forth with the length of months, nor when a window goes and comes back. One that comes for
+/// the first time finds its place among the others.
 std::vector<QPoint> Frame::PlacesOf(const QSize& room, const std::vector<Child*>& open,
                                     const std::vector<Pane>& panes) {
     std::vector<QPoint> places;
     std::vector<bool> isNew;
+    bool isKnown = room == room_;  // the places were found together
     for (std::size_t i = 0; i < open.size(); ++i) {
         const bool hasStood = !panes[i].fixed && open[i]->form->standing;
         places.push_back(hasStood ? open[i]->window->pos() : panes[i].wish.topLeft());
         isNew.push_back(!open[i]->stands);
+        isKnown &= open[i]->stands || hasStood;
     }
-    const bool isResized = room != room_;
+    if (isKnown && CostOf(room, panes, places).hidesNoMoreNeededThan(cost_)) return places;
     const bool hasNew = std::ranges::count(isNew, true) > 0;
-    if (!isResized && !hasNew && CostOf(room, panes, places).hidesNoMoreNeededThan(cost_)) return places;
-    const auto fitting = isResized || !hasNew ? std::nullopt : FitIn(room, panes, places, isNew);
+    const auto fitting = room != room_ || !hasNew ? std::nullopt : FitIn(room, panes, places, isNew);
     places = fitting ? *fitting : LayOut(room, panes);
     cost_ = CostOf(room, panes, places);
     return places;
@@ -268,7 +269,7 @@ void Frame::PlaceAll() {
     bool isLaidOut = room != room_;
     for (std::size_t i = 0; i < open.size(); ++i) {
         const bool moves = open[i]->window->pos() != places[i];
-        isLaidOut |= moves && open[i]->stands;
+        isLaidOut |= moves && open[i]->stands && !panes[i].fixed;
         if (moves) open[i]->window->move(places[i]);
         open[i]->stands = true;
         NoteStanding(*open[i]->form, *open[i]->window);

@@ -163,10 +163,13 @@ LayoutCost CostOf(const QSize& room, std::vector<Pane> panes, const std::vector<
     for (std::size_t i = 0; i < panes.size(); ++i) panes[i].wish.moveTo(places[i]);
     std::vector<Placed> placed;
     LayoutCost cost;
-    for (std::size_t i = 0; i < panes.size(); ++i) {
-        const Placed window{&panes[i], panes[i].wish, i};
-        if (!window.pane->fixed) cost += CostOf(window, placed, QRect(QPoint(), room));
-        placed.push_back(window);
+    for (const bool fixed : {true, false}) {
+        for (std::size_t i = 0; i < panes.size(); ++i) {
+            if (panes[i].fixed != fixed) continue;
+            const Placed window{&panes[i], panes[i].wish, i};
+            if (!fixed) cost += CostOf(window, placed, QRect(QPoint(), room));
+            placed.push_back(window);
+        }
     }
     return cost;
 }
@@ -201,7 +204,8 @@ std::optional<std::vector<QPoint>> FitIn(const QSize& room, const std::vector<Pa
         fromTop.back().fixed = panes[number].fixed || !isNew[number];
     }
     const std::vector<QPoint> found = LayOut(room, fromTop);
-    if (!CostOf(room, fromTop, found).hidesNothingNeeded()) return std::nullopt;
+    const LayoutCost cost = CostOf(room, fromTop, found);
+    if (cost.handlesHidden > 0 || cost.outside > 0) return std::nullopt;
     std::vector<QPoint> fitting(panes.size());
     for (std::size_t i = 0; i < order.size(); ++i) fitting[order[i]] = found[i];
     return fitting;

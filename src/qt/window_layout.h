@@ -50,7 +50,7 @@ bool LiesUnder(std::size_t window, const QPoint& place, std::size_t other, const
 std::vector<QPoint> LayOut(const QSize& room, const std::vector<Pane>& panes);
 
 /// Places new windows above those that stand, which don't move; they wish for the places that are given as well.
-/// Nothing if that hides anything that has to be seen.
+/// Nothing if that hides what one of them is moved by, or leaves the frame.
 std::optional<std::vector<QPoint>> FitIn(const QSize& room, const std::vector<Pane>& panes,
                                          const std::vector<QPoint>& places, const std::vector<bool>& isNew);
 
