@@ -64,6 +64,7 @@ Frame::Frame(HorvantaMDI& shell) : shell_(shell), area_(new QMdiArea(this)), sta
     ShowName(*status_, QStringLiteral("Status"));
     connect(area_, &QMdiArea::subWindowActivated, this, [this](QMdiSubWindow* window) {
         if (const Child* child = ChildOf(window)) shell_.activeForm = child->form;
+        area_->viewport()->update();  // or else frames are drawn over the windows that lie above them
     });
     for (MenuItem* item : shell_.menuBar.items) {
         QMenu* menu = menuBar()->addMenu(QString::fromStdString(item->caption));
