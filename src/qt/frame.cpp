@@ -253,8 +253,7 @@ std::vector<QPoint> Frame::PlacesOf(const QSize& room, const std::vector<Child*>
     }
     if (isKnown && CostOf(room, panes, places).hidesNoMoreNeededThan(cost_)) return places;
     const bool hasNew = std::ranges::count(isNew, true) > 0;
-    const auto fitting = room != room_ || !hasNew ? std::nullopt : FitIn(room, panes, places, isNew);
-    places = fitting ? *fitting : LayOut(room, panes);
+    places = room == room_ && hasNew ? FitIn(room, panes, places, isNew) : LayOut(room, panes);
     cost_ = CostOf(room, panes, places);
     return places;
 }
@@ -268,6 +267,8 @@ void Frame::PlaceAll() {
     const bool before = std::exchange(drawing_, true);
     const std::vector<QPoint> places = PlacesOf(room, open, panes);
     bool isLaidOut = room != room_;
+    std::vector<Child*> fromTop = open;
+    std::ranges::stable_partition(fromTop, [](const Child* child) { return !child->stands; });
     for (std::size_t i = 0; i < open.size(); ++i) {
         const bool moves = open[i]->window->pos() != places[i];
         isLaidOut |= moves && open[i]->stands && !panes[i].fixed;
@@ -275,7 +276,7 @@ void Frame::PlaceAll() {
         open[i]->stands = true;
         NoteStanding(*open[i]->form, *open[i]->window);
     }
-    if (isLaidOut) Stack(open, places);
+    if (isLaidOut) Stack(fromTop);
     drawing_ = before;
     room_ = room;
     panes_ = std::move(panes);
@@ -296,16 +297,19 @@ void Frame::Arrange() {
         form.positioned = true;
         form.position.left = Twips(places[i].x());
         form.position.top = Twips(places[i].y());
+        open[i]->window->move(places[i]);
     }
-    Stack(open, places);
+    Stack(open);
 }
 
-/// Lays windows above one another as their places were chosen for. What is active then stays in front.
-void Frame::Stack(const std::vector<Child*>& open, const std::vector<QPoint>& places) {
-    std::vector<std::size_t> order(open.size());
+/// Lays windows above one another as their places were chosen for, the first above all. What is active then stays in
+/// front.
+void Frame::Stack(const std::vector<Child*>& fromTop) {
+    std::vector<std::size_t> order(fromTop.size());
     std::iota(order.begin(), order.end(), std::size_t{0});
-    std::ranges::sort(order, [&](auto a, auto b) { return LiesUnder(a, places[a], b, places[b]); });
-    for (const std::size_t number : order) open[number]->window->raise();
+    std::ranges::sort(
+        order, [&](auto a, auto b) { return LiesUnder(a, fromTop[a]->window->pos(), b, fromTop[b]->window->pos()); });
+    for (const std::size_t number : order) fromTop[number]->window->raise();
     if (QMdiSubWindow* active = area_->currentSubWindow()) active->raise();
 }
 

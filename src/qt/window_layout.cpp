@@ -192,22 +192,24 @@ std::vector<QPoint> LayOut(const QSize& room, const std::vector<Pane>& panes) {
     return places;
 }
 
-std::optional<std::vector<QPoint>> FitIn(const QSize& room, const std::vector<Pane>& panes,
-                                         const std::vector<QPoint>& places, const std::vector<bool>& isNew) {
+std::vector<QPoint> FitIn(const QSize& room, const std::vector<Pane>& panes, const std::vector<QPoint>& places,
+                          const std::vector<bool>& isNew) {
     Order order(panes.size());
     std::iota(order.begin(), order.end(), std::size_t{0});
     std::ranges::stable_partition(order, [&](std::size_t number) { return isNew[number]; });
-    std::vector<Pane> fromTop;
-    for (const std::size_t number : order) {
-        fromTop.push_back(panes[number]);
-        fromTop.back().wish.moveTo(places[number]);
-        fromTop.back().fixed = panes[number].fixed || !isNew[number];
-    }
-    const std::vector<QPoint> found = LayOut(room, fromTop);
-    const LayoutCost cost = CostOf(room, fromTop, found);
-    if (cost.handlesHidden > 0 || cost.outside > 0) return std::nullopt;
     std::vector<QPoint> fitting(panes.size());
-    for (std::size_t i = 0; i < order.size(); ++i) fitting[order[i]] = found[i];
+    for (const bool othersStay : {true, false}) {
+        std::vector<Pane> fromTop;
+        for (const std::size_t number : order) {
+            fromTop.push_back(panes[number]);
+            fromTop.back().wish.moveTo(places[number]);
+            fromTop.back().fixed = panes[number].fixed || (othersStay && !isNew[number]);
+        }
+        const std::vector<QPoint> found = LayOut(room, fromTop);
+        for (std::size_t i = 0; i < order.size(); ++i) fitting[order[i]] = found[i];
+        const LayoutCost cost = CostOf(room, fromTop, found);
+        if (cost.handlesHidden == 0 && cost.outside == 0) break;
+    }
     return fitting;
 }
 

@@ -7,7 +7,6 @@
 
 #include <compare>
 #include <cstddef>
-#include <optional>
 #include <vector>
 
 namespace horvanta {
@@ -49,9 +48,9 @@ bool LiesUnder(std::size_t window, const QPoint& place, std::size_t other, const
 /// of what has to be seen, least of all what a window is moved by.
 std::vector<QPoint> LayOut(const QSize& room, const std::vector<Pane>& panes);
 
-/// Places new windows above those that stand, which don't move; they wish for the places that are given as well.
-/// Nothing if that hides what one of them is moved by, or leaves the frame.
-std::optional<std::vector<QPoint>> FitIn(const QSize& room, const std::vector<Pane>& panes,
-                                         const std::vector<QPoint>& places, const std::vector<bool>& isNew);
+/// Places new windows above those that stand, from the places that are given. The others move only where a new one
+/// would hide what one of them is moved by, or leave the frame.
+std::vector<QPoint> FitIn(const QSize& room, const std::vector<Pane>& panes, const std::vector<QPoint>& places,
+                          const std::vector<bool>& isNew);
 
 }  // namespace horvanta
