@@ -1,5 +1,6 @@
 #include "app/history.h"
 
+#include "astro/timescales.h"
 #include "core/moment.h"
 
 #include <cmath>
@@ -17,21 +18,26 @@ History::History(HorvantaMDI& frame, Places& places) : frame_(frame), places_(pl
     EnableItems();
 }
 
-Moment History::Stop::InPresentNumbering() const {
-    return gregorianEpoch == GregorianEpoch ? moment : moment - gregorianEpoch + GregorianEpoch;
+Moment History::Stop::Present() const {
+    const auto renumbered = [this](Moment x) {
+        return gregorianEpoch == GregorianEpoch ? x : x - gregorianEpoch + GregorianEpoch;
+    };
+    if (DeltaTDisabled) return renumbered(terrestrial);
+    return isNever(universal) ? TerrestrialToUniversal(renumbered(terrestrial)) : renumbered(universal);
 }
 
 bool History::isShown(const Stop& stop) const {
     constexpr double same = 1e-9;  // days
-    return std::fabs(stop.InPresentNumbering() - DisplayedMoment) < same && stop.place == places_.Chosen();
+    return std::fabs(stop.Present() - DisplayedMoment) < same && stop.place == places_.Chosen();
 }
 
 void History::Note() {
     if (!stops_.empty() && isShown(stops_[at_])) return;
     const bool runsOn = KeyHeld && at_ > 0 && at_ + 1 == stops_.size();
-    stops_.resize(runsOn ? at_ : stops_.empty() ? 0 : at_ + 1, {0, 0, places_.Chosen()});
+    stops_.resize(runsOn ? at_ : stops_.empty() ? 0 : at_ + 1, {0, 0, 0, places_.Chosen()});
     if (stops_.size() == longest) stops_.pop_front();
-    stops_.push_back({DisplayedMoment, GregorianEpoch, places_.Chosen()});
+    stops_.push_back({DeltaTDisabled ? NeverMoment : DisplayedMoment, UniversalToTerrestrial(DisplayedMoment),
+                      GregorianEpoch, places_.Chosen()});
     at_ = stops_.size() - 1;
     EnableItems();
 }
@@ -39,7 +45,7 @@ void History::Note() {
 void History::Walk(int direction) {
     at_ = direction < 0 ? at_ - 1 : at_ + 1;
     const Stop& stop = stops_[at_];
-    DisplayedMoment = stop.InPresentNumbering();
+    DisplayedMoment = stop.Present();
     places_.Return(stop.place);
     EnableItems();
 }

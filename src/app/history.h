@@ -20,13 +20,16 @@ class History {
     void Forward_Click() { Walk(1); }
 
   private:
-    /// Universal, and the number of January 1 of year 1 at the time: the numbering may change.
+    /// A moment by both scales, so that it stays the same when Delta T is switched, and the number of January 1 of year
+    /// 1 at the time: the numbering may change.
     struct Stop {
-        Moment moment;
+        Moment universal;  ///< Never where it was displayed without Delta T.
+        Moment terrestrial;
         double gregorianEpoch;
         Places::Choice place;
 
-        Moment InPresentNumbering() const;
+        /// In the present scale and numbering.
+        Moment Present() const;
     };
 
     bool isShown(const Stop& stop) const;

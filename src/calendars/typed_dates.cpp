@@ -210,6 +210,21 @@ TypedDate ReadWords(const WordedDate& date, std::span<const CalendarContract* co
     return NoDate(who + Elided(date.month, longestShown) + "\" in year " + std::to_string(date.year));
 }
 
+/// The weekday, from 0 for Sunday, that a date may begin with: "Sunday", "Sun.".
+std::optional<std::int32_t> WeekdayOf(std::string_view word) {
+    for (std::int32_t weekday = 0; weekday < 7; ++weekday) {
+        const std::string name = Folded(WeekdayNames[weekday]);
+        if (word == name || ReplaceAll(word, ".", "") == name.substr(0, 3)) return weekday;
+    }
+    return std::nullopt;
+}
+
+/// A date whose weekday was told with it.
+TypedDate OnWeekday(const TypedDate& date, std::int32_t weekday) {
+    if (isNever(date.moment) || DayOfWeek(date.moment) == weekday) return date;
+    return NoDate(date.told + ", is a " + std::string(WeekdayNames[DayOfWeek(date.moment)]));
+}
+
 }  // namespace
 
 std::string YearText(const CalendarContract& calendar, std::int32_t year) {
@@ -265,12 +280,14 @@ std::optional<std::int32_t> ReadDay(const CalendarContract& calendar, const Grid
 }
 
 TypedDate ReadDate(std::string_view text, std::span<const CalendarContract* const> calendars) {
-    const std::string folded = Folded(text);
+    const std::string folded = Folded(ReplaceAll(ReplaceAll(text, "\t", " "), "\u00A0", " "));
     const std::vector<std::string_view> words = WordsOf(folded);
     const std::string line = Joined(words);
     if (const auto date = ReadCount(line)) return *date;
     if (const auto date = ReadDashed(line)) return *date;
-    if (const auto date = WordedDateOf(words)) return ReadWords(*date, calendars);
+    const auto weekday = words.empty() ? std::nullopt : WeekdayOf(words.front());
+    const auto date = WordedDateOf(std::span(words).subspan(weekday ? 1 : 0));
+    if (date) return weekday ? OnWeekday(ReadWords(*date, calendars), *weekday) : ReadWords(*date, calendars);
     return NoDate(NotText(text, "a date"));
 }
 

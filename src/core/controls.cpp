@@ -116,13 +116,14 @@ bool isWritingKey(int code) {
 
 std::string AccessibleName(const Control& control) {
     if (dynamic_cast<const DayStrip*>(&control)) return control.text;
-    if (!control.spoken.empty()) return control.spoken;
     const std::string words = hasWords(control.text) ? RemoveAmpersands(control.text) : "";
     const bool isLabel = dynamic_cast<const Label*>(&control);
-    if (isLabel && words.empty() && control.tooltip.empty()) return control.form.text;
-    if (control.tooltip.empty()) return words.empty() ? control.name : words;
+    const std::string& name = control.spoken.empty() ? control.tooltip : control.spoken;
+    if (isLabel && words.empty() && name.empty()) return control.form.text;
+    if (name.empty()) return words.empty() ? control.name : words;
     const bool showsValue = isLabel && !words.empty();
-    if (showsValue) return control.tooltip + ": " + words;
+    if (showsValue) return name + ": " + words;
+    if (!control.spoken.empty()) return control.spoken;
     const bool hasCaption = dynamic_cast<const Button*>(&control) || dynamic_cast<const CheckBox*>(&control) ||
                             dynamic_cast<const OptionButton*>(&control) || dynamic_cast<const GroupBox*>(&control);
     const bool captioned = hasCaption && !words.empty();

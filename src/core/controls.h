@@ -329,9 +329,9 @@ class MoonPicture final : public Control {
     Look look;
 };
 
-/// What a screen reader calls a control: its caption where that has words, and its tooltip, with the value behind it. A
-/// label that shows nothing is there to hold the focus, and bears the name of its window; a
-/// strip of the day speaks its sentence.
+/// What a screen reader calls a control: its caption where that has words, and its name or tooltip, with the value
+/// behind it. A label that shows nothing is there to hold the focus, and bears the name of its window; a strip of the
+/// day speaks its sentence.
 std::string AccessibleName(const Control& control);
 
 /// Where a window stands in the frame and how large it is, in twips, 15 to a pixel.

@@ -47,8 +47,11 @@ std::string ZoneChangeText(const LocaleRecord& from, const LocaleRecord& to) {
            (hours != 1 ? "s" : "") + SignedTime(LongitudeDifference(from, to) / 360);
 }
 
-/// Kilometres in a degree are, divided by 3.6, metres in a second of arc.
-std::string DegreeText(double kilometres) {
+/// Kilometres in a degree are, divided by 3.6, metres in a second of arc. A pole, where a degree of longitude has no
+/// length, is met within a few atoms.
+std::string DegreeText(double length) {
+    constexpr int millimetre = 6;  // decimals of a kilometre
+    const double kilometres = Round(length, millimetre);
     return Rounded(kilometres) + " km/degree = " + Rounded(kilometres / 3.6) + " m/s of ";
 }
 

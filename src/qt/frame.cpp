@@ -64,6 +64,7 @@ Frame::Frame(HorvantaMDI& shell) : shell_(shell), area_(new QMdiArea(this)), sta
     ShowName(*status_, QStringLiteral("Status"));
     connect(area_, &QMdiArea::subWindowActivated, this, [this](QMdiSubWindow* window) {
         if (const Child* child = ChildOf(window)) shell_.activeForm = child->form;
+        area_->viewport()->update();  // or else frames are drawn over the windows that lie above them
     });
     for (MenuItem* item : shell_.menuBar.items) {
         QMenu* menu = menuBar()->addMenu(QString::fromStdString(item->caption));
@@ -236,23 +237,23 @@ Pane Frame::PaneOf(const Child& child) const {
     return pane;
 }
 
-/// Windows stay where they stand as long as that is no worse than it was when they were placed. So nothing moves back
-/// and forth with the length of months, nor when a window goes. One that comes finds its place among the others, where
-/// it stood before if it can.
+/// Windows stay where they stand as long as that hides no more of what has to be seen than when they were placed. So
+/// nothing moves back and forth with the length of months, nor when a window goes and comes back. One that comes for
+/// the first time finds its place among the others.
 std::vector<QPoint> Frame::PlacesOf(const QSize& room, const std::vector<Child*>& open,
                                     const std::vector<Pane>& panes) {
     std::vector<QPoint> places;
     std::vector<bool> isNew;
+    bool isKnown = room == room_;  // the places were found together
     for (std::size_t i = 0; i < open.size(); ++i) {
         const bool hasStood = !panes[i].fixed && open[i]->form->standing;
         places.push_back(hasStood ? open[i]->window->pos() : panes[i].wish.topLeft());
         isNew.push_back(!open[i]->stands);
+        isKnown &= open[i]->stands || hasStood;
     }
-    const bool isResized = room != room_;
+    if (isKnown && CostOf(room, panes, places).hidesNoMoreNeededThan(cost_)) return places;
     const bool hasNew = std::ranges::count(isNew, true) > 0;
-    if (!isResized && !hasNew && CostOf(room, panes, places) <= cost_) return places;
-    const auto fitting = isResized || !hasNew ? std::nullopt : FitIn(room, panes, places, isNew);
-    places = fitting ? *fitting : LayOut(room, panes);
+    places = room == room_ && hasNew ? FitIn(room, panes, places, isNew) : LayOut(room, panes);
     cost_ = CostOf(room, panes, places);
     return places;
 }
@@ -265,12 +266,17 @@ void Frame::PlaceAll() {
     if (room == room_ && panes == panes_) return;
     const bool before = std::exchange(drawing_, true);
     const std::vector<QPoint> places = PlacesOf(room, open, panes);
+    bool isLaidOut = room != room_;
+    std::vector<Child*> fromTop = open;
+    std::ranges::stable_partition(fromTop, [](const Child* child) { return !child->stands; });
     for (std::size_t i = 0; i < open.size(); ++i) {
-        if (open[i]->window->pos() != places[i]) open[i]->window->move(places[i]);
+        const bool moves = open[i]->window->pos() != places[i];
+        isLaidOut |= moves && open[i]->stands && !panes[i].fixed;
+        if (moves) open[i]->window->move(places[i]);
         open[i]->stands = true;
         NoteStanding(*open[i]->form, *open[i]->window);
     }
-    if (room != room_) Stack(open, places);
+    if (isLaidOut) Stack(fromTop);
     drawing_ = before;
     room_ = room;
     panes_ = std::move(panes);
@@ -291,16 +297,19 @@ void Frame::Arrange() {
         form.positioned = true;
         form.position.left = Twips(places[i].x());
         form.position.top = Twips(places[i].y());
+        open[i]->window->move(places[i]);
     }
-    Stack(open, places);
+    Stack(open);
 }
 
-/// Lays windows above one another as their places were chosen for. What is active then stays in front.
-void Frame::Stack(const std::vector<Child*>& open, const std::vector<QPoint>& places) {
-    std::vector<std::size_t> order(open.size());
+/// Lays windows above one another as their places were chosen for, the first above all. What is active then stays in
+/// front.
+void Frame::Stack(const std::vector<Child*>& fromTop) {
+    std::vector<std::size_t> order(fromTop.size());
     std::iota(order.begin(), order.end(), std::size_t{0});
-    std::ranges::sort(order, [&](auto a, auto b) { return LiesUnder(a, places[a], b, places[b]); });
-    for (const std::size_t number : order) open[number]->window->raise();
+    std::ranges::sort(
+        order, [&](auto a, auto b) { return LiesUnder(a, fromTop[a]->window->pos(), b, fromTop[b]->window->pos()); });
+    for (const std::size_t number : order) fromTop[number]->window->raise();
     if (QMdiSubWindow* active = area_->currentSubWindow()) active->raise();
 }
 

@@ -89,7 +89,7 @@ class Frame final : public QMainWindow, public Acts {
     Pane PaneOf(const Child& child) const;
     std::vector<QPoint> PlacesOf(const QSize& room, const std::vector<Child*>& open, const std::vector<Pane>& panes);
     void PlaceAll();
-    void Stack(const std::vector<Child*>& open, const std::vector<QPoint>& places);
+    void Stack(const std::vector<Child*>& fromTop);
     void GrantFocus(Child& child);
     void ShowFirst();
     void NotePlace();

@@ -138,6 +138,12 @@ std::vector<Order> OrdersOf(const std::vector<Pane>& panes) {
 
 }  // namespace
 
+bool LayoutCost::hidesNoMoreNeededThan(const LayoutCost& other) const {
+    LayoutCost needed = *this;
+    needed.covered = other.covered;
+    return needed <= other;
+}
+
 LayoutCost& LayoutCost::operator+=(const LayoutCost& other) {
     handlesHidden += other.handlesHidden;
     partsHidden += other.partsHidden;
@@ -157,10 +163,13 @@ LayoutCost CostOf(const QSize& room, std::vector<Pane> panes, const std::vector<
     for (std::size_t i = 0; i < panes.size(); ++i) panes[i].wish.moveTo(places[i]);
     std::vector<Placed> placed;
     LayoutCost cost;
-    for (std::size_t i = 0; i < panes.size(); ++i) {
-        const Placed window{&panes[i], panes[i].wish, i};
-        if (!window.pane->fixed) cost += CostOf(window, placed, QRect(QPoint(), room));
-        placed.push_back(window);
+    for (const bool fixed : {true, false}) {
+        for (std::size_t i = 0; i < panes.size(); ++i) {
+            if (panes[i].fixed != fixed) continue;
+            const Placed window{&panes[i], panes[i].wish, i};
+            if (!fixed) cost += CostOf(window, placed, QRect(QPoint(), room));
+            placed.push_back(window);
+        }
     }
     return cost;
 }
@@ -183,21 +192,24 @@ std::vector<QPoint> LayOut(const QSize& room, const std::vector<Pane>& panes) {
     return places;
 }
 
-std::optional<std::vector<QPoint>> FitIn(const QSize& room, const std::vector<Pane>& panes,
-                                         const std::vector<QPoint>& places, const std::vector<bool>& isNew) {
+std::vector<QPoint> FitIn(const QSize& room, const std::vector<Pane>& panes, const std::vector<QPoint>& places,
+                          const std::vector<bool>& isNew) {
     Order order(panes.size());
     std::iota(order.begin(), order.end(), std::size_t{0});
     std::ranges::stable_partition(order, [&](std::size_t number) { return isNew[number]; });
-    std::vector<Pane> fromTop;
-    for (const std::size_t number : order) {
-        fromTop.push_back(panes[number]);
-        fromTop.back().wish.moveTo(places[number]);
-        fromTop.back().fixed = panes[number].fixed || !isNew[number];
-    }
-    const std::vector<QPoint> found = LayOut(room, fromTop);
-    if (!CostOf(room, fromTop, found).hidesNothingNeeded()) return std::nullopt;
     std::vector<QPoint> fitting(panes.size());
-    for (std::size_t i = 0; i < order.size(); ++i) fitting[order[i]] = found[i];
+    for (const bool othersStay : {true, false}) {
+        std::vector<Pane> fromTop;
+        for (const std::size_t number : order) {
+            fromTop.push_back(panes[number]);
+            fromTop.back().wish.moveTo(places[number]);
+            fromTop.back().fixed = panes[number].fixed || (othersStay && !isNew[number]);
+        }
+        const std::vector<QPoint> found = LayOut(room, fromTop);
+        for (std::size_t i = 0; i < order.size(); ++i) fitting[order[i]] = found[i];
+        const LayoutCost cost = CostOf(room, fromTop, found);
+        if (cost.handlesHidden == 0 && cost.outside == 0) break;
+    }
     return fitting;
 }
 

@@ -7,7 +7,6 @@
 
 #include <compare>
 #include <cstddef>
-#include <optional>
 #include <vector>
 
 namespace horvanta {
@@ -33,6 +32,7 @@ struct LayoutCost {
     auto operator<=>(const LayoutCost&) const = default;
     bool isNone() const { return *this == LayoutCost(); }
     bool hidesNothingNeeded() const { return handlesHidden == 0 && partsHidden == 0 && outside == 0; }
+    bool hidesNoMoreNeededThan(const LayoutCost& other) const;
     LayoutCost& operator+=(const LayoutCost& other);
 };
 
@@ -48,9 +48,9 @@ bool LiesUnder(std::size_t window, const QPoint& place, std::size_t other, const
 /// of what has to be seen, least of all what a window is moved by.
 std::vector<QPoint> LayOut(const QSize& room, const std::vector<Pane>& panes);
 
-/// Places new windows above those that stand, which don't move; they wish for the places that are given as well.
-/// Nothing if that hides anything that has to be seen.
-std::optional<std::vector<QPoint>> FitIn(const QSize& room, const std::vector<Pane>& panes,
-                                         const std::vector<QPoint>& places, const std::vector<bool>& isNew);
+/// Places new windows above those that stand, from the places that are given. The others move only where a new one
+/// would hide what one of them is moved by, or leave the frame.
+std::vector<QPoint> FitIn(const QSize& room, const std::vector<Pane>& panes, const std::vector<QPoint>& places,
+                          const std::vector<bool>& isNew);
 
 }  // namespace horvanta

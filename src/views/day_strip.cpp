@@ -35,12 +35,17 @@ double OnClock(Moment standardTime, FixedDay date, const LocaleRecord& place) {
     return StandardToDaylight(standardTime, place) - date;
 }
 
-Passage PassageOf(FixedDay date, double depression, const LocaleRecord& place) {
+/// Where the Sun comes up and does not go down, or goes down and did not come up, the other passage is taken to lie as
+/// far from noon.
+Passage PassageOf(FixedDay date, double noon, double depression, const LocaleRecord& place) {
     constexpr Passage always{-2, 3};
     constexpr Passage never{2, 2};
     const Moment up = Dawn(date, depression, place);
     const Moment down = Dusk(date, depression, place);
-    if (!isNever(up) && !isNever(down)) return {OnClock(up, date, place), OnClock(down, date, place)};
+    if (!isNever(up) || !isNever(down)) {
+        return {isNever(up) ? 2 * noon - OnClock(down, date, place) : OnClock(up, date, place),
+                isNever(down) ? 2 * noon - OnClock(up, date, place) : OnClock(down, date, place)};
+    }
     const double declination = SolarDeclination(StandardToUniversal(date + 0.5, place));
     return 90 - std::fabs(place.Latitude - declination) > -depression &&
                    std::fabs(place.Latitude + declination) - 90 > -depression
@@ -62,19 +67,20 @@ std::array<Stage, 4> StagesAt(const LocaleRecord& place) {
 }
 
 DayStrip::Day FindDay(FixedDay date, const LocaleRecord& place) {
+    DayStrip::Day day;
+    day.noon = OnClock(SolarMidday(date, place), date, place);
     std::vector<std::pair<Light, Passage>> passages;
     std::vector<double> cuts{0, 1};
     for (const auto& [light, depression] : StagesAt(place)) {
-        const Passage passage = PassageOf(date, depression, place);
+        const Passage passage = PassageOf(date, day.noon, depression, place);
         passages.emplace_back(light, passage);
         for (const double time : {passage.up, passage.down}) {
-            for (const double day : {-1, 0, 1}) {
-                if (time + day > 0 && time + day < 1) cuts.push_back(time + day);
+            for (const double beside : {-1, 0, 1}) {
+                if (time + beside > 0 && time + beside < 1) cuts.push_back(time + beside);
             }
         }
     }
     std::ranges::sort(cuts);
-    DayStrip::Day day;
     for (std::size_t i = 0; i + 1 < cuts.size(); ++i) {
         Light light = Light::Night;
         for (const auto& [stage, passage] : passages) {
@@ -82,7 +88,6 @@ DayStrip::Day FindDay(FixedDay date, const LocaleRecord& place) {
         }
         if (day.spans.empty() || day.spans.back().light != light) day.spans.push_back({cuts[i], light});
     }
-    day.noon = OnClock(SolarMidday(date, place), date, place);
     return day;
 }
 

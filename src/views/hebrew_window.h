@@ -41,7 +41,7 @@ class HebrewWindow {
     Form form{"Hebrew", "Hebrew"};
     Label Dummy{form, "Dummy"};  ///< Shows nothing; holds the focus while no button should.
     Label HebrewDate{form, "HebrewDate", Tip("Hebrew date (sunset to sunset)"), Widest("Yom Chamishi, 30 Adar Rishon, -15000 ")};
-    Label HebrewCycleInfo{form, "HebrewCycleInfo", Tip("Click for Hebrew cycle status information"), Widest("7P5* non-leap year 19/19, day 353+30=383, month -234567")};
+    Label HebrewCycleInfo{form, "HebrewCycleInfo", Tip("Click for Hebrew cycle status information"), Widest("7P5* non-leap year 19/19, day 353+30=383, month -234567"), Named("Cycle")};
     Button Info{form, "Info", Caption("Info"), Named("Hebrew info"), Tip("Click here for Hebrew Calendar information")};
     StatusBar DawnDuskLegends{form, "DawnDuskLegends", Tip("What the times are"), Widest("Shabbat, Rosh Hashanah 1 (Hebrew New Year) Ends")};
     StatusBar DawnDusk{form, "DawnDusk", Tip("The times of the displayed day"), Widest(">00:00:00")};

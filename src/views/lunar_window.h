@@ -39,7 +39,7 @@ class LunarWindow {
     Label AgeLabel{form, "AgeLabel", Caption("Age")};
     Label MoonAge{form, "MoonAge", Tip("Time since the last new Moon"), Widest("29d 23h 59m")};
     Label PhaseLabel{form, "PhaseLabel", Caption("Phase")};
-    Label MoonPhase{form, "MoonPhase", Tip("Lunar phase = longitude of the Moon – longitude of the Sun"), Widest("+359.9°")};
+    Label MoonPhase{form, "MoonPhase", Tip("Lunar phase = longitude of the Moon – longitude of the Sun"), Widest("+359.9°"), Named("Lunar phase")};
     Label LongitudeLabel{form, "LongitudeLabel", Caption("Longitude")};
     Label MoonLongitude{form, "MoonLongitude", Tip("Lunar longitude"), Widest("359.9°")};
     Label LatitudeLabel{form, "LatitudeLabel", Caption("Latitude")};
@@ -52,7 +52,7 @@ class LunarWindow {
     Label LunationNumber{form, "LunationNumber", Tip("Mean lunations, with their fraction"), Widest("-85000.00")};
     Label YermLabel{form, "YermLabel", Caption("Yerm date")};
     Label YLCdate{form, "YLCdate", Tip("Yerm Lunar Calendar date"), Widest("-100+52(17(30")};
-    Label YLCera{form, "YLCera", Tip("Yerms of the era, or of the cycle of the fixed calendar"), Widest("Cycle -100 = 52 yerms")};
+    Label YLCera{form, "YLCera", Tip("Yerms of the era, or of the cycle of the fixed calendar"), Widest("Cycle -100 = 52 yerms"), Named("Yerm era")};
     Button InfoYLC{form, "InfoYLC", Caption("Info"), Named("Yerm info"), Tip("Click here for Yerm Lunar Calendar information")};
     // clang-format on
     WindowColors colors{"L", {Color::FromNumber(6250335), Color::FromNumber(16777215)}, MoonName};

@@ -41,7 +41,7 @@ class OrientalWindow {
     Label SLatMidnight{form, "SLatMidnight", Tip("Click to copy with all digits"), Widest("Midnight Solar Longitude at Time Zone UT+7:45:40 = 359.9999°")};
     ChoiceList CalChoice{form, "CalChoice", Tip("Choose the national calendar"), Named("National calendar")};
     CheckBox UseEnglish{form, "UseEnglish", Caption("English"), Tip("Check for English names, clear for those of the calendar's own language")};
-    Label LeapCheckbox{form, "LeapCheckbox", Tip("A leap year has 13 months, a common year 12"), Widest("Common year")};
+    Label LeapCheckbox{form, "LeapCheckbox", Tip("A leap year has 13 months, a common year 12"), Widest("Common year"), Named("Kind of year")};
     Button Info{form, "Info", Caption("Info")};
     // clang-format on
 

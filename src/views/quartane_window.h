@@ -45,13 +45,13 @@ class QuartaneWindow {
     // clang-format off
     Form form{"Quartane", "Quartane454"};
     Label Dummy{form, "Dummy", Named("Quartane")};  ///< Shows nothing; holds the focus while nothing else should.
-    Label QuartaneDateBox{form, "QuartaneDateBox", Widest("Wednesday, September 35, 10000 ")};
+    Label QuartaneDateBox{form, "QuartaneDateBox", Widest("Wednesday, September 35, 10000 "), Named("Quartane date")};
     Label QuaCycleInfo{form, "QuaCycleInfo", Tip("Click to copy cycle information to clipboard"), Widest("1800th year of 22nd 1803-year cycle AD")};
     Grid QuaStatusGrid{form, "QuaStatusGrid", Tip("Click a number to copy it to clipboard"), Widest("200+171=371"), Named("Place in year, quarter and month")};
     ChoiceList LeapChoice{form, "LeapChoice", Tip("Choose the desired Leap Rule"), Widest("320/1803 = 320 symmetric spread leap years per 1803 year cycle"), Named("Leap Rule")};
-    Label LeapCheckbox{form, "LeapCheckbox", Tip("A leap year has 53 weeks, a common year 52"), Widest("Common year")};
+    Label LeapCheckbox{form, "LeapCheckbox", Tip("A leap year has 53 weeks, a common year 52"), Widest("Common year"), Named("Kind of year")};
     Label MeanYearLabel{form, "MeanYearLabel", Caption("Mean Year Length ="), Tip("Click to copy the decimal fraction to clipboard")};
-    Label FixedMeanYear{form, "FixedMeanYear", Widest("Northward Equinox Year")};
+    Label FixedMeanYear{form, "FixedMeanYear", Widest("Northward Equinox Year"), Named("Mean year length")};
     Button InfoLeapRule{form, "InfoLeapRule", Caption("Leap Rule"), Tip("Click for information about the currently active Leap Rule")};
     GroupBox QuaMonths{form, "QuaMonths", Caption("Quarters: ")};
     OptionButton Qua454{form, "Qua454"};

@@ -268,6 +268,8 @@ void TimeAstro::SetFixedDayNumberToolTip() {
                   std::to_string(dayOne.day) + ", " + std::to_string(dayOne.year);
     DayOne.tooltip = FixedDayNum.tooltip;
     UT.text = scale + " Time";
+    FixedDayNum.spoken = FixedDayNumLabel.text;
+    TimeOfDay.spoken = UT.text;
     TimeOfDay.tooltip = UT.text + " (" + scale.front() + "T) at displayed day fraction, click for local times";
     UT.tooltip = "Click for local times";
 }

@@ -66,7 +66,7 @@ class TimeAstro {
     Form form{"TimeAstro", "Time"};
     TextField FixedDayNum{form, "FixedDayNum", Widest("-2533803.123457")};
     Label FixedDayNumLabel{form, "FixedDayNumLabel", Widest("Local Mean Day Number")};
-    Label DayOne{form, "DayOne", Widest("1 = Nov 25, -4713")};
+    Label DayOne{form, "DayOne", Widest("1 = Nov 25, -4713"), Named("Day 1")};
     Label UT{form, "UT", Widest("Local Mean Time")};
     Label TimeOfDay{form, "TimeOfDay", Widest("00:00:00")};
     Label SavedDiffBox{form, "SavedDiffBox", Tip("Days between the displayed and the saved date"), Widest("6916348.123")};

@@ -79,6 +79,7 @@ void SetWords(Button& toggle, Label& value, const Words& words) {
     toggle.text = words.caption;
     toggle.tooltip = words.tooltip;
     value.tooltip = words.valueTooltip;
+    value.spoken = words.tooltip;
 }
 
 std::string SpanText(double days) { return FormatTime(days, 11); }

@@ -69,7 +69,7 @@ class TimeFields {
     StatusBar DawnDuskLegends{form, "DawnDuskLegends", Tip("What the times below are"), Widest("Prior Sunset")};
     StatusBar DawnDusk{form, "DawnDusk", Tip("Sunrise and sunset of the displayed day"), Widest("Prior Sunset")};
     DayStrip DayLight{form, "DayLight", Named("Light of the day")};
-    Label ClockLabel{form, "ClockLabel", Tip("Whose time the bar and the strip show"), Widest("Clock time, UT+00:00:00")};
+    Label ClockLabel{form, "ClockLabel", Tip("Whose time the bar and the strip show"), Widest("Clock time, UT+00:00:00"), Named("Bar and strip")};
     Button JD_MJD_Toggle{form, "JD_MJD_Toggle", Widest("Mod Jul Day")};
     Label JD_MJD{form, "JD_MJD", Widest("-1721425.12346")};
     Button Orbital_RAY_Toggle{form, "Orbital_RAY_Toggle", Widest("Orbital Date")};

@@ -33,5 +33,14 @@ TEST_F(DeskTest, WalksBackAndForwardThroughWhatWasDisplayed) {
     EXPECT_EQ(desk.Obey("menu Back"), "error: not enabled: Back");
 }
 
+TEST_F(DeskTest, WalksBackToTheSameMomentWithoutDeltaT) {
+    const Moment start = DisplayedMoment;
+    Obey({"press Up", "click TimeAstro.UseDeltaT", "menu Back", "click TimeAstro.UseDeltaT"});
+    EXPECT_NEAR(DisplayedMoment, start, 1e-9);
+    EXPECT_EQ(desk.Obey("menu Back"), "error: not enabled: Back");
+    EXPECT_EQ(desk.Obey("menu Forward"), "ok");
+    EXPECT_EQ(DisplayedMoment, start + 1);
+}
+
 }  // namespace
 }  // namespace horvanta

@@ -47,6 +47,8 @@ TEST(TypedDates, AreReadAndToldHow) {
         {"15 Nisan 5784", 2024, 4, 23, "Hebrew calendar, 15 Nisan 5784"},
         {"14 adar sheini 5784", 2024, 3, 24, "Hebrew calendar, 14 Adar Sheini 5784"},
         {"1 Khordad 1403", 2024, 5, 21, "Persian calendar, 1 Khordâd 1403"},
+        {"Sunday, November 22, 2026 ", 2026, 11, 22, "Gregorian calendar, 22 November 2026"},
+        {"Sun. 22\u00A0November\t2026", 2026, 11, 22, "Gregorian calendar, 22 November 2026"},
     };
     // clang-format on
     for (const Row& row : rows) ExpectRead(row, calendars);
@@ -79,6 +81,7 @@ TEST(TypedDates, TellWhyTheyAreNone) {
         {"2023-W53-1", "the ISO year 2023 has weeks 1 to 52"},
         {"1 Adar Rishon 5785", "no calendar has a month \"adar rishon\" in year 5785"},
         {"1 Nisan 44 BC", "the Julian calendar has no month \"nisan\" in year 44"},
+        {"Monday, November 22, 2026", "Gregorian calendar, 22 November 2026, is a Sunday"},
         {"1 Farvardin 0", "the Persian calendar has no year 0"}, {"1.5 March 2024", "1.5 March 2024 is not a date"},
     };
     // clang-format on

@@ -136,6 +136,22 @@ class ReachTest final : public TestOfProgram {
         }
     }
 
+    /// On a small screen windows lie over others anyway. None moves when one grows, nor when one is hidden and shown.
+    void aCrowdKeepsItsPlaces() {
+        Session session(QSize(1366, 740));
+        auto& frame = session.program.frame;
+        for (MenuItem* item : {&frame.JulianCal, &frame.OrientCal, &frame.PersianCal}) item->Click();
+        session.frame().Draw();
+        std::map<const Form*, QPoint> places;
+        for (const Form* form : session.program.Forms()) places[form] = session.Window(*form)->pos();
+        const auto& hide = session.program.quartane.form.Close;
+        for (const auto& act : {session.program.monthly.Layout.Click, hide, frame.QuaCal.Click}) {
+            act();
+            session.frame().Draw();
+            for (const auto& [form, place] : places) QCOMPARE(session.Window(*form)->pos(), place);
+        }
+    }
+
     /// Windows that had to give way come back when the frame grows again; what is kept is where they stood.
     void aSmallFrameKeepsEveryTitleInReach() {
         Session session;

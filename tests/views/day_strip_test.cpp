@@ -33,6 +33,7 @@ TEST(DayStrip, ShowsTheLightsOfAPlace) {
         {PresetLocale("CFS Alert"), december, "NAN"},
         {MakeLocale("South Pole", "", -90, 0, 0), june, "N"},
         {MakeLocale("South Pole", "", -90, 0, 0), december, "D"},
+        {MakeLocale("89 N", "", 89, 0, 0), GregorianToFixed(2026, 3, 21), "DCD"},  // it rises and doesn't set
     };
     for (const auto& [place, day, lights] : rows) {
         EXPECT_EQ(Lights(DayOfLight(day, place)), lights) << place.Name << " " << FixedToGregorianString(day);
