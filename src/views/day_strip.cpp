@@ -118,13 +118,14 @@ std::string SunAtText(Moment universal, const LocaleRecord& place) {
 }
 
 std::string StripSentence(const DayStrip::Day& day, Moment universal, const LocaleRecord& place) {
-    std::string text;
+    std::string text = "Light of the day: ";
     for (std::size_t i = 0; i < day.spans.size(); ++i) {
-        const auto& [from, light] = day.spans[i];
-        text += (i == 0 ? "From midnight " : "; from " + ClockText(from) + " ") +
-                std::string(names[static_cast<std::size_t>(light)]);
+        const bool isLast = i + 1 == day.spans.size();
+        text += std::string(i > 0 ? ", " : "") + names[static_cast<std::size_t>(day.spans[i].light)] +
+                (isLast ? "" : " until " + ClockText(day.spans[i + 1].from));
     }
-    return text + ". At " + SunAtText(universal, place) + ".";
+    return text + (day.spans.size() == 1 ? " all day" : " until midnight") + ". At " + SunAtText(universal, place) +
+           ".";
 }
 
 }  // namespace horvanta
