@@ -237,23 +237,27 @@ Pane Frame::PaneOf(const Child& child) const {
     return pane;
 }
 
+/// It is new, or has grown where it stands.
+bool Frame::Child::SeeksPlace() const { return !stands || window->size().expandedTo(placed) != placed; }
+
 /// Windows stay where they stand as long as that hides no more of what has to be seen than when they were placed. So
 /// nothing moves back and forth with the length of months, nor when a window goes and comes back. One that comes for
-/// the first time finds its place among the others.
+/// the first time, or grows over others, finds a place among them.
 std::vector<QPoint> Frame::PlacesOf(const QSize& room, const std::vector<Child*>& open,
                                     const std::vector<Pane>& panes) {
     std::vector<QPoint> places;
-    std::vector<bool> isNew;
+    std::vector<bool> seeks;
     bool isKnown = room == room_;  // the places were found together
     for (std::size_t i = 0; i < open.size(); ++i) {
         const bool hasStood = !panes[i].fixed && open[i]->form->standing;
         places.push_back(hasStood ? open[i]->window->pos() : panes[i].wish.topLeft());
-        isNew.push_back(!open[i]->stands);
+        seeks.push_back(open[i]->SeeksPlace());
         isKnown &= open[i]->stands || hasStood;
     }
     if (isKnown && CostOf(room, panes, places).hidesNoMoreNeededThan(cost_)) return places;
-    const bool hasNew = std::ranges::count(isNew, true) > 0;
-    places = room == room_ && hasNew ? FitIn(room, panes, places, isNew) : LayOut(room, panes);
+    const bool anySeeks = std::ranges::count(seeks, true) > 0;
+    const bool anyNew = !std::ranges::all_of(open, &Child::stands);
+    places = room == room_ && anySeeks ? FitIn(room, panes, places, seeks, anyNew) : LayOut(room, panes);
     cost_ = CostOf(room, panes, places);
     return places;
 }
@@ -268,12 +272,13 @@ void Frame::PlaceAll() {
     const std::vector<QPoint> places = PlacesOf(room, open, panes);
     bool isLaidOut = room != room_;
     std::vector<Child*> fromTop = open;
-    std::ranges::stable_partition(fromTop, [](const Child* child) { return !child->stands; });
+    std::ranges::stable_partition(fromTop, &Child::SeeksPlace);
     for (std::size_t i = 0; i < open.size(); ++i) {
         const bool moves = open[i]->window->pos() != places[i];
         isLaidOut |= moves && open[i]->stands && !panes[i].fixed;
         if (moves) open[i]->window->move(places[i]);
         open[i]->stands = true;
+        open[i]->placed = open[i]->window->size();
         NoteStanding(*open[i]->form, *open[i]->window);
     }
     if (isLaidOut) Stack(fromTop);

@@ -70,6 +70,9 @@ class Frame final : public QMainWindow, public Acts {
         std::vector<QWidget*> mains;  ///< The widgets that show the main date.
         int wanted = 0;               ///< The height that its controls asked for when it was drawn last, in pixels.
         bool stands = false;          ///< It has been placed since it was shown.
+        QSize placed{};               ///< How large it was then.
+
+        bool SeeksPlace() const;
     };
 
     void Run(const std::function<void()>& act, ActKind kind = {}) override;

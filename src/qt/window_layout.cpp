@@ -192,23 +192,37 @@ std::vector<QPoint> LayOut(const QSize& room, const std::vector<Pane>& panes) {
     return places;
 }
 
+namespace {
+
+QPoint MovedInside(const QSize& room, const QSize& size, const QPoint& place) {
+    return {std::max(0, std::min(place.x(), room.width() - size.width())),
+            std::max(0, std::min(place.y(), room.height() - size.height()))};
+}
+
+}  // namespace
+
 std::vector<QPoint> FitIn(const QSize& room, const std::vector<Pane>& panes, const std::vector<QPoint>& places,
-                          const std::vector<bool>& isNew) {
+                          const std::vector<bool>& seeks, bool othersMayMove) {
     Order order(panes.size());
     std::iota(order.begin(), order.end(), std::size_t{0});
-    std::ranges::stable_partition(order, [&](std::size_t number) { return isNew[number]; });
-    std::vector<QPoint> fitting(panes.size());
+    std::ranges::stable_partition(order, [&](std::size_t number) { return seeks[number]; });
+    std::vector<QPoint> fitting = places;
     for (const bool othersStay : {true, false}) {
         std::vector<Pane> fromTop;
         for (const std::size_t number : order) {
             fromTop.push_back(panes[number]);
             fromTop.back().wish.moveTo(places[number]);
-            fromTop.back().fixed = panes[number].fixed || (othersStay && !isNew[number]);
+            fromTop.back().fixed = panes[number].fixed || (othersStay && !seeks[number]);
         }
         const std::vector<QPoint> found = LayOut(room, fromTop);
-        for (std::size_t i = 0; i < order.size(); ++i) fitting[order[i]] = found[i];
         const LayoutCost cost = CostOf(room, fromTop, found);
-        if (cost.handlesHidden == 0 && cost.outside == 0) break;
+        const bool fits = cost.handlesHidden == 0 && cost.outside == 0;
+        for (std::size_t i = 0; i < order.size(); ++i) {
+            const std::size_t number = order[i];
+            const bool giveUp = !fits && !othersMayMove && !fromTop[i].fixed;
+            fitting[number] = giveUp ? MovedInside(room, panes[number].wish.size(), places[number]) : found[i];
+        }
+        if (fits || !othersMayMove) break;
     }
     return fitting;
 }

@@ -48,9 +48,9 @@ bool LiesUnder(std::size_t window, const QPoint& place, std::size_t other, const
 /// of what has to be seen, least of all what a window is moved by.
 std::vector<QPoint> LayOut(const QSize& room, const std::vector<Pane>& panes);
 
-/// Places new windows above those that stand, from the places that are given. The others move only where a new one
-/// would hide what one of them is moved by, or leave the frame.
+/// Finds places for windows that seek one, above the others, from the places that are given. Where one of them would
+/// hide what a window is moved by, or leave the frame, the others move if they may; if not, it is kept in the frame.
 std::vector<QPoint> FitIn(const QSize& room, const std::vector<Pane>& panes, const std::vector<QPoint>& places,
-                          const std::vector<bool>& isNew);
+                          const std::vector<bool>& seeks, bool othersMayMove);
 
 }  // namespace horvanta

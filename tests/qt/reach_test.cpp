@@ -136,7 +136,7 @@ class ReachTest final : public TestOfProgram {
         }
     }
 
-    /// On a small screen windows lie over others anyway. None moves when one grows, nor when one is hidden and shown.
+    /// On a small screen windows lie over others anyway. Others don't move when one grows, nor when it goes and comes.
     void aCrowdKeepsItsPlaces() {
         Session session(QSize(1366, 740));
         auto& frame = session.program.frame;
@@ -148,7 +148,9 @@ class ReachTest final : public TestOfProgram {
         for (const auto& act : {session.program.monthly.Layout.Click, hide, frame.QuaCal.Click}) {
             act();
             session.frame().Draw();
-            for (const auto& [form, place] : places) QCOMPARE(session.Window(*form)->pos(), place);
+            for (const auto& [form, place] : places) {
+                if (form != &session.program.monthly.form) QCOMPARE(session.Window(*form)->pos(), place);
+            }
         }
     }
 
