@@ -114,7 +114,8 @@ void Frame::Load(Form& form, std::unique_ptr<QWidget> content) {
 
 void Frame::LoadDialog(Form& form) { dialogs_.push_back(new FormDialog(form, *this, this)); }
 
-/// The line in the status bar is of the act before, unless this one tells something.
+/// The line in the status bar is of the act before, unless this one tells something. The press of a click, which leaves
+/// a field, and its release are one: what the field refused can be read.
 void Frame::Run(const std::function<void()>& act, ActKind kind) {
     if (!act || (busy_ && !kind.whileBusy)) return;
     if (++depth_ == 1) {
@@ -124,7 +125,9 @@ void Frame::Run(const std::function<void()>& act, ActKind kind) {
     }
     act();
     if (--depth_ > 0) return;
-    if (!toldStatus_) ShowStatus({});
+    const bool pressed = QGuiApplication::mouseButtons() != Qt::NoButton;
+    const bool ofThisClick = std::exchange(toldAtPress_, toldStatus_ && pressed);
+    if (!toldStatus_ && !ofThisClick) ShowStatus({});
     Draw();
 }
 

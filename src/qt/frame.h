@@ -101,7 +101,8 @@ class Frame final : public QMainWindow, public Acts {
     std::vector<FormDialog*> dialogs_;
     std::vector<std::pair<MenuItem*, QAction*>> actions_;
     ElidingLabel* status_;
-    bool toldStatus_ = false;  ///< During the present act.
+    bool toldStatus_ = false;   ///< During the present act.
+    bool toldAtPress_ = false;  ///< During the act before, while a button of the mouse was down.
     QPoint menuPlace_;
     LayoutCost cost_;
     QSize room_;  ///< In which the windows were placed last, and as what.

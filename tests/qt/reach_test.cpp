@@ -3,6 +3,7 @@
 #include "session.h"
 
 #include <QAction>
+#include <QCheckBox>
 #include <QClipboard>
 #include <QContextMenuEvent>
 #include <QLabel>
@@ -169,6 +170,11 @@ class ReachTest final : public TestOfProgram {
         QTest::keyClicks(session.Find<QLineEdit>("FixedDayNum"), QStringLiteral("abc"));
         session.Press(Qt::Key_Return);
         QCOMPARE(status->text(), QStringLiteral("abc is not a day number"));
+        QTest::keyClicks(session.Find<QLineEdit>("FixedDayNum"), QStringLiteral("abd"));
+        QTest::mouseClick(session.Find<QCheckBox>("UseElevation"), Qt::LeftButton);
+        QVERIFY(status->text().endsWith(QStringLiteral("abd is not a day number")));
+        QTest::mouseClick(session.Find<QCheckBox>("UseElevation"), Qt::LeftButton);
+        QCOMPARE(status->text(), QString());
     }
 
     void informationIsReadInAWindow() {
