@@ -46,6 +46,13 @@ void NoteStanding(Form& form, const QWidget& window) {
                      Twips(window.width()), Twips(window.height())};
 }
 
+/// A window that comes to others has been asked for and is wanted whole.
+std::vector<Pane> WantedWhole(std::vector<Pane> panes, const std::vector<bool>& isNew) {
+    if (std::ranges::count(isNew, false) == 0) return panes;
+    for (std::size_t i = 0; i < panes.size(); ++i) panes[i].whole = isNew[i];
+    return panes;
+}
+
 void NoteSize(Form& form, const QSize& size) {
     form.position.width = Twips(size.width());
     form.position.height = Twips(size.height());
@@ -255,7 +262,7 @@ std::vector<QPoint> Frame::PlacesOf(const QSize& room, const std::vector<Child*>
     const bool hasNew = std::ranges::count(isNew, true) > 0;
     if (!isResized && !hasNew && CostOf(room, panes, places) <= cost_) return places;
     const auto fitting = isResized || !hasNew ? std::nullopt : FitIn(room, panes, places, isNew);
-    places = fitting ? *fitting : LayOut(room, panes);
+    places = fitting ? *fitting : LayOut(room, WantedWhole(panes, isNew));
     cost_ = CostOf(room, panes, places);
     return places;
 }

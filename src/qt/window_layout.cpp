@@ -36,6 +36,7 @@ void AddOutside(LayoutCost& cost, const Placed& window, const QRect& room) {
         ++(i == 0 ? cost.handlesHidden : cost.partsHidden);
     }
     cost.outside += AreaOf(window.rect) - AreaOf(window.rect & room);
+    if (window.pane->whole && !room.contains(window.rect)) ++cost.wholesOutside;
 }
 
 LayoutCost CostOf(const Placed& window, const std::vector<Placed>& others, const QRect& room) {
@@ -139,6 +140,7 @@ std::vector<Order> OrdersOf(const std::vector<Pane>& panes) {
 }  // namespace
 
 LayoutCost& LayoutCost::operator+=(const LayoutCost& other) {
+    wholesOutside += other.wholesOutside;
     handlesHidden += other.handlesHidden;
     partsHidden += other.partsHidden;
     handlesHideable += other.handlesHideable;

@@ -17,12 +17,14 @@ struct Pane {
     QRect wish;                 ///< Where it is to stand if it can.
     std::vector<QRect> needed;  ///< What has to be seen of it, from its upper left corner; first what it is moved by.
     bool fixed = false;         ///< It stands as it wishes, whatever that covers.
+    bool whole = false;         ///< It stands within the frame, whatever that covers, if there is room for it.
 
     bool operator==(const Pane&) const = default;
 };
 
 /// What it costs to have the windows stand so; the first that differs decides.
 struct LayoutCost {
+    int wholesOutside = 0;    ///< Windows beyond the frame that are to stand within.
     int handlesHidden = 0;    ///< As the windows lie above one another (`LiesUnder`).
     int partsHidden = 0;      ///< The same of other parts that have to be seen.
     qint64 outside = 0;       ///< Square pixels beyond the frame: no raising brings them back.

@@ -112,6 +112,15 @@ class ReachTest final : public TestOfProgram {
         QVERIFY(session.frame().findChild<QMdiArea*>()->viewport()->rect().contains(together.boundingRect()));
     }
 
+    /// Even where others have been given places, and nothing is left for it but to cover some.
+    void aWindowThatIsOpenedStandsInTheFrame() {
+        Session session(QSize(1100, 820));
+        session.Trigger("Arrange");
+        session.Trigger("User-Defined Locales");
+        const QRect place = session.Window(session.program.userLocales.form)->geometry();
+        QVERIFY(session.frame().findChild<QMdiArea*>()->viewport()->rect().contains(place));
+    }
+
     /// A month of fewer weeks makes its window lower, and one of more weeks higher again. A window that is opened fits
     /// in.
     void steppingAndOpeningMoveNoWindow() {
