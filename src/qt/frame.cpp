@@ -267,8 +267,19 @@ std::vector<QPoint> Frame::PlacesOf(const QSize& room, const std::vector<Child*>
     return places;
 }
 
+/// One that would come to others beyond the frame finds another place: it may never have stood there.
+void Frame::FreeComers(const std::vector<Child*>& open) {
+    if (std::ranges::none_of(open, &Child::stands)) return;
+    for (Child* child : open) {
+        const Position& place = child->form->position;
+        const QRect rect(QPoint(Rounded(place.left), Rounded(place.top)), child->window->size());
+        if (!child->stands && !area_->viewport()->rect().contains(rect)) child->form->positioned = false;
+    }
+}
+
 void Frame::PlaceAll() {
     const std::vector<Child*> open = OpenChildren();
+    FreeComers(open);
     std::vector<Pane> panes;
     for (const Child* child : open) panes.push_back(PaneOf(*child));
     const QSize room = area_->viewport()->size();

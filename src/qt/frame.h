@@ -88,6 +88,7 @@ class Frame final : public QMainWindow, public Acts {
     std::vector<Child*> OpenChildren();
     Pane PaneOf(const Child& child) const;
     std::vector<QPoint> PlacesOf(const QSize& room, const std::vector<Child*>& open, const std::vector<Pane>& panes);
+    void FreeComers(const std::vector<Child*>& open);
     void PlaceAll();
     void Stack(const std::vector<Child*>& open, const std::vector<QPoint>& places);
     void GrantFocus(Child& child);

@@ -112,13 +112,17 @@ class ReachTest final : public TestOfProgram {
         QVERIFY(session.frame().findChild<QMdiArea*>()->viewport()->rect().contains(together.boundingRect()));
     }
 
-    /// Even where others have been given places, and nothing is left for it but to cover some.
+    /// Even where others have been given places, and nothing is left for it but to cover some, or where it would have
+    /// stood beyond.
     void aWindowThatIsOpenedStandsInTheFrame() {
-        Session session(QSize(1100, 820));
-        session.Trigger("Arrange");
-        session.Trigger("User-Defined Locales");
-        const QRect place = session.Window(session.program.userLocales.form)->geometry();
-        QVERIFY(session.frame().findChild<QMdiArea*>()->viewport()->rect().contains(place));
+        for (const bool isBeyond : {false, true}) {
+            Session session(QSize(1100, 820));
+            QMdiSubWindow* window = session.Window(session.program.userLocales.form);
+            if (isBeyond) window->move(900, 300);
+            session.Trigger("Arrange");
+            session.Trigger("User-Defined Locales");
+            QVERIFY(session.frame().findChild<QMdiArea*>()->viewport()->rect().contains(window->geometry()));
+        }
     }
 
     /// A month of fewer weeks makes its window lower, and one of more weeks higher again. A window that is opened fits
