@@ -114,6 +114,11 @@ bool isWritingKey(int code) {
     return std::find(std::begin(keys), std::end(keys), code) != std::end(keys);
 }
 
+std::string NameOf(const Control& control) {
+    if (!control.spoken.empty()) return control.spoken;
+    return control.tooltip.starts_with("Click") ? "" : control.tooltip;
+}
+
 std::string AccessibleName(const Control& control) {
     if (dynamic_cast<const DayStrip*>(&control)) return control.text;
     const std::string words = hasWords(control.text) ? RemoveAmpersands(control.text) : "";
@@ -122,7 +127,7 @@ std::string AccessibleName(const Control& control) {
     if (isLabel && words.empty() && name.empty()) return control.form.text;
     if (name.empty()) return words.empty() ? control.name : words;
     const bool showsValue = isLabel && !words.empty();
-    if (showsValue) return name + ": " + words;
+    if (showsValue) return NameOf(control).empty() ? words : NameOf(control) + ": " + words;
     if (!control.spoken.empty()) return control.spoken;
     const bool hasCaption = dynamic_cast<const Button*>(&control) || dynamic_cast<const CheckBox*>(&control) ||
                             dynamic_cast<const OptionButton*>(&control) || dynamic_cast<const GroupBox*>(&control);

@@ -329,9 +329,13 @@ class MoonPicture final : public Control {
     Look look;
 };
 
-/// What a screen reader calls a control: its caption where that has words, and its name or tooltip, with the value
-/// behind it. A label that shows nothing is there to hold the focus, and bears the name of its window; a strip of the
-/// day speaks its sentence.
+/// What tells a control from others, beside what it shows: what is spoken of it, or its tooltip. Empty where that tells
+/// what a click does, which is no name.
+std::string NameOf(const Control& control);
+
+/// What a screen reader calls a control: its caption where that has words, and its name, with the value behind it. A
+/// label that shows nothing is there to hold the focus, and bears the name of its window; a strip of the day speaks its
+/// sentence.
 std::string AccessibleName(const Control& control);
 
 /// Where a window stands in the frame and how large it is, in twips, 15 to a pixel.

@@ -18,12 +18,6 @@ struct NamedValue {
     std::string Line() const { return (name.empty() ? "" : name + ": ") + text; }
 };
 
-/// A tooltip that tells what a click does is no name.
-std::string NameOf(const Control& control) {
-    if (!control.spoken.empty()) return control.spoken;
-    return control.tooltip.starts_with("Click") ? "" : control.tooltip;
-}
-
 void AddValue(std::vector<NamedValue>& values, const std::string& name, const std::string& text, const Control& from) {
     const std::string shown(Trimmed(RemoveAmpersands(text)));
     if (!shown.empty() && shown != name) values.push_back({name, shown, &from});

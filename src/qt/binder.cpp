@@ -76,6 +76,7 @@ bool Binder::isHeardWhileBusy(const QWidget* widget) const {
 }
 
 bool Binder::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() == QEvent::KeyRelease) NoteRelease(static_cast<QKeyEvent&>(*event));
     if (event->type() == QEvent::KeyPress) return KeyActed(watched, static_cast<QKeyEvent&>(*event));
     if (watched == &root_ && event->type() == QEvent::ContextMenu) {
         return MenuAsked(nullptr, static_cast<QContextMenuEvent&>(*event));
@@ -133,7 +134,7 @@ bool Binder::AskForKey(const Control* control, const QKeyEvent& event) {
     const bool isOwnSpace = controlAsked && code == KeySpace;  // in a field that has a use of its own for it
     const bool isWriting = dynamic_cast<const TextField*>(control) && (isWritingKey(code) || isOwnSpace);
     bool used = false;
-    KeyHeld = event.isAutoRepeat();
+    KeyHeld = isHeld(event);
     acts_.Run(
         [&, key = code, held = shift] {
             used = (controlAsked && control->KeyDown(key, held)) || (formAsked && form_.KeyDown(key, held));

@@ -1,8 +1,8 @@
 #include "qt/cell_grid_widget.h"
 
 #include "qt/face.h"
+#include "qt/spoken_role.h"
 
-#include <QAccessibleWidget>
 #include <QGridLayout>
 #include <QLabel>
 #include <QPainter>
@@ -80,16 +80,10 @@ void SetRetained(QWidget& widget, bool retained) {
     widget.setSizePolicy(policy);
 }
 
-/// Screen readers pass over a widget of no role, even one with the focus.
-QAccessibleInterface* Spoken(const QString&, QObject* object) {
-    auto* grid = qobject_cast<CellGridWidget*>(object);
-    return grid ? new QAccessibleWidget(grid, QAccessible::Grouping) : nullptr;
-}
-
 }  // namespace
 
 CellGridWidget::CellGridWidget(QWidget* parent) : LabelsWidget(parent), layout_(new QGridLayout(this)) {
-    QAccessible::installFactory(Spoken);
+    GiveRole<CellGridWidget, QAccessible::Grouping>();
     layout_->setContentsMargins(0, 0, 0, 0);
     layout_->setSpacing(2);
     setFocusPolicy(Qt::StrongFocus);

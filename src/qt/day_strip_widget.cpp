@@ -1,6 +1,7 @@
 #include "qt/day_strip_widget.h"
 
 #include "qt/face.h"
+#include "qt/spoken_role.h"
 
 #include <QHelpEvent>
 #include <QPainter>
@@ -19,6 +20,7 @@ constexpr Color noonColor{150, 110, 0};
 }  // namespace
 
 DayStripWidget::DayStripWidget(QWidget* parent) : QWidget(parent) {
+    GiveRole<DayStripWidget, QAccessible::Graphic>();
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
 }
 

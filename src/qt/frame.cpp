@@ -115,7 +115,8 @@ void Frame::Load(Form& form, std::unique_ptr<QWidget> content) {
 
 void Frame::LoadDialog(Form& form) { dialogs_.push_back(new FormDialog(form, *this, this)); }
 
-/// The line in the status bar is of the act before, unless this one tells something.
+/// The line in the status bar is of the act before, unless this one tells something. The press of a click, which leaves
+/// a field, and its release are one: what the field refused can be read.
 void Frame::Run(const std::function<void()>& act, ActKind kind) {
     if (!act || (busy_ && !kind.whileBusy)) return;
     if (++depth_ == 1) {
@@ -125,7 +126,9 @@ void Frame::Run(const std::function<void()>& act, ActKind kind) {
     }
     act();
     if (--depth_ > 0) return;
-    if (!toldStatus_) ShowStatus({});
+    const bool pressed = QGuiApplication::mouseButtons() != Qt::NoButton;
+    const bool ofThisClick = std::exchange(toldAtPress_, toldStatus_ && pressed);
+    if (!toldStatus_ && !ofThisClick) ShowStatus({});
     Draw();
 }
 
@@ -262,8 +265,19 @@ std::vector<QPoint> Frame::PlacesOf(const QSize& room, const std::vector<Child*>
     return places;
 }
 
+/// One that would come to others beyond the frame finds another place: it may never have stood there.
+void Frame::FreeComers(const std::vector<Child*>& open) {
+    if (std::ranges::none_of(open, &Child::stands)) return;
+    for (Child* child : open) {
+        const Position& place = child->form->position;
+        const QRect rect(QPoint(Rounded(place.left), Rounded(place.top)), child->window->size());
+        if (!child->stands && !area_->viewport()->rect().contains(rect)) child->form->positioned = false;
+    }
+}
+
 void Frame::PlaceAll() {
     const std::vector<Child*> open = OpenChildren();
+    FreeComers(open);
     std::vector<Pane> panes;
     for (const Child* child : open) panes.push_back(PaneOf(*child));
     const QSize room = area_->viewport()->size();

@@ -91,6 +91,7 @@ class Frame final : public QMainWindow, public Acts {
     std::vector<Child*> OpenChildren();
     Pane PaneOf(const Child& child) const;
     std::vector<QPoint> PlacesOf(const QSize& room, const std::vector<Child*>& open, const std::vector<Pane>& panes);
+    void FreeComers(const std::vector<Child*>& open);
     void PlaceAll();
     void Stack(const std::vector<Child*>& fromTop);
     void GrantFocus(Child& child);
@@ -104,7 +105,8 @@ class Frame final : public QMainWindow, public Acts {
     std::vector<FormDialog*> dialogs_;
     std::vector<std::pair<MenuItem*, QAction*>> actions_;
     ElidingLabel* status_;
-    bool toldStatus_ = false;  ///< During the present act.
+    bool toldStatus_ = false;   ///< During the present act.
+    bool toldAtPress_ = false;  ///< During the act before, while a button of the mouse was down.
     QPoint menuPlace_;
     LayoutCost cost_;
     QSize room_;  ///< In which the windows were placed last, and as what.

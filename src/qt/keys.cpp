@@ -2,6 +2,7 @@
 
 #include "core/controls.h"
 
+#include <QElapsedTimer>
 #include <QKeyEvent>
 #include <QKeySequence>
 
@@ -58,7 +59,21 @@ int CodeOf(const QKeyEvent& event) {
     return 0;
 }
 
+int releasedKey = 0;
+QElapsedTimer sinceRelease;
+
 }  // namespace
+
+void NoteRelease(const QKeyEvent& release) {
+    releasedKey = release.key();
+    sinceRelease.start();
+}
+
+bool isHeld(const QKeyEvent& press) {
+    constexpr int tooSoon = 20;  // milliseconds
+    const bool isLate = press.key() == releasedKey && sinceRelease.isValid() && !sinceRelease.hasExpired(tooSoon);
+    return press.isAutoRepeat() || isLate;
+}
 
 KeyPress KeyPressOf(const QKeyEvent& event) { return {CodeOf(event), ShiftOf(event.modifiers())}; }
 

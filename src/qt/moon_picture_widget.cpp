@@ -1,5 +1,7 @@
 #include "qt/moon_picture_widget.h"
 
+#include "qt/spoken_role.h"
+
 #include <QPainter>
 #include <QPainterPath>
 #include <QRadialGradient>
@@ -33,6 +35,7 @@ QPainterPath LitPart(double radius, double lit) {
 }  // namespace
 
 MoonPictureWidget::MoonPictureWidget(QWidget* parent) : QWidget(parent) {
+    GiveRole<MoonPictureWidget, QAccessible::Graphic>();
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Expanding);
 }
 

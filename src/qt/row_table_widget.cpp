@@ -58,6 +58,19 @@ void RowTableWidget::Draw(const RowTable& table) {
     for (std::size_t row = 0; row < rows_.size(); ++row) DrawRow(static_cast<int>(row), rows_[row]);
     FitColumns();
     if (hasFocus()) ShowCurrentRow();
+    SpeakRows();
+}
+
+/// The toolkit tells no screen reader of cells that change.
+void RowTableWidget::SpeakRows() {
+    QStringList lines;
+    for (const RowTable::Row& row : rows_) {
+        QStringList cells;
+        for (const std::string& cell : row.cells) cells << QString::fromStdString(cell);
+        lines << cells.join(QStringLiteral(", "));
+    }
+    const QString spoken = lines.join(QStringLiteral("; "));
+    if (accessibleDescription() != spoken) setAccessibleDescription(spoken);
 }
 
 /// In a narrow window they too break their lines, and leave the last one a third.

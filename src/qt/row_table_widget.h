@@ -39,6 +39,7 @@ class RowTableWidget final : public QTableWidget {
     void FitColumns();
     void ShowCurrentRow();
     void DrawRow(int row, const RowTable::Row& shown);
+    void SpeakRows();
 
     std::vector<RowTable::Row> rows_;  ///< As they stand in the widget.
     std::function<void(int row)> act_;

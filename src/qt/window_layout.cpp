@@ -36,6 +36,7 @@ void AddOutside(LayoutCost& cost, const Placed& window, const QRect& room) {
         ++(i == 0 ? cost.handlesHidden : cost.partsHidden);
     }
     cost.outside += AreaOf(window.rect) - AreaOf(window.rect & room);
+    if (window.pane->whole && !room.contains(window.rect)) ++cost.wholesOutside;
 }
 
 LayoutCost CostOf(const Placed& window, const std::vector<Placed>& others, const QRect& room) {
@@ -145,6 +146,7 @@ bool LayoutCost::hidesNoMoreNeededThan(const LayoutCost& other) const {
 }
 
 LayoutCost& LayoutCost::operator+=(const LayoutCost& other) {
+    wholesOutside += other.wholesOutside;
     handlesHidden += other.handlesHidden;
     partsHidden += other.partsHidden;
     handlesHideable += other.handlesHideable;
@@ -192,37 +194,24 @@ std::vector<QPoint> LayOut(const QSize& room, const std::vector<Pane>& panes) {
     return places;
 }
 
-namespace {
-
-QPoint MovedInside(const QSize& room, const QSize& size, const QPoint& place) {
-    return {std::max(0, std::min(place.x(), room.width() - size.width())),
-            std::max(0, std::min(place.y(), room.height() - size.height()))};
-}
-
-}  // namespace
-
 std::vector<QPoint> FitIn(const QSize& room, const std::vector<Pane>& panes, const std::vector<QPoint>& places,
                           const std::vector<bool>& seeks, bool othersMayMove) {
     Order order(panes.size());
     std::iota(order.begin(), order.end(), std::size_t{0});
     std::ranges::stable_partition(order, [&](std::size_t number) { return seeks[number]; });
-    std::vector<QPoint> fitting = places;
+    std::vector<QPoint> fitting(panes.size());
     for (const bool othersStay : {true, false}) {
         std::vector<Pane> fromTop;
         for (const std::size_t number : order) {
             fromTop.push_back(panes[number]);
             fromTop.back().wish.moveTo(places[number]);
             fromTop.back().fixed = panes[number].fixed || (othersStay && !seeks[number]);
+            fromTop.back().whole = seeks[number];
         }
         const std::vector<QPoint> found = LayOut(room, fromTop);
+        for (std::size_t i = 0; i < order.size(); ++i) fitting[order[i]] = found[i];
         const LayoutCost cost = CostOf(room, fromTop, found);
-        const bool fits = cost.handlesHidden == 0 && cost.outside == 0;
-        for (std::size_t i = 0; i < order.size(); ++i) {
-            const std::size_t number = order[i];
-            const bool giveUp = !fits && !othersMayMove && !fromTop[i].fixed;
-            fitting[number] = giveUp ? MovedInside(room, panes[number].wish.size(), places[number]) : found[i];
-        }
-        if (fits || !othersMayMove) break;
+        if (!othersMayMove || (cost.handlesHidden == 0 && cost.outside == 0)) break;
     }
     return fitting;
 }

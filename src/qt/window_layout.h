@@ -16,12 +16,14 @@ struct Pane {
     QRect wish;                 ///< Where it is to stand if it can.
     std::vector<QRect> needed;  ///< What has to be seen of it, from its upper left corner; first what it is moved by.
     bool fixed = false;         ///< It stands as it wishes, whatever that covers.
+    bool whole = false;         ///< It stands within the frame, whatever that covers, if there is room for it.
 
     bool operator==(const Pane&) const = default;
 };
 
 /// What it costs to have the windows stand so; the first that differs decides.
 struct LayoutCost {
+    int wholesOutside = 0;    ///< Windows beyond the frame that are to stand within.
     int handlesHidden = 0;    ///< As the windows lie above one another (`LiesUnder`).
     int partsHidden = 0;      ///< The same of other parts that have to be seen.
     qint64 outside = 0;       ///< Square pixels beyond the frame: no raising brings them back.
@@ -48,8 +50,8 @@ bool LiesUnder(std::size_t window, const QPoint& place, std::size_t other, const
 /// of what has to be seen, least of all what a window is moved by.
 std::vector<QPoint> LayOut(const QSize& room, const std::vector<Pane>& panes);
 
-/// Finds places for windows that seek one, above the others, from the places that are given. Where one of them would
-/// hide what a window is moved by, or leave the frame, the others move if they may; if not, it is kept in the frame.
+/// Finds places within the frame for windows that seek one, above the others, from the places that are given. The
+/// others move, if they may, where one of these would hide what a window is moved by.
 std::vector<QPoint> FitIn(const QSize& room, const std::vector<Pane>& panes, const std::vector<QPoint>& places,
                           const std::vector<bool>& seeks, bool othersMayMove);
 

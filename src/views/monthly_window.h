@@ -52,11 +52,11 @@ class MonthlyWindow {
     // clang-format off
     Form form{"Monthly", "Month"};
     TextField ThisYear{form, "ThisYear", Tip("Change using  +/-  or up/down arrow  keys, Shift x10, Ctrl x100, both x1000"), Widest("-10000"), Named("Year")};
-    UpDown ChangeByYear{form, "ChangeByYear", Tip("Click to change Year (+Shift=by Decades, +Ctrl=by Centuries, +Ctrl+Shift=by Millennia)")};
+    UpDown ChangeByYear{form, "ChangeByYear", Tip("Click to change Year (+Shift=by Decades, +Ctrl=by Centuries, +Ctrl+Shift=by Millennia)"), Named("Year")};
     ChoiceList MonthNames{form, "MonthNames", Tip("Choose the desired month")};
     ChoiceList Calendars{form, "Calendars", Tip("Choose the desired calendar")};
-    Button PrevMonth{form, "PrevMonth", Caption("<"), Tip("Click to go back to the previous month")};
-    Button NextMonth{form, "NextMonth", Caption(">"), Tip("Click to advance to the next month")};
+    Button PrevMonth{form, "PrevMonth", Caption("<"), Named("Previous month"), Tip("Click to go back to the previous month")};
+    Button NextMonth{form, "NextMonth", Caption(">"), Named("Next month"), Tip("Click to advance to the next month")};
     Button Layout{form, "Layout", Tip("Click to change month layout"), Widest("&Across")};
     CellGrid Days{form, "Days", Tip("Days of the month"), Widest("W53-7")};
     // clang-format on

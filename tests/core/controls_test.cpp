@@ -33,6 +33,7 @@ TEST(AccessibleName, SaysWhatASignDoesNot) {
     EXPECT_EQ(AccessibleName(Button(form, "Info", Caption("&Info"), Tip("Click here"))), "Info");
     EXPECT_EQ(AccessibleName(Button(form, "Back", Caption("<<"), Tip("Back a week"))), "Back a week");
     EXPECT_EQ(AccessibleName(Label(form, "Date", Caption("May 1"), Tip("The date"))), "The date: May 1");
+    EXPECT_EQ(AccessibleName(Label(form, "Cycle", Caption("1st year"), Tip("Click to copy"))), "1st year");
     EXPECT_EQ(AccessibleName(TextField(form, "Day", Caption("739000"), Tip("Days since"))), "Days since");
 }
 

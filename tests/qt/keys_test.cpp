@@ -100,6 +100,15 @@ class KeysTest final : public TestOfProgram {
         QVERIFY(Settings().contains("TimeAstro/Top="));
     }
 
+    /// Even where none of the presses is told to be a repeat.
+    void aHeldKeyCountsAsOneOnTheWayBack() {
+        Session session;
+        const Moment before = DisplayedMoment;
+        for (int repeat = 0; repeat < 3; ++repeat) session.Press(Qt::Key_Up);
+        session.Trigger("Back");
+        QCOMPARE(DisplayedMoment, before);
+    }
+
     void repeatsOfAHeldKeyWaitForThePaint() {
         Session session;
         const Moment before = DisplayedMoment;

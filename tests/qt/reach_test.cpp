@@ -3,6 +3,7 @@
 #include "session.h"
 
 #include <QAction>
+#include <QCheckBox>
 #include <QClipboard>
 #include <QContextMenuEvent>
 #include <QLabel>
@@ -111,6 +112,19 @@ class ReachTest final : public TestOfProgram {
         QVERIFY(session.frame().findChild<QMdiArea*>()->viewport()->rect().contains(together.boundingRect()));
     }
 
+    /// Even where others have been given places, and nothing is left for it but to cover some, or where it would have
+    /// stood beyond.
+    void aWindowThatIsOpenedStandsInTheFrame() {
+        for (const bool isBeyond : {false, true}) {
+            Session session(QSize(1100, 820));
+            QMdiSubWindow* window = session.Window(session.program.userLocales.form);
+            if (isBeyond) window->move(900, 300);
+            session.Trigger("Arrange");
+            session.Trigger("User-Defined Locales");
+            QVERIFY(session.frame().findChild<QMdiArea*>()->viewport()->rect().contains(window->geometry()));
+        }
+    }
+
     /// A month of fewer weeks makes its window lower, and one of more weeks higher again. A window that is opened fits
     /// in.
     void steppingAndOpeningMoveNoWindow() {
@@ -187,6 +201,11 @@ class ReachTest final : public TestOfProgram {
         QTest::keyClicks(session.Find<QLineEdit>("FixedDayNum"), QStringLiteral("abc"));
         session.Press(Qt::Key_Return);
         QCOMPARE(status->text(), QStringLiteral("abc is not a day number"));
+        QTest::keyClicks(session.Find<QLineEdit>("FixedDayNum"), QStringLiteral("abd"));
+        QTest::mouseClick(session.Find<QCheckBox>("UseElevation"), Qt::LeftButton);
+        QVERIFY(status->text().endsWith(QStringLiteral("abd is not a day number")));
+        QTest::mouseClick(session.Find<QCheckBox>("UseElevation"), Qt::LeftButton);
+        QCOMPARE(status->text(), QString());
     }
 
     void informationIsReadInAWindow() {
