@@ -219,6 +219,7 @@ void Horvanta::MenuExit_Click() {
 void Horvanta::QuitWithoutSavePrefs_Click() { CurrentDesktop->End(); }
 
 void Horvanta::ResetPrefsAndQuit_Click() {
+    if (userLocales.isDirty() == YesNoCancel::Cancel) return;
     Save(places.UserRows());
     DeleteAllPrefs();
     CloseAndEnd();

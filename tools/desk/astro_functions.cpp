@@ -120,6 +120,7 @@ std::vector<DeskFunction> AstroFunctions() {
         PlaceRow("lunar::Bearing", lunar::Bearing),
         Row("lunar::Phase", lunar::Phase),
         Row("lunar::Diameter", lunar::Diameter),
+        Row("lunar::HorizonLift", lunar::HorizonLift),
         Row("lunar::LitFraction", lunar::LitFraction),
         Row("lunar::BrightLimbAngle", lunar::BrightLimbAngle),
         PlaceRow("lunar::ParallacticAngle", lunar::ParallacticAngle),
