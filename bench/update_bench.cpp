@@ -52,6 +52,8 @@ BENCHMARK(SolarUpdate)->Name("UpdateStatus without Moon");
 BENCHMARK(TimeUpdate)->Name("UpdateStatus, Time window");
 BENCHMARK(Strip)->Name("strip of the day");
 
+// The Time window and the calendars of the Sun keep the bound that they had when a longitude took five times as many
+// sines. Those of the Moon and the Hebrew window came later.
 const RatioClaim claim({"UpdateStatus", "SolarLongitude", 225});
 const RatioClaim solarClaim({"UpdateStatus without Moon", "SolarLongitude", 90});
 const RatioClaim timeClaim({"UpdateStatus, Time window", "SolarLongitude", 90});

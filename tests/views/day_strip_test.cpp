@@ -62,7 +62,8 @@ TEST_F(DayStripTest, TellsWhereTheSunIs) {
     EXPECT_EQ(shown(0).tooltip, "Sun up all day");
     for (const int i : {0, 1, 3, 4, 5, 7, 8}) EXPECT_EQ(shown(i).text, "never") << i;
     for (const int i : {2, 6}) EXPECT_NE(shown(i).text, "never") << i;
-    EXPECT_TRUE(fields.DayLight.text.starts_with("Light of the day: daylight all day. At 08:00, Sun ")) << fields.DayLight.text;
+    EXPECT_TRUE(fields.DayLight.text.starts_with("Light of the day: daylight all day. At 08:00, Sun "))
+        << fields.DayLight.text;
     EXPECT_EQ(fields.ClockLabel.text, "Clock time, UT-04:00");
     EXPECT_FALSE(fields.UseElevation.enabled);
 }
