@@ -18,9 +18,9 @@ constexpr int padding = 4;  // pixels about the text of a cell, within which its
 
 /// A day of the month. The displayed one has a border, within a frame in the highlight colour while the grid has the
 /// focus; that of today is underlined.
-class DayLabel final : public QLabel {
+class DayLabel final : public RoomLabel {
   public:
-    explicit DayLabel(QWidget* parent) : QLabel(parent) {
+    explicit DayLabel(QWidget* parent) : RoomLabel(parent) {
         setTextFormat(Qt::PlainText);
         setAlignment(Qt::AlignCenter);
         setAutoFillBackground(true);

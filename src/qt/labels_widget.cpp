@@ -1,11 +1,15 @@
 #include "qt/labels_widget.h"
 
-#include <QLabel>
 #include <QMouseEvent>
 
 #include <algorithm>
 
 namespace horvanta {
+
+QSize RoomLabel::minimumSizeHint() const {
+    const int frame = 2 * (margin() + frameWidth());
+    return {frame, fontMetrics().height() + frame};
+}
 
 QLabel* LabelsWidget::MakeLabel() {
     auto* label = new QLabel(this);
@@ -15,7 +19,8 @@ QLabel* LabelsWidget::MakeLabel() {
 
 QLabel* LabelsWidget::MakePanel() {
     constexpr int padding = 2;  // pixels between its frame and its text
-    QLabel* panel = MakeLabel();
+    auto* panel = new RoomLabel(this);
+    panel->setTextFormat(Qt::PlainText);
     panel->setAlignment(Qt::AlignCenter);
     panel->setFrameStyle(QFrame::StyledPanel | QFrame::Sunken);
     panel->setMargin(padding);
@@ -27,7 +32,7 @@ void LabelsWidget::KeepRoomIn(const std::vector<QLabel*>& labels, const QString&
     QLabel& last = *labels.back();
     const QString shown = last.text();
     last.setText(widest);
-    const int width = last.sizeHint().width();
+    const int width = last.QLabel::sizeHint().width();
     last.setText(shown);
     for (QLabel* label : labels) label->setMinimumWidth(width);
 }

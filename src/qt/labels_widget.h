@@ -1,14 +1,22 @@
 #pragma once
 
+#include <QLabel>
 #include <QWidget>
 
 #include <cstddef>
 #include <functional>
 #include <vector>
 
-class QLabel;
-
 namespace horvanta {
+
+/// A line of text in the room that is kept for it. Other labels lay a text out three times before it is painted.
+class RoomLabel : public QLabel {
+  public:
+    using QLabel::QLabel;
+
+    QSize sizeHint() const override { return minimumSizeHint(); }
+    QSize minimumSizeHint() const override;
+};
 
 /// A widget whose parts are labels that can be clicked.
 class LabelsWidget : public QWidget {
@@ -16,7 +24,8 @@ class LabelsWidget : public QWidget {
     using QWidget::QWidget;
 
   protected:
-    /// A label that shows its text as it is, or a framed one with the text in the middle. It is no part yet.
+    /// A label that shows its text as it is, or one with the text in the middle of a frame and of the room that is
+    /// kept. It is no part yet.
     QLabel* MakeLabel();
     QLabel* MakePanel();
 
