@@ -354,7 +354,8 @@ def fill(folder, spare):
             rest.append(f"{most} {len(rest)}")
             write(b"x")(rest[-1])
     for path in rest[-1 - spare:]:
-        os.remove(path)
+        with contextlib.suppress(FileNotFoundError):  # the last may not have found room for its name
+            os.remove(path)
     return [most, *rest[:-1 - spare]]
 
 
