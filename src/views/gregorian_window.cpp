@@ -80,7 +80,7 @@ void GregorianWindow::Update() {
 }
 
 void GregorianWindow::ShowGregorianDate(const horvanta::GregorianDate& date) {
-    const std::vector<DayText> day = CivilDays(date);
+    const std::vector<DayText> day = CivilDaysOf(date.fixed);
     const std::string dateText = GregorianDateString(date);
     GregorianDate.text = dateText + " ";
     const DayText holiday = HolidayOf(day);

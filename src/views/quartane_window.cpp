@@ -133,7 +133,7 @@ void QuartaneWindow::Update() {
     ShowOptions();
     ShowDate(date);
     const std::string dateText = QuaDateString(date);
-    const std::vector<DayText> day = CivilDays(date);
+    const std::vector<DayText> day = quartane::CivilDaysOf(date.fixed);
     colors.MarkDate(MarkOf(KindOf(day)));
     day_events::AddAll(CalendarName(), dateText, TextsOf(day), QuartaneDateBox);
     day_events::AddAll(CalendarName(), dateText, EventsOf(date), QuartaneDateBox);

@@ -1,6 +1,8 @@
 #include "astro/sun.h"
 
 #include "astro/local_time.h"
+#include "astro/lunar_phases.h"
+#include "astro/moon.h"
 #include "astro/timescales.h"
 #include "astro/year_dates.h"
 #include "calendars/gregorian.h"
@@ -71,6 +73,39 @@ TEST(SameLongitudeYearsLater, FindsTheLongitudeNearTheTime) {
             EXPECT_NEAR(Ahead(SolarLongitude(found) - SolarLongitude(t), years * 360), 0, 3e-5) << t << ", " << years;
             EXPECT_NEAR(found - t, years * 365.2422, 5) << t << ", " << years;
         }
+    }
+}
+
+/// What is remembered depends on Delta T, on the numbering and on nothing else.
+TEST(Sun, NeverAnswersFromAStaleMemo) {
+    using Question = double (*)(Moment);
+    const std::pair<const char*, Question> angles[] = {
+        {"longitude", [](Moment x) { return SolarLongitude(x); }},
+        {"nutation", [](Moment x) { return Nutation(x); }},
+        {"season", [](Moment x) { return SeasonMoment(FixedToGregorianYear(x), 0) - x; }},
+        {"new moon", [](Moment x) { return NthNewMoon(ApproxNthMoon(x)) - x; }},
+        {"equation of time", [](Moment x) { return EquationOfTime(x); }},
+        {"lunar longitude", lunar::Longitude},
+        {"lunar latitude", lunar::Latitude},
+        {"lunar distance", lunar::Distance},
+        {"lunar declination", lunar::Declination},
+    };
+    const double sinceEpoch = 700000.25;
+    const Moment x = GregorianEpoch + sinceEpoch;
+    const double slow = DeltaT(x, 86400);
+    for (const auto& [name, ask] : angles) {
+        const double before = ask(x);
+        SetDeltaTDisabled(true);
+        EXPECT_NE(ask(x), before) << name;
+        EXPECT_NEAR(ask(x + slow), before, 1e-4) << name;
+        SetDeltaTDisabled(false);
+        EXPECT_EQ(ask(x), before) << name;
+        for (const double day : {730487.0, -1721424.0}) {
+            SetFixedDayEpoch(day, 1, "test");
+            EXPECT_NE(ask(x), before) << name << ", " << day;
+            EXPECT_NEAR(ask(GregorianEpoch + sinceEpoch), before, 1e-4) << name << ", " << day;
+        }
+        SetFixedDayEpoch(GregorianEpoch, 1, "rata die");
     }
 }
 

@@ -2,8 +2,6 @@
 
 #include "app/all_options.h"
 #include "astro/crescents.h"
-#include "astro/local_time.h"
-#include "astro/lunar_phases.h"
 #include "astro/moon.h"
 #include "astro/moon_events.h"
 #include "astro/sun.h"
@@ -11,7 +9,6 @@
 #include "astro/timescales.h"
 #include "calendars/civil_days.h"
 #include "calendars/easter.h"
-#include "calendars/gregorian.h"
 #include "calendars/persian.h"
 #include "calendars/quartane_leap_rules.h"
 #include "core/text.h"
@@ -37,10 +34,7 @@ struct Remembered {
 
 const Remembered functions[] = {
     {"Sun", [](Moment x) { return ExactText(SolarLongitude(x)); }},
-    {"season", [](Moment x) { return ExactText(SeasonMoment(FixedToGregorianYear(x), 0)); }},
-    {"equation of time", [](Moment x) { return ExactText(EquationOfTime(x)); }},
     {"Moon", [](Moment x) { return ExactText(lunar::Declination(x)) + ExactText(lunar::Distance(x)); }},
-    {"new moon", [](Moment x) { return ExactText(NthNewMoon(ApproxNthMoon(x))); }},
     {"dawn", [](Moment x) { return ExactText(Dawn(x, 6)); }},
     {"dusk", [](Moment x) { return ExactText(Dusk(x, SunDepression())); }},
     {"moonrise", [](Moment x) { return ExactText(Moonrise(x)); }},
